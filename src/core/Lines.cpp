@@ -1,0 +1,49 @@
+#include "core/Lines.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "core/Text.h"
+
+namespace kestrel {
+namespace {
+
+std::size_t Find(std::string_view bytes, char wanted, std::size_t from) {
+  const void* found = from < bytes.size() ? std::memchr(bytes.data() + from, wanted, bytes.size() - from) : nullptr;
+  return found ? static_cast<std::size_t>(static_cast<const char*>(found) - bytes.data()) : bytes.size();
+}
+
+bool IsPlainAscii(std::string_view line) {
+  return std::all_of(line.begin(), line.end(), [](char c) { return c > 0; });
+}
+
+}  // namespace
+
+LineReader::LineReader(std::string_view bytes) : bytes_(bytes) {
+  if (bytes_.starts_with("\xEF\xBB\xBF")) bytes_.remove_prefix(3);
+  nextLineFeed_ = Find(bytes_, '\n', 0);
+  nextCarriageReturn_ = Find(bytes_, '\r', 0);
+}
+
+std::optional<std::string_view> LineReader::NextBytes() {
+  if (AtEnd()) return std::nullopt;
+  if (nextLineFeed_ < position_) nextLineFeed_ = Find(bytes_, '\n', position_);
+  if (nextCarriageReturn_ < position_) nextCarriageReturn_ = Find(bytes_, '\r', position_);
+
+  const std::size_t end = std::min(nextLineFeed_, nextCarriageReturn_);
+  const std::string_view line = bytes_.substr(position_, end - position_);
+  const bool pair = end == nextCarriageReturn_ && nextLineFeed_ == end + 1;
+  position_ = end + (pair ? 2 : 1);
+  ++lineNumber_;
+  return line;
+}
+
+std::optional<std::string_view> LineReader::Next() {
+  const std::optional<std::string_view> line = NextBytes();
+  if (!line || IsPlainAscii(*line)) return line;
+  mended_ = IsUtf8(*line) ? std::string(*line) : FromLatin1(*line);
+  std::replace(mended_.begin(), mended_.end(), '\0', ' ');
+  return mended_;
+}
+
+}  // namespace kestrel

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace kestrel {
+
+/// Walks over the lines of a file's bytes.
+///
+/// A line ends at CR LF, LF or CR; the last one may lack its end, and a UTF-8 byte-order mark at the front
+/// is passed over. A file that ends in a line end has no further, empty line behind it.
+class LineReader {
+ public:
+  /// The bytes must outlive the reader.
+  explicit LineReader(std::string_view bytes);
+
+  /// The next line as text: NUL bytes are blanks, and a line that is not UTF-8 is taken as Latin-1. The view
+  /// holds until the next call. Nothing at the end of the file.
+  std::optional<std::string_view> Next();
+
+  /// The next line as it stands, for readers that look at ASCII only.
+  std::optional<std::string_view> NextBytes();
+
+  bool AtEnd() const { return position_ >= bytes_.size(); }
+
+  /// Number of the line read last, counted from 1; 0 before the first.
+  int LineNumber() const { return lineNumber_; }
+
+ private:
+  std::string_view bytes_;
+  std::size_t position_ = 0;
+  std::size_t nextLineFeed_ = 0;        // at or behind position_, bytes_.size() when there is no more
+  std::size_t nextCarriageReturn_ = 0;  // likewise
+  int lineNumber_ = 0;
+  std::string mended_;  // the line that Next() had to change
+};
+
+}  // namespace kestrel

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace kestrel {
+
+/// A colour as 0x00BBGGRR: 255 is red, 16711680 blue, 16777215 white.
+using ColorValue = std::int32_t;
+
+/// The settings of the running program. `main` owns the one instance and hands it to every window; part of it
+/// is kept between runs in the last-session file. The member values here are those of a first start.
+struct SessionState {
+  // Kept in the last-session file, in its order.
+  float CurrentFrequency = 620;  ///< channel shown, kHz
+  std::string HomeName = "Plano   TX";
+  float HomeLatitude = 33.24278F;   ///< degrees, north positive
+  float HomeLongitude = 96.54139F;  ///< degrees, west positive
+  float PatternSize = 0.5F;         ///< relative size of the drawn patterns, 0.02 to 2 (saved: to 1)
+  float ScaleFactor = 200;          ///< twips per 75 km of ground, 50 to 10000 (saved: from 100)
+  std::int16_t DistanceUnit = 0;    ///< 0 kilometres, 1 statute miles
+  ColorValue DayColor = 65280;
+  ColorValue NightColor = 0;
+  ColorValue UnlimitedColor = 255;
+  ColorValue CriticalColor = 16776960;
+  ColorValue AdjacentColor = 208931;
+  std::string MapLanguage;  ///< "en", "fr" or "es"; empty until the options have been opened once
+  float AspectRatio = 1;    ///< widens pattern outlines; twips are square, so 1 keeps a circle round
+
+  /// Colours of further adjacent channels; not saved.
+  std::array<ColorValue, 3> FurtherAdjacentColors = {16711680, 16711680, 16711680};
+
+  // Of this run only.
+  std::string ProgramVersion = "3.06";
+  std::string SessionFileName = "Kestrel.CFG";
+  float PreviousFrequency = 0;         ///< kHz, what a bad entry falls back to
+  float SelectedFrequency = 0;         ///< kHz, the channel drawn in the colours of its hours; 0: none chosen yet
+  std::int16_t AdjacentsShown = 0;     ///< 1 when the first adjacent channels are drawn too
+  std::int16_t HoursFilter = 0;        ///< 0 all, 1 day and critical, 2 night and critical
+  std::int16_t CompassShown = 0;       ///< 1 when the compass is drawn over the map
+  std::int16_t PlotAllStations = 0;    ///< 1 when the whole-band scan was chosen
+  bool StopRequested = true;           ///< false only while the whole-band scan runs
+  std::vector<std::string> CityList;   ///< lines of "Kestrel.lst"
+  std::vector<std::string> CallList;   ///< lines of "StationsCall.DAT"
+};
+
+}  // namespace kestrel

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+// Text is UTF-8 throughout. Lengths and columns count characters (code points), never bytes.
+
+namespace kestrel {
+
+/// Without the blanks (U+0020) at both ends.
+std::string_view Trim(std::string_view text);
+
+/// Whether the bytes are well-formed UTF-8 (RFC 3629: no overlong form, no surrogate, at most U+10FFFF).
+bool IsUtf8(std::string_view bytes);
+
+/// Each byte taken as the character of that number (ISO 8859-1).
+std::string FromLatin1(std::string_view bytes);
+
+std::size_t CharacterCount(std::string_view text);
+
+/// The characters of columns `first` to `first + width - 1`, columns counted from 1. Columns behind the end
+/// of the text give nothing, so the result may be shorter than `width` or empty.
+std::string_view Columns(std::string_view text, std::size_t first, std::size_t width);
+
+/// Blanks added until the text is `width` characters long; a longer text stays as it is.
+std::string PadTo(std::string text, std::size_t width);
+
+/// Capital letters for the small ones of ASCII and Latin-1 (ñ, é, ...); everything else as it stands.
+std::string UpperCase(std::string_view text);
+
+/// Whether the two are the same but for the case of ASCII letters.
+bool EqualIgnoringCase(std::string_view a, std::string_view b);
+
+}  // namespace kestrel

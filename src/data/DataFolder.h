@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <optional>
+#include <string_view>
+
+#include "core/Result.h"
+#include "core/SessionState.h"
+
+namespace kestrel {
+
+/// The folder that holds the station, outline and list files and "Kestrel.CFG". It keeps a path and nothing
+/// else: every call reads the disk.
+class DataFolder {
+ public:
+  explicit DataFolder(QString path);
+
+  const QString& Path() const { return path_; }
+
+  /// The file's whole content, found whatever the case of its name; the exact name wins over another case.
+  /// `Error::file` is the name asked for.
+  Result<QByteArray> Read(const QString& name) const;
+
+  bool Has(const QString& name) const;
+
+  /// Replaces the file as a whole, or leaves the old one whole. A name already there in another case is kept.
+  Result<Done> Write(const QString& name, std::string_view bytes) const;
+
+  /// The line of "Stations.txt" that says where the station data come from; empty when there is none.
+  std::string StationsLine() const;
+
+ private:
+  std::optional<QString> Find(const QString& name) const;
+
+  QString path_;
+};
+
+/// The folder to work in: `wanted` when it is not empty; else the current folder when it holds "REGION2.dat";
+/// else the user's data folder, filled from the data that came with the program when it holds no "REGION2.dat".
+/// Errors: the wanted folder is not there, the user's folder cannot be made or filled.
+Result<DataFolder> LocateDataFolder(const QString& wanted);
+
+/// Copies the data that came with the program into `folder`, never over a file that is there.
+Result<Done> FillDataFolder(const QString& folder);
+
+/// "1230x.dat" for the channel of 1230 kHz.
+QString StationFileName(float frequency);
+
+/// Reads "Kestrel.CFG" into `state` as ReadSession does; a missing or unreadable file is a first start.
+void LoadSession(const DataFolder& folder, SessionState& state);
+
+/// Writes "Kestrel.CFG" with today's date in the system's short form.
+Result<Done> SaveSession(const DataFolder& folder, SessionState& state);
+
+}  // namespace kestrel

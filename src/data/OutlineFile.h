@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+// The map outline files "REGION2.dat" and "STATES.dat". docs/formats/outline-files.md describes them.
+
+namespace kestrel {
+
+/// The polylines of an outline file.
+struct Outline {
+  std::vector<float> Latitude;          ///< degrees, north positive
+  std::vector<float> Longitude;         ///< degrees EAST, as the file holds them, 0 to 360
+  std::vector<std::size_t> PenUpBefore; ///< ascending; no line is drawn to the vertex of that index (its size: at the end)
+};
+
+/// Whether lines that begin with > < ! * ' / or \ are passed over, or read as vertices like any other.
+enum class CommentLines { Skip, Read };
+
+/// Reads vertices up to the end mark -2000 or the end of the file. Empty lines are skipped; a vertex of
+/// -100 -100 is a pen-up mark. A malformed number reads as its leading part or 0.
+Outline ReadOutline(std::string_view bytes, CommentLines comments = CommentLines::Read);
+
+}  // namespace kestrel

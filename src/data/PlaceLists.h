@@ -1,0 +1,39 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// The city list "Kestrel.lst" and the call-sign index "StationsCall.DAT": one entry a line, fixed columns.
+// docs/formats/place-lists.md describes them.
+
+namespace kestrel {
+
+inline constexpr std::size_t MaxCities = 3400;
+inline constexpr std::size_t MaxCalls = 9000;
+
+/// The lines that are not empty, in file order; nothing when there are more than `most`.
+std::optional<std::vector<std::string>> ReadPlaceList(std::string_view bytes, std::size_t most);
+
+/// An entry of either list, its fields cut by position.
+struct Place {
+  std::string CallSign;       ///< first 8 characters of a call-sign entry; empty for a city
+  std::string Name;           ///< city and state with the blanks between them, as it becomes `HomeName`
+  std::string LatitudeText;   ///< as the columns hold it
+  std::string LongitudeText;  ///< as the columns hold it
+};
+
+Place CutCity(std::string_view line);
+Place CutCall(std::string_view line);
+
+/// A position as home takes it.
+struct HomePosition {
+  float Latitude = 0;   ///< -88 to 88 degrees
+  float Longitude = 0;  ///< 30 to 170 degrees, west positive
+};
+
+/// Reads both texts as typed numbers, drops the longitude's sign and applies the limits.
+HomePosition ReadHomePosition(std::string_view latitude, std::string_view longitude);
+
+}  // namespace kestrel

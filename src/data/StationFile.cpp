@@ -1,0 +1,98 @@
+#include "data/StationFile.h"
+
+#include "core/Numbers.h"
+#include "core/Text.h"
+#include "core/TextFields.h"
+
+namespace kestrel {
+namespace {
+
+float Number(std::string_view text) { return static_cast<float>(LeadingNumber(text)); }
+
+}  // namespace
+
+bool IsStationLine(std::string_view line) { return !line.empty() && line.front() >= '1' && line.front() <= '9'; }
+
+StationLine CutStationLine(std::string_view line) {
+  const auto next = [&line] { return NextField(line).value_or(std::string_view{}); };
+  StationLine fields;
+  for (std::string_view* field : {&fields.Frequency, &fields.CallSign, &fields.City, &fields.State, &fields.Country,
+                                  &fields.HoursCode, &fields.Latitude, &fields.Longitude, &fields.PowerKW})
+    *field = next();
+  next();  // two fields that carry nothing
+  next();
+  fields.TowerCount = next();
+  return fields;
+}
+
+void CutTowerLine(std::string_view line, int tower, StationRecord& record) {
+  const auto next = [&line] { return NextField(line).value_or(std::string_view{}); };
+  const auto i = static_cast<std::size_t>(tower);
+  record.Switch[i] = next();
+  record.Fields[i] = Number(next());
+  record.Heights[i] = Number(next());
+  record.Phases[i] = Number(next());
+  record.Spacings[i] = Number(next());
+  record.Bearings[i] = Number(next());
+}
+
+double StoreStationLine(const StationLine& line, StationRecord& record) {
+  record.CallSign = Trim(line.CallSign);
+  record.City = Trim(line.City);
+  record.State = Trim(line.State);
+  record.Country = Trim(line.Country);
+  record.HoursCode = Trim(line.HoursCode);
+  record.Latitude = Number(line.Latitude);
+  record.Longitude = Number(line.Longitude);
+  record.PowerKW = Number(line.PowerKW);
+  const double towers = RoundToWhole(LeadingNumber(line.TowerCount));
+  record.TowerCount = towers >= 0 && towers <= MaxTowers ? static_cast<std::int16_t>(towers) : std::int16_t{0};
+  return towers;
+}
+
+StationFileReader::StationFileReader(std::string name, std::string_view bytes) : name_(std::move(name)), lines_(bytes) {}
+
+StationRecord* StationFileReader::Next() {
+  while (const auto line = lines_.Next()) {
+    if (!IsStationLine(*line)) {
+      if (!skipping_ && !Trim(*line).empty()) {
+        Note("not a station line, which begins with the channel");
+        skipping_ = true;
+      }
+      continue;
+    }
+    skipping_ = false;
+    const double towers = StoreStationLine(CutStationLine(*line), record_);
+    if (towers < 0 || towers > MaxTowers) {
+      Note(NumberText(static_cast<float>(towers)) + (towers < 0 ? " towers, at least 0" : " towers, at most 12"));
+      skipping_ = true;
+      continue;
+    }
+    return ReadTowers() ? &record_ : nullptr;
+  }
+  return nullptr;
+}
+
+bool StationFileReader::ReadTowers() {
+  for (int tower = 1; tower <= record_.TowerCount; ++tower) {
+    const auto line = lines_.Next();
+    if (!line) {
+      Note("the file ends before the last of " + std::to_string(record_.TowerCount) + " towers");
+      return false;
+    }
+    CutTowerLine(*line, tower, record_);
+  }
+  return true;
+}
+
+void StationFileReader::Note(const std::string& text) {
+  notes_.push_back(name_ + ':' + std::to_string(lines_.LineNumber()) + ": " + text);
+}
+
+std::optional<StationLine> StationLineReader::Next() {
+  while (const auto line = lines_.Next())
+    if (IsStationLine(*line)) return CutStationLine(*line);
+  return std::nullopt;
+}
+
+}  // namespace kestrel

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "core/SessionState.h"
+
+namespace kestrel {
+
+/// A place on the sheet, in twips (1440 to the inch), x to the right, y downwards.
+struct Point {
+  float x = 0;
+  float y = 0;
+  bool operator==(const Point&) const = default;
+};
+
+enum class FontFace { Sans, SansBold, Serif, Fixed };
+
+/// A face and its size in points of the sheet (20 twips to the point).
+struct Font {
+  FontFace Face = FontFace::Sans;
+  float Points = 10;
+  bool operator==(const Font&) const = default;
+};
+
+/// How wide and high text is on the sheet.
+class TextMeasure {
+ public:
+  virtual ~TextMeasure() = default;
+  virtual float TextWidth(const Font& font, std::string_view text) const = 0;  ///< twips
+  virtual float TextHeight(const Font& font) const = 0;                        ///< twips, one line
+};
+
+/// A station's mark on the map: what a group of drawing belongs to, and what the mouse can point at.
+struct StationMark {
+  Point At;
+  int Channel = 0;  ///< kHz
+  std::string CallSign;
+  std::string HoursCode;
+};
+
+/// What every figure is drawn on: the screen, a picture, paper, a file, a list. Coordinates are twips. The
+/// colour, line width and font set last hold for what follows; a canvas begins with black, 1 and Sans 10.
+class Canvas {
+ public:
+  virtual ~Canvas() = default;
+
+  virtual void SetColor(ColorValue color) = 0;
+  virtual void SetLineWidth(float width) = 0;  ///< in pixels of an ordinary screen, whatever the scale
+  virtual void SetFont(const Font& font) = 0;
+
+  virtual void Line(Point from, Point to) = 0;
+  virtual void Polyline(std::span<const Point> points) = 0;
+  virtual void Polygon(std::span<const Point> points) = 0;  ///< a closed outline, not filled
+  virtual void Circle(Point center, float radius) = 0;
+  virtual void FilledCircle(Point center, float radius) = 0;
+  virtual void Box(Point corner, Point opposite) = 0;
+  virtual void FilledBox(Point corner, Point opposite) = 0;
+  virtual void Dot(Point at) = 0;                              ///< a single point, one pixel
+  virtual void Text(Point topLeft, std::string_view text) = 0;  ///< one line, UTF-8
+
+  virtual float TextWidth(std::string_view text) const = 0;  ///< twips, in the font set last
+  virtual float TextHeight() const = 0;                      ///< twips, in the font set last
+
+  /// What is drawn up to EndStation belongs to the station. Stations do not nest.
+  virtual void BeginStation(const StationMark& mark) = 0;
+  virtual void EndStation() = 0;
+
+  /// What is drawn up to EndPanel is one piece around `anchor`: where its text, of the font given, would come
+  /// out too small to read, the whole piece grows away from the anchor. Panels do not nest.
+  virtual void BeginPanel(Point anchor, const Font& smallest) = 0;
+  virtual void EndPanel() = 0;
+
+  /// Discards what has been drawn.
+  virtual void Clear() = 0;
+};
+
+}  // namespace kestrel

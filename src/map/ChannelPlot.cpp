@@ -1,0 +1,119 @@
+#include "map/ChannelPlot.h"
+
+#include <array>
+#include <cmath>
+#include <unordered_set>
+
+#include "core/Geodesy.h"
+#include "core/Numbers.h"
+#include "data/StationFile.h"
+
+namespace kestrel {
+namespace {
+
+constexpr float kUnknownRadius = 30;
+constexpr float kLabelLeft = 60;
+constexpr float kLabelAbove = 210;
+constexpr Font kLabelFont = {FontFace::Sans, 8};
+constexpr Font kMapFont = {FontFace::Sans, 10};
+
+/// Draws one channel's records; holds what lasts from record to record.
+class ChannelPlotter {
+ public:
+  ChannelPlotter(Canvas& canvas, const SessionState& state, const MapProjection& projection, float plotFrequency)
+      : canvas_(canvas),
+        state_(state),
+        projection_(projection),
+        plotFrequency_(plotFrequency),
+        adjacent_(state.AdjacentsShown == 1 && plotFrequency != state.SelectedFrequency) {}
+
+  void Draw(StationRecord& record) {
+    if (!PassesHoursFilter(record.HoursCode, state_.HoursFilter)) return;
+    const std::optional<Point> at = projection_.Station(record.Latitude, record.Longitude);
+    if (!at) return;
+    const bool known = record.TowerCount > 0 && ComputePattern(record, values_);
+    ChooseStyle(record.HoursCode);
+
+    canvas_.BeginStation({*at, static_cast<int>(plotFrequency_), record.CallSign, record.HoursCode});
+    canvas_.SetColor(style_.Color);
+    if (!known) {
+      canvas_.FilledCircle(*at, kUnknownRadius);
+    } else if (style_.Factor == 0) {
+      canvas_.Dot(*at);
+    } else {
+      DrawPattern(canvas_, state_, *at, style_, values_);
+    }
+    DrawLabel(record, *at);
+    canvas_.EndStation();
+  }
+
+ private:
+  /// An hours code that is none of the four keeps the colour of the record before it.
+  void ChooseStyle(const std::string& hoursCode) {
+    if (hoursCode == "N") style_ = {state_.NightColor, 0.96F};
+    else if (hoursCode == "C") style_ = {state_.CriticalColor, 0.98F};
+    else if (hoursCode == "D") style_ = {state_.DayColor, 1.0F};
+    else if (hoursCode == "U") style_ = {state_.UnlimitedColor, 1.02F};
+    else style_.Factor = 0;
+    if (adjacent_) style_.Color = state_.AdjacentColor;
+  }
+
+  /// The second record of a station would print the same text on the same spot.
+  void DrawLabel(const StationRecord& record, Point at) {
+    const std::string place = NumberText(at.x) + ' ' + NumberText(at.y);
+    if (!labelled_.insert(record.CallSign + ' ' + place).second) return;
+    canvas_.SetFont(kLabelFont);
+    canvas_.Text({at.x - kLabelLeft, at.y - kLabelAbove}, NumberText(plotFrequency_) + ' ' + record.CallSign);
+    canvas_.SetFont(kMapFont);
+  }
+
+  Canvas& canvas_;
+  const SessionState& state_;
+  const MapProjection& projection_;
+  const float plotFrequency_;
+  const bool adjacent_;
+  PatternValues values_{};
+  PatternStyle style_;
+  std::unordered_set<std::string> labelled_;
+};
+
+}  // namespace
+
+bool PassesHoursFilter(const std::string& hoursCode, int hoursFilter) {
+  if (hoursCode == "U" || hoursFilter == 0) return true;
+  if (hoursFilter == 1) return hoursCode == "D" || hoursCode == "C";
+  if (hoursFilter == 2) return hoursCode == "N" || hoursCode == "C";
+  return false;
+}
+
+void DrawPattern(Canvas& canvas, const SessionState& state, Point station, const PatternStyle& style,
+                 const PatternValues& values) {
+  const double size = double{style.Factor} * state.PatternSize * state.ScaleFactor;
+  std::array<Point, 180> outline;
+  for (std::size_t i = 0; i < outline.size(); ++i) {
+    // The outline stands one degree anticlockwise of the values, as it always has.
+    const std::size_t azimuth = 2 * i + 1;
+    const double bearing = static_cast<double>(azimuth - 1) / DegreesPerRadian;
+    const double magnitude = values[azimuth];
+    outline[i] = Clamped({static_cast<float>(station.x + state.AspectRatio * size * std::sin(bearing) * magnitude),
+                          static_cast<float>(station.y - size * std::cos(bearing) * magnitude)});
+  }
+  canvas.Polygon(outline);
+}
+
+ChannelOutcome PlotChannel(Canvas& canvas, const DataFolder& folder, const SessionState& state,
+                           const MapProjection& projection, float plotFrequency) {
+  if (!(plotFrequency >= LowestChannel && plotFrequency <= HighestChannel)) return {};
+  const QString name = StationFileName(plotFrequency);
+  const Result<QByteArray> bytes = folder.Read(name);
+  if (!bytes) return {true, {bytes.error().Message()}};
+
+  canvas.SetLineWidth(1);
+  canvas.SetFont(kMapFont);
+  ChannelPlotter plotter(canvas, state, projection, plotFrequency);
+  StationFileReader reader(name.toStdString(), {bytes->constData(), static_cast<std::size_t>(bytes->size())});
+  while (StationRecord* record = reader.Next()) plotter.Draw(*record);
+  return {false, reader.Notes()};
+}
+
+}  // namespace kestrel

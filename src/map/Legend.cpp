@@ -1,0 +1,104 @@
+#include "map/Legend.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "core/Numbers.h"
+#include "core/Text.h"
+
+namespace kestrel {
+namespace {
+
+constexpr Font kLegendFont = {FontFace::Sans, 10};
+constexpr ColorValue kWhite = 0xFFFFFF;
+constexpr ColorValue kBannerColor = 0xFFFFEE;
+constexpr ColorValue kTextColor = 0x202020;
+constexpr float kTextLeft = 500;
+constexpr float kBoxLeft = 200;
+constexpr float kMargin = 200;  // between a text's end and its box's
+
+struct LegendLine {
+  float Top;
+  ColorValue Color;
+  std::string Text;
+};
+
+/// A white box under lines of text, at least `right` wide.
+void DrawLines(Canvas& canvas, float top, float bottom, float right, std::span<const LegendLine> lines) {
+  for (const LegendLine& line : lines) right = std::max(right, kTextLeft + canvas.TextWidth(line.Text) + kMargin);
+  canvas.SetColor(kWhite);
+  canvas.FilledBox({kBoxLeft, top}, {right, bottom});
+  for (const LegendLine& line : lines) {
+    canvas.SetColor(line.Color);
+    canvas.Text({kTextLeft, line.Top}, line.Text);
+  }
+}
+
+void DrawScales(Canvas& canvas, const SessionState& state) {
+  constexpr float kTop = 8780;
+  constexpr float kPatternLeft = 1700;
+  static constexpr std::array kSetNames = {"all", "day & crit", "night & crit"};
+  const auto filter = static_cast<std::size_t>(std::clamp<int>(state.HoursFilter, 0, 2));
+  const std::string map = "Map:" + MapScaleText(state.ScaleFactor);
+  const std::string pattern = "Pattern:" + PatternScaleText(state.PatternSize) + "  " + kSetNames[filter];
+  const float patternLeft = std::max(kPatternLeft, kTextLeft + canvas.TextWidth(map) + kMargin / 2);
+
+  canvas.SetColor(kWhite);
+  canvas.FilledBox({kBoxLeft, 8800}, {std::max(3200.0F, patternLeft + canvas.TextWidth(pattern) + kMargin), 9400});
+  canvas.SetColor(kTextColor);
+  canvas.Text({kTextLeft, kTop}, map);
+  canvas.Text({patternLeft, kTop}, pattern);
+}
+
+/// The integer part of a thousandfold, so three decimals cut off.
+std::string Thousandths(double value) { return NumberText(static_cast<float>(std::floor(value * 1000) / 1000)); }
+
+}  // namespace
+
+std::string MapScaleText(float scaleFactor) { return std::string(Columns(Thousandths(scaleFactor / 156.25), 1, 7)); }
+
+std::string PatternScaleText(float patternSize) { return std::string(Columns(Thousandths(patternSize / 0.25), 1, 7)); }
+
+void DrawLegend(Canvas& canvas, const SessionState& state) {
+  const float frequency = state.SelectedFrequency > 0 ? state.SelectedFrequency : state.CurrentFrequency;
+  const std::array hours = {LegendLine{6860, state.AdjacentColor, "Adjacents"}, LegendLine{7100, state.UnlimitedColor, "Unlimited"},
+                            LegendLine{7340, state.DayColor, "Daytime"}, LegendLine{7580, state.CriticalColor, "Critical"},
+                            LegendLine{7820, state.NightColor, "Nighttime"}};
+  const std::array places = {
+      LegendLine{8060, kTextColor, "Frequency: " + NumberText(frequency) + " kHz"},
+      LegendLine{8300, kTextColor, "Home Lat: " + NumberText(state.HomeLatitude) + "    Home Lon: " + NumberText(state.HomeLongitude)},
+      LegendLine{8540, kTextColor, "Home:  " + state.HomeName}};
+
+  canvas.BeginPanel({kBoxLeft, 9400}, kLegendFont);
+  canvas.SetFont(kLegendFont);
+  DrawLines(canvas, 6800, 8080, 1900, hours);
+  DrawLines(canvas, 8080, 8800, 4500, places);
+  DrawScales(canvas, state);
+  canvas.EndPanel();
+}
+
+void DrawHoursBanner(Canvas& canvas, int hoursFilter) {
+  if (hoursFilter != 1 && hoursFilter != 2) return;
+  const std::string text = hoursFilter == 1 ? "    Day, critical & unlimited only" : "    Night, critical & unlimited only";
+  canvas.BeginPanel({1230, 30}, kLegendFont);
+  canvas.SetFont(kLegendFont);
+  canvas.SetColor(kBannerColor);
+  canvas.FilledBox({1230, 30}, {std::max(4600.0F, 1230 + canvas.TextWidth(text) + kMargin), 360});
+  canvas.SetColor(kTextColor);
+  canvas.Text({1230, 60}, text);
+  canvas.EndPanel();
+}
+
+void DrawMissingFileNotice(Canvas& canvas, float frequency) {
+  const std::string text = "    No station file for " + NumberText(frequency) + " kHz";
+  canvas.BeginPanel({1230, 30}, kLegendFont);
+  canvas.SetFont(kLegendFont);
+  canvas.SetColor(kBannerColor);
+  canvas.FilledBox({1230, 400}, {std::max(4600.0F, 1230 + canvas.TextWidth(text) + kMargin), 730});
+  canvas.SetColor(kTextColor);
+  canvas.Text({1230, 430}, text);
+  canvas.EndPanel();
+}
+
+}  // namespace kestrel

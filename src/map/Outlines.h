@@ -1,0 +1,21 @@
+#pragma once
+
+#include "data/DataFolder.h"
+#include "data/OutlineFile.h"
+#include "map/Canvas.h"
+#include "map/MapProjection.h"
+
+// The coasts and borders of the main map, and the mark of home.
+
+namespace kestrel {
+
+/// Joins the outline's vertices on the canvas in its present colour. The pen is lifted at pen-up marks, where
+/// a vertex has no position, and where two vertices lie more than 2000 twips apart in x or y, so that a line
+/// which leaves the map or wraps is not drawn across it.
+void DrawOutline(Canvas& canvas, const Outline& outline, const MapProjection& projection);
+
+/// Draws "STATES.dat", the home mark and "REGION2.dat", each in its colour. A file that cannot be read draws
+/// nothing.
+void DrawOutlineFiles(Canvas& canvas, const DataFolder& folder, const MapProjection& projection);
+
+}  // namespace kestrel

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "map/Canvas.h"
+
+// The sheet that the main map is drawn on, in twips. Home stands at a fixed place of it.
+
+namespace kestrel {
+
+inline constexpr float SheetWidth = 12000;
+inline constexpr float SheetHeight = 9500;
+inline constexpr Point HomeOnSheet = {6000, 4500};
+
+/// No coordinate lies farther out; places beyond are drawn at this limit.
+inline constexpr float CoordinateLimit = 30000;
+
+/// The point with both coordinates limited to -30000 to 30000.
+Point Clamped(Point point);
+
+/// Where the sheet lies on a surface: scaled uniformly to fit, centred; what the surface shows beyond the
+/// sheet's edge shows more of the map.
+struct SheetFit {
+  float Scale = 1;  ///< surface units per twip
+  float Left = 0;   ///< of the sheet's left edge, in surface units
+  float Top = 0;
+
+  Point ToSurface(Point sheet) const { return {Left + sheet.x * Scale, Top + sheet.y * Scale}; }
+  Point ToSheet(Point surface) const { return {(surface.x - Left) / Scale, (surface.y - Top) / Scale}; }
+};
+
+/// Fits a sheet of the given size (twips) to a surface. REQUIRES: all lengths above 0.
+SheetFit FitSheet(float surfaceWidth, float surfaceHeight, float sheetWidth = SheetWidth, float sheetHeight = SheetHeight);
+
+}  // namespace kestrel
