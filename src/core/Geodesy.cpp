@@ -7,7 +7,9 @@ namespace kestrel {
 namespace {
 
 /// Rounds to single, where a step of the computation stores its value.
-float Single(double value) { return static_cast<float>(value); }
+float Single(double value) {
+  return static_cast<float>(value);
+}
 
 }  // namespace
 
@@ -28,7 +30,8 @@ GreatCircleResult GreatCircle(float lat1, float lon1, float lon2, float lat2) {
       Single(std::sin(phi1) * std::sin(phi2) + std::cos(phi2) * std::cos(phi1) * std::cos(lambda2 - lambda1));
   const double arc = Single(ArcCosine(cosArc));
   double cosBearing = 0;
-  if (arc != 0) cosBearing = Single((std::sin(phi2) - cosArc * std::sin(phi1)) / (std::sin(arc) * std::cos(phi1)));
+  if (arc != 0)
+    cosBearing = Single((std::sin(phi2) - cosArc * std::sin(phi1)) / (std::sin(arc) * std::cos(phi1)));
   const double bearing = Single(ArcCosine(std::clamp(cosBearing, -1.0, 1.0)));
 
   GreatCircleResult result;

@@ -9,7 +9,8 @@ namespace kestrel {
 namespace {
 
 std::size_t Find(std::string_view bytes, char wanted, std::size_t from) {
-  const void* found = from < bytes.size() ? std::memchr(bytes.data() + from, wanted, bytes.size() - from) : nullptr;
+  const void* found =
+      from < bytes.size() ? std::memchr(bytes.data() + from, wanted, bytes.size() - from) : nullptr;
   return found ? static_cast<std::size_t>(static_cast<const char*>(found) - bytes.data()) : bytes.size();
 }
 

@@ -11,15 +11,17 @@
 namespace kestrel {
 namespace {
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
 
 /// A decimal number as it stands in the text: digits times ten to the exponent.
 struct Decimal {
   bool negative = false;
-  std::string_view text;        // from the first digit or point to the last character that belongs to it
-  std::uint64_t digits = 0;     // the first 19 significant ones
-  int significant = 0;          // how many there are in all
-  long long exponent = 0;       // of the last digit counted in `digits`
+  std::string_view text;     // from the first digit or point to the last character that belongs to it
+  std::uint64_t digits = 0;  // the first 19 significant ones
+  int significant = 0;       // how many there are in all
+  long long exponent = 0;    // of the last digit counted in `digits`
 };
 
 /// Reads the exponent behind a mantissa; returns the offset behind it, `at` when there is none.
@@ -30,7 +32,8 @@ std::size_t ReadExponent(std::string_view text, std::size_t at, long long& expon
   if (i < text.size() && (text[i] == '+' || text[i] == '-')) ++i;
   if (i >= text.size() || !IsDigit(text[i])) return at;
   long long value = 0;
-  for (; i < text.size() && IsDigit(text[i]); ++i) value = std::min(value * 10 + (text[i] - '0'), 1'000'000'000LL);
+  for (; i < text.size() && IsDigit(text[i]); ++i)
+    value = std::min(value * 10 + (text[i] - '0'), 1'000'000'000LL);
   exponent += negative ? -value : value;
   return i;
 }
@@ -64,8 +67,9 @@ Decimal ReadDecimal(std::string_view text) {
   return decimal;
 }
 
-constexpr std::array<double, 23> kPowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
-                                                 1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+constexpr std::array<double, 23> kPowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                                 1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+                                                 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 
 /// Correctly rounded; limited to the largest single.
 double Magnitude(const Decimal& decimal) {
@@ -77,22 +81,37 @@ double Magnitude(const Decimal& decimal) {
                                 : digits * kPowersOfTen[static_cast<std::size_t>(decimal.exponent)];
   }
   double value = 0;
-  const auto [end, error] = std::from_chars(decimal.text.data(), decimal.text.data() + decimal.text.size(), value);
-  if (error == std::errc::result_out_of_range) value = decimal.exponent > 0 ? std::numeric_limits<double>::max() : 0;
+  const auto [end, error] =
+      std::from_chars(decimal.text.data(), decimal.text.data() + decimal.text.size(), value);
+  if (error == std::errc::result_out_of_range)
+    value = decimal.exponent > 0 ? std::numeric_limits<double>::max() : 0;
   return value;
 }
 
 /// Multiplier of an engineering suffix; 0 for a character that is none.
 double SuffixMultiplier(char c) {
   switch (c) {
-    case 'P': case 'p': return 1e-12;
-    case 'N': case 'n': return 1e-9;
-    case 'U': case 'u': return 1e-6;
-    case 'm': return 0.001;
-    case 'K': case 'k': return 1000;
-    case 'M': return 1e6;
-    case 'G': case 'g': return 1e9;
-    default: return 0;
+    case 'P':
+    case 'p':
+      return 1e-12;
+    case 'N':
+    case 'n':
+      return 1e-9;
+    case 'U':
+    case 'u':
+      return 1e-6;
+    case 'm':
+      return 0.001;
+    case 'K':
+    case 'k':
+      return 1000;
+    case 'M':
+      return 1e6;
+    case 'G':
+    case 'g':
+      return 1e9;
+    default:
+      return 0;
   }
 }
 
@@ -157,8 +176,8 @@ std::string FormatNumber(float value) {
 std::string NumberText(float value) {
   std::array<char, 64> buffer;
   // Scientific notation gives the shortest digits, "d.ddde+xx"; they are then set out in ordinary form.
-  const auto [end, error] =
-      std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::abs(value), std::chars_format::scientific);
+  const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::abs(value),
+                                          std::chars_format::scientific);
   const std::string_view scientific(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
   const std::size_t mark = scientific.find('e');
   std::string digits(1, scientific[0]);
@@ -167,7 +186,8 @@ std::string NumberText(float value) {
 
   int exponent = 0;
   const bool signWritten = scientific[mark + 1] == '+';
-  std::from_chars(scientific.data() + mark + (signWritten ? 2 : 1), scientific.data() + scientific.size(), exponent);
+  std::from_chars(scientific.data() + mark + (signWritten ? 2 : 1), scientific.data() + scientific.size(),
+                  exponent);
   const int whole = exponent + 1;  // digits before the point
   if (whole <= 0) {
     digits.insert(0, "." + std::string(static_cast<std::size_t>(-whole), '0'));
@@ -184,10 +204,16 @@ std::string SignedNumberText(float value) {
   return text.front() == '-' ? text : ' ' + text;
 }
 
-std::string DisplayNumberText(float value) { return SignedNumberText(value) + ' '; }
+std::string DisplayNumberText(float value) {
+  return SignedNumberText(value) + ' ';
+}
 
-float TruncateToTenth(double value) { return static_cast<float>(std::floor(value * 10) * 0.1); }
+float TruncateToTenth(double value) {
+  return static_cast<float>(std::floor(value * 10) * 0.1);
+}
 
-double RoundToWhole(double value) { return std::nearbyint(value); }
+double RoundToWhole(double value) {
+  return std::nearbyint(value);
+}
 
 }  // namespace kestrel

@@ -10,11 +10,11 @@ namespace kestrel {
 /// Why a file could not be read, written or understood.
 struct Error {
   enum class Kind {
-    NotFound,    ///< there is no such file
-    NotAFile,    ///< a folder, a pipe or a device stands in the file's place
-    Refused,     ///< the system would not open, read or write it
-    TooLarge,    ///< longer than the reader's limit
-    Malformed,   ///< read, but not what it should be
+    NotFound,   ///< there is no such file
+    NotAFile,   ///< a folder, a pipe or a device stands in the file's place
+    Refused,    ///< the system would not open, read or write it
+    TooLarge,   ///< longer than the reader's limit
+    Malformed,  ///< read, but not what it should be
   };
 
   Kind kind = Kind::Refused;

@@ -37,7 +37,8 @@ class ValueReader {
   template <typename Whole>
   Whole Rounded(float value) {
     const double rounded = RoundToWhole(value);
-    if (rounded < std::numeric_limits<Whole>::min() || rounded > std::numeric_limits<Whole>::max()) throw Overflow{};
+    if (rounded < std::numeric_limits<Whole>::min() || rounded > std::numeric_limits<Whole>::max())
+      throw Overflow{};
     return static_cast<Whole>(rounded);
   }
 
@@ -74,7 +75,9 @@ void LimitView(SessionState& state) {
 
 void FillUnsetColors(SessionState& state) {
   const SessionState defaults;
-  const auto fill = [](ColorValue& color, ColorValue value) { if (color == 0) color = value; };
+  const auto fill = [](ColorValue& color, ColorValue value) {
+    if (color == 0) color = value;
+  };
   fill(state.DayColor, defaults.DayColor);
   fill(state.NightColor, defaults.NightColor);
   fill(state.UnlimitedColor, defaults.UnlimitedColor);
@@ -110,7 +113,8 @@ void FallBack(SessionState& state) {
 
 /// Text in one line, whatever it holds.
 std::string OneLine(std::string text) {
-  std::replace_if(text.begin(), text.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
+  std::replace_if(
+      text.begin(), text.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
   return text;
 }
 

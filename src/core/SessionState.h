@@ -35,15 +35,15 @@ struct SessionState {
   // Of this run only.
   std::string ProgramVersion = "3.06";
   std::string SessionFileName = "Kestrel.CFG";
-  float PreviousFrequency = 0;         ///< kHz, what a bad entry falls back to
-  float SelectedFrequency = 0;         ///< kHz, the channel drawn in the colours of its hours; 0: none chosen yet
-  std::int16_t AdjacentsShown = 0;     ///< 1 when the first adjacent channels are drawn too
-  std::int16_t HoursFilter = 0;        ///< 0 all, 1 day and critical, 2 night and critical
-  std::int16_t CompassShown = 0;       ///< 1 when the compass is drawn over the map
-  std::int16_t PlotAllStations = 0;    ///< 1 when the whole-band scan was chosen
-  bool StopRequested = true;           ///< false only while the whole-band scan runs
-  std::vector<std::string> CityList;   ///< lines of "Kestrel.lst"
-  std::vector<std::string> CallList;   ///< lines of "StationsCall.DAT"
+  float PreviousFrequency = 0;  ///< kHz, what a bad entry falls back to
+  float SelectedFrequency = 0;  ///< kHz, the channel drawn in the colours of its hours; 0: none chosen yet
+  std::int16_t AdjacentsShown = 0;    ///< 1 when the first adjacent channels are drawn too
+  std::int16_t HoursFilter = 0;       ///< 0 all, 1 day and critical, 2 night and critical
+  std::int16_t CompassShown = 0;      ///< 1 when the compass is drawn over the map
+  std::int16_t PlotAllStations = 0;   ///< 1 when the whole-band scan was chosen
+  bool StopRequested = true;          ///< false only while the whole-band scan runs
+  std::vector<std::string> CityList;  ///< lines of "Kestrel.lst"
+  std::vector<std::string> CallList;  ///< lines of "StationsCall.DAT"
 };
 
 }  // namespace kestrel

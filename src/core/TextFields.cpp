@@ -18,8 +18,14 @@ std::optional<std::string_view> CutField(std::string_view& line, char separator)
 
 }  // namespace
 
-std::optional<std::string_view> NextField(std::string_view& line) { return CutField(line, ','); }
-std::optional<std::string_view> NextWord(std::string_view& line) { return CutField(line, ' '); }
-std::optional<std::string_view> NextBlankField(std::string_view& line) { return CutField(line, ' '); }
+std::optional<std::string_view> NextField(std::string_view& line) {
+  return CutField(line, ',');
+}
+std::optional<std::string_view> NextWord(std::string_view& line) {
+  return CutField(line, ' ');
+}
+std::optional<std::string_view> NextBlankField(std::string_view& line) {
+  return CutField(line, ' ');
+}
 
 }  // namespace kestrel

@@ -26,7 +26,9 @@ QString BundledData() {
 }
 
 /// Notes of the project, not data.
-bool IsData(const QString& name) { return !name.endsWith(".md"); }
+bool IsData(const QString& name) {
+  return !name.endsWith(".md");
+}
 
 }  // namespace
 
@@ -35,7 +37,8 @@ DataFolder::DataFolder(QString path) : path_(std::move(path)) {}
 std::optional<QString> DataFolder::Find(const QString& name) const {
   const QDir dir(path_);
   if (QFileInfo::exists(dir.filePath(name))) return dir.filePath(name);
-  const QStringList names = dir.entryList(QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+  const QStringList names =
+      dir.entryList(QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
   for (const QString& other : names)
     if (other.compare(name, Qt::CaseInsensitive) == 0) return dir.filePath(other);
   return std::nullopt;
@@ -47,7 +50,9 @@ Result<QByteArray> DataFolder::Read(const QString& name) const {
   return ReadFile(*path);
 }
 
-bool DataFolder::Has(const QString& name) const { return Find(name).has_value(); }
+bool DataFolder::Has(const QString& name) const {
+  return Find(name).has_value();
+}
 
 Result<Done> DataFolder::Write(const QString& name, std::string_view bytes) const {
   return WriteFile(Find(name).value_or(QDir(path_).filePath(name)), bytes);
@@ -76,19 +81,23 @@ Result<DataFolder> LocateDataFolder(const QString& wanted) {
 
 Result<Done> FillDataFolder(const QString& folder) {
   if (!QDir().mkpath(folder))
-    return Error{Error::Kind::Refused, folder.toStdString(), 0, "the folder for the station data cannot be made"};
+    return Error{Error::Kind::Refused, folder.toStdString(), 0,
+                 "the folder for the station data cannot be made"};
   const QDir from(BundledData());
   for (const QString& name : from.entryList(QDir::Files, QDir::Name)) {
     if (!IsData(name) || DataFolder(folder).Has(name)) continue;
     const Result<QByteArray> bytes = ReadFile(from.filePath(name));
     if (!bytes) return bytes.error();
-    const Result<Done> written = WriteFile(QDir(folder).filePath(name), {bytes->constData(), static_cast<std::size_t>(bytes->size())});
+    const Result<Done> written =
+        WriteFile(QDir(folder).filePath(name), {bytes->constData(), static_cast<std::size_t>(bytes->size())});
     if (!written) return written.error();
   }
   return Done{};
 }
 
-QString StationFileName(float frequency) { return QString::fromStdString(NumberText(frequency)) + "x.dat"; }
+QString StationFileName(float frequency) {
+  return QString::fromStdString(NumberText(frequency)) + "x.dat";
+}
 
 void LoadSession(const DataFolder& folder, SessionState& state) {
   const Result<QByteArray> bytes = folder.Read(kSessionFile);

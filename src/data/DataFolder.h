@@ -37,8 +37,8 @@ class DataFolder {
 };
 
 /// The folder to work in: `wanted` when it is not empty; else the current folder when it holds "REGION2.dat";
-/// else the user's data folder, filled from the data that came with the program when it holds no "REGION2.dat".
-/// Errors: the wanted folder is not there, the user's folder cannot be made or filled.
+/// else the user's data folder, filled from the data that came with the program when it holds no
+/// "REGION2.dat". Errors: the wanted folder is not there, the user's folder cannot be made or filled.
 Result<DataFolder> LocateDataFolder(const QString& wanted);
 
 /// Copies the data that came with the program into `folder`, never over a file that is there.

@@ -18,7 +18,8 @@ Result<QByteArray> ReadFile(const QString& path, qint64 largest) {
   if (!info.exists()) return Failure(path, Error::Kind::NotFound, "there is no such file");
   if (!info.isFile()) return Failure(path, Error::Kind::NotAFile, "is a folder or a device, not a file");
   const auto tooLarge = [&] {
-    return Failure(path, Error::Kind::TooLarge, QString("is larger than %1 MB, the most that is read").arg(largest >> 20));
+    return Failure(path, Error::Kind::TooLarge,
+                   QString("is larger than %1 MB, the most that is read").arg(largest >> 20));
   };
   if (info.size() > largest) return tooLarge();
 
@@ -32,7 +33,8 @@ Result<QByteArray> ReadFile(const QString& path, qint64 largest) {
 
 Result<Done> WriteFile(const QString& path, std::string_view bytes) {
   const QFileInfo info(path);
-  if (info.exists() && !info.isFile()) return Failure(path, Error::Kind::NotAFile, "is a folder or a device, not a file");
+  if (info.exists() && !info.isFile())
+    return Failure(path, Error::Kind::NotAFile, "is a folder or a device, not a file");
   QSaveFile file(path);
   const auto length = static_cast<qint64>(bytes.size());
   if (!file.open(QIODevice::WriteOnly) || file.write(bytes.data(), length) != length || !file.commit())

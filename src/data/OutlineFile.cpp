@@ -20,7 +20,8 @@ Outline ReadOutline(std::string_view bytes, CommentLines comments) {
   while (const auto next = lines.Next()) {
     std::string_view line = Trim(*next);
     if (line.empty()) continue;
-    if (comments == CommentLines::Skip && kCommentSigns.find(line.front()) != std::string_view::npos) continue;
+    if (comments == CommentLines::Skip && kCommentSigns.find(line.front()) != std::string_view::npos)
+      continue;
     if (LeadingNumber(line) == kEndMark) break;
     const auto latitude = static_cast<float>(LeadingNumber(NextBlankField(line).value_or("")));
     const auto longitude = static_cast<float>(LeadingNumber(NextBlankField(line).value_or("")));

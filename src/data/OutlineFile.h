@@ -10,9 +10,10 @@ namespace kestrel {
 
 /// The polylines of an outline file.
 struct Outline {
-  std::vector<float> Latitude;          ///< degrees, north positive
-  std::vector<float> Longitude;         ///< degrees EAST, as the file holds them, 0 to 360
-  std::vector<std::size_t> PenUpBefore; ///< ascending; no line is drawn to the vertex of that index (its size: at the end)
+  std::vector<float> Latitude;   ///< degrees, north positive
+  std::vector<float> Longitude;  ///< degrees EAST, as the file holds them, 0 to 360
+  std::vector<std::size_t>
+      PenUpBefore;  ///< ascending; no line is drawn to the vertex of that index (its size: at the end)
 };
 
 /// Whether lines that begin with > < ! * ' / or \ are passed over, or read as vertices like any other.

@@ -21,16 +21,18 @@ std::optional<std::vector<std::string>> ReadPlaceList(std::string_view bytes, st
 }
 
 Place CutCity(std::string_view line) {
-  return {"", std::string(Columns(line, 12, 26)), std::string(Columns(line, 38, 9)), std::string(Columns(line, 48, 9))};
+  return {"", std::string(Columns(line, 12, 26)), std::string(Columns(line, 38, 9)),
+          std::string(Columns(line, 48, 9))};
 }
 
 Place CutCall(std::string_view line) {
-  return {std::string(Columns(line, 1, 8)), std::string(Columns(line, 15, 25)), std::string(Trim(Columns(line, 54, 9))),
-          std::string(Trim(Columns(line, 64, 9)))};
+  return {std::string(Columns(line, 1, 8)), std::string(Columns(line, 15, 25)),
+          std::string(Trim(Columns(line, 54, 9))), std::string(Trim(Columns(line, 64, 9)))};
 }
 
 HomePosition ReadHomePosition(std::string_view latitude, std::string_view longitude) {
-  return {std::clamp(ParseNumber(latitude), -88.0F, 88.0F), std::clamp(std::abs(ParseNumber(longitude)), 30.0F, 170.0F)};
+  return {std::clamp(ParseNumber(latitude), -88.0F, 88.0F),
+          std::clamp(std::abs(ParseNumber(longitude)), 30.0F, 170.0F)};
 }
 
 }  // namespace kestrel

@@ -7,17 +7,22 @@
 namespace kestrel {
 namespace {
 
-float Number(std::string_view text) { return static_cast<float>(LeadingNumber(text)); }
+float Number(std::string_view text) {
+  return static_cast<float>(LeadingNumber(text));
+}
 
 }  // namespace
 
-bool IsStationLine(std::string_view line) { return !line.empty() && line.front() >= '1' && line.front() <= '9'; }
+bool IsStationLine(std::string_view line) {
+  return !line.empty() && line.front() >= '1' && line.front() <= '9';
+}
 
 StationLine CutStationLine(std::string_view line) {
   const auto next = [&line] { return NextField(line).value_or(std::string_view{}); };
   StationLine fields;
-  for (std::string_view* field : {&fields.Frequency, &fields.CallSign, &fields.City, &fields.State, &fields.Country,
-                                  &fields.HoursCode, &fields.Latitude, &fields.Longitude, &fields.PowerKW})
+  for (std::string_view* field :
+       {&fields.Frequency, &fields.CallSign, &fields.City, &fields.State, &fields.Country, &fields.HoursCode,
+        &fields.Latitude, &fields.Longitude, &fields.PowerKW})
     *field = next();
   next();  // two fields that carry nothing
   next();
@@ -46,11 +51,13 @@ double StoreStationLine(const StationLine& line, StationRecord& record) {
   record.Longitude = Number(line.Longitude);
   record.PowerKW = Number(line.PowerKW);
   const double towers = RoundToWhole(LeadingNumber(line.TowerCount));
-  record.TowerCount = towers >= 0 && towers <= MaxTowers ? static_cast<std::int16_t>(towers) : std::int16_t{0};
+  record.TowerCount =
+      towers >= 0 && towers <= MaxTowers ? static_cast<std::int16_t>(towers) : std::int16_t{0};
   return towers;
 }
 
-StationFileReader::StationFileReader(std::string name, std::string_view bytes) : name_(std::move(name)), lines_(bytes) {}
+StationFileReader::StationFileReader(std::string name, std::string_view bytes)
+    : name_(std::move(name)), lines_(bytes) {}
 
 StationRecord* StationFileReader::Next() {
   while (const auto line = lines_.Next()) {
@@ -64,7 +71,8 @@ StationRecord* StationFileReader::Next() {
     skipping_ = false;
     const double towers = StoreStationLine(CutStationLine(*line), record_);
     if (towers < 0 || towers > MaxTowers) {
-      Note(NumberText(static_cast<float>(towers)) + (towers < 0 ? " towers, at least 0" : " towers, at most 12"));
+      Note(NumberText(static_cast<float>(towers)) +
+           (towers < 0 ? " towers, at least 0" : " towers, at most 12"));
       skipping_ = true;
       continue;
     }

@@ -31,17 +31,19 @@ struct StationRecord {
   float PowerKW = 0;
   std::int16_t TowerCount = 0;  ///< 0 to MaxTowers; 0: the antenna is not known
 
-  std::array<std::string, MaxTowers + 1> Switch;  ///< exactly "0": placed from the reference point, else from the previous tower
-  std::array<float, MaxTowers + 1> Fields{};      ///< field ratio
-  std::array<float, MaxTowers + 1> Heights{};     ///< electrical degrees
-  std::array<float, MaxTowers + 1> Phases{};      ///< degrees
-  std::array<float, MaxTowers + 1> Spacings{};    ///< electrical degrees
-  std::array<float, MaxTowers + 1> Bearings{};    ///< degrees true
+  std::array<std::string, MaxTowers + 1>
+      Switch;  ///< exactly "0": placed from the reference point, else from the previous tower
+  std::array<float, MaxTowers + 1> Fields{};    ///< field ratio
+  std::array<float, MaxTowers + 1> Heights{};   ///< electrical degrees
+  std::array<float, MaxTowers + 1> Phases{};    ///< degrees
+  std::array<float, MaxTowers + 1> Spacings{};  ///< electrical degrees
+  std::array<float, MaxTowers + 1> Bearings{};  ///< degrees true
 };
 
 /// The twelve fields of a station line as the line holds them, blanks included; views into the line.
 struct StationLine {
-  std::string_view Frequency, CallSign, City, State, Country, HoursCode, Latitude, Longitude, PowerKW, TowerCount;
+  std::string_view Frequency, CallSign, City, State, Country, HoursCode, Latitude, Longitude, PowerKW,
+      TowerCount;
 };
 
 /// Whether the line begins with a digit 1 to 9, as station lines do and tower lines must not.

@@ -57,7 +57,7 @@ class Canvas {
   virtual void FilledCircle(Point center, float radius) = 0;
   virtual void Box(Point corner, Point opposite) = 0;
   virtual void FilledBox(Point corner, Point opposite) = 0;
-  virtual void Dot(Point at) = 0;                              ///< a single point, one pixel
+  virtual void Dot(Point at) = 0;                               ///< a single point, one pixel
   virtual void Text(Point topLeft, std::string_view text) = 0;  ///< one line, UTF-8
 
   virtual float TextWidth(std::string_view text) const = 0;  ///< twips, in the font set last

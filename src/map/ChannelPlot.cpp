@@ -17,10 +17,17 @@ constexpr float kLabelAbove = 210;
 constexpr Font kLabelFont = {FontFace::Sans, 8};
 constexpr Font kMapFont = {FontFace::Sans, 10};
 
+/// Text in a bright colour is hard to read on white; this keeps the hue.
+ColorValue Darkened(ColorValue color) {
+  const auto half = [](int part) { return part * 11 / 20; };
+  return half(color & 0xFF) | half(color >> 8 & 0xFF) << 8 | half(color >> 16 & 0xFF) << 16;
+}
+
 /// Draws one channel's records; holds what lasts from record to record.
 class ChannelPlotter {
  public:
-  ChannelPlotter(Canvas& canvas, const SessionState& state, const MapProjection& projection, float plotFrequency)
+  ChannelPlotter(Canvas& canvas, const SessionState& state, const MapProjection& projection,
+                 float plotFrequency)
       : canvas_(canvas),
         state_(state),
         projection_(projection),
@@ -50,11 +57,16 @@ class ChannelPlotter {
  private:
   /// An hours code that is none of the four keeps the colour of the record before it.
   void ChooseStyle(const std::string& hoursCode) {
-    if (hoursCode == "N") style_ = {state_.NightColor, 0.96F};
-    else if (hoursCode == "C") style_ = {state_.CriticalColor, 0.98F};
-    else if (hoursCode == "D") style_ = {state_.DayColor, 1.0F};
-    else if (hoursCode == "U") style_ = {state_.UnlimitedColor, 1.02F};
-    else style_.Factor = 0;
+    if (hoursCode == "N")
+      style_ = {state_.NightColor, 0.96F};
+    else if (hoursCode == "C")
+      style_ = {state_.CriticalColor, 0.98F};
+    else if (hoursCode == "D")
+      style_ = {state_.DayColor, 1.0F};
+    else if (hoursCode == "U")
+      style_ = {state_.UnlimitedColor, 1.02F};
+    else
+      style_.Factor = 0;
     if (adjacent_) style_.Color = state_.AdjacentColor;
   }
 
@@ -62,6 +74,7 @@ class ChannelPlotter {
   void DrawLabel(const StationRecord& record, Point at) {
     const std::string place = NumberText(at.x) + ' ' + NumberText(at.y);
     if (!labelled_.insert(record.CallSign + ' ' + place).second) return;
+    canvas_.SetColor(Darkened(style_.Color));
     canvas_.SetFont(kLabelFont);
     canvas_.Text({at.x - kLabelLeft, at.y - kLabelAbove}, NumberText(plotFrequency_) + ' ' + record.CallSign);
     canvas_.SetFont(kMapFont);
@@ -95,8 +108,9 @@ void DrawPattern(Canvas& canvas, const SessionState& state, Point station, const
     const std::size_t azimuth = 2 * i + 1;
     const double bearing = static_cast<double>(azimuth - 1) / DegreesPerRadian;
     const double magnitude = values[azimuth];
-    outline[i] = Clamped({static_cast<float>(station.x + state.AspectRatio * size * std::sin(bearing) * magnitude),
-                          static_cast<float>(station.y - size * std::cos(bearing) * magnitude)});
+    outline[i] =
+        Clamped({static_cast<float>(station.x + state.AspectRatio * size * std::sin(bearing) * magnitude),
+                 static_cast<float>(station.y - size * std::cos(bearing) * magnitude)});
   }
   canvas.Polygon(outline);
 }

@@ -45,18 +45,32 @@ class DisplayList final : public Canvas {
 
  private:
   enum class Verb : std::uint8_t {
-    SetColor, SetLineWidth, SetFont, Line, Polyline, Polygon, Circle, FilledCircle, Box, FilledBox, Dot, Text,
-    BeginStation, EndStation, BeginPanel, EndPanel,
+    SetColor,
+    SetLineWidth,
+    SetFont,
+    Line,
+    Polyline,
+    Polygon,
+    Circle,
+    FilledCircle,
+    Box,
+    FilledBox,
+    Dot,
+    Text,
+    BeginStation,
+    EndStation,
+    BeginPanel,
+    EndPanel,
   };
 
   /// One verb and where its arguments lie.
   struct Command {
     Verb verb;
     FontFace face = FontFace::Sans;
-    float number = 0;          // width, radius or font size
-    std::uint32_t first = 0;   // in points_, text_ or stations_; or the colour
-    std::uint32_t count = 0;   // of points or bytes of text
-    Point at = {};             // the text's place
+    float number = 0;         // width, radius or font size
+    std::uint32_t first = 0;  // in points_, text_ or stations_; or the colour
+    std::uint32_t count = 0;  // of points or bytes of text
+    Point at = {};            // the text's place
   };
 
   void AddPoints(Verb verb, std::span<const Point> points, float number = 0);

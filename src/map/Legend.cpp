@@ -26,7 +26,8 @@ struct LegendLine {
 
 /// A white box under lines of text, at least `right` wide.
 void DrawLines(Canvas& canvas, float top, float bottom, float right, std::span<const LegendLine> lines) {
-  for (const LegendLine& line : lines) right = std::max(right, kTextLeft + canvas.TextWidth(line.Text) + kMargin);
+  for (const LegendLine& line : lines)
+    right = std::max(right, kTextLeft + canvas.TextWidth(line.Text) + kMargin);
   canvas.SetColor(kWhite);
   canvas.FilledBox({kBoxLeft, top}, {right, bottom});
   for (const LegendLine& line : lines) {
@@ -45,30 +46,39 @@ void DrawScales(Canvas& canvas, const SessionState& state) {
   const float patternLeft = std::max(kPatternLeft, kTextLeft + canvas.TextWidth(map) + kMargin / 2);
 
   canvas.SetColor(kWhite);
-  canvas.FilledBox({kBoxLeft, 8800}, {std::max(3200.0F, patternLeft + canvas.TextWidth(pattern) + kMargin), 9400});
+  canvas.FilledBox({kBoxLeft, 8800},
+                   {std::max(3200.0F, patternLeft + canvas.TextWidth(pattern) + kMargin), 9400});
   canvas.SetColor(kTextColor);
   canvas.Text({kTextLeft, kTop}, map);
   canvas.Text({patternLeft, kTop}, pattern);
 }
 
 /// The integer part of a thousandfold, so three decimals cut off.
-std::string Thousandths(double value) { return NumberText(static_cast<float>(std::floor(value * 1000) / 1000)); }
+std::string Thousandths(double value) {
+  return NumberText(static_cast<float>(std::floor(value * 1000) / 1000));
+}
 
 }  // namespace
 
-std::string MapScaleText(float scaleFactor) { return std::string(Columns(Thousandths(scaleFactor / 156.25), 1, 7)); }
+std::string MapScaleText(float scaleFactor) {
+  return std::string(Columns(Thousandths(scaleFactor / 156.25), 1, 7));
+}
 
-std::string PatternScaleText(float patternSize) { return std::string(Columns(Thousandths(patternSize / 0.25), 1, 7)); }
+std::string PatternScaleText(float patternSize) {
+  return std::string(Columns(Thousandths(patternSize / 0.25), 1, 7));
+}
 
 void DrawLegend(Canvas& canvas, const SessionState& state) {
   const float frequency = state.SelectedFrequency > 0 ? state.SelectedFrequency : state.CurrentFrequency;
-  const std::array hours = {LegendLine{6860, state.AdjacentColor, "Adjacents"}, LegendLine{7100, state.UnlimitedColor, "Unlimited"},
-                            LegendLine{7340, state.DayColor, "Daytime"}, LegendLine{7580, state.CriticalColor, "Critical"},
-                            LegendLine{7820, state.NightColor, "Nighttime"}};
-  const std::array places = {
-      LegendLine{8060, kTextColor, "Frequency: " + NumberText(frequency) + " kHz"},
-      LegendLine{8300, kTextColor, "Home Lat: " + NumberText(state.HomeLatitude) + "    Home Lon: " + NumberText(state.HomeLongitude)},
-      LegendLine{8540, kTextColor, "Home:  " + state.HomeName}};
+  const std::array hours = {
+      LegendLine{6860, state.AdjacentColor, "Adjacents"}, LegendLine{7100, state.UnlimitedColor, "Unlimited"},
+      LegendLine{7340, state.DayColor, "Daytime"}, LegendLine{7580, state.CriticalColor, "Critical"},
+      LegendLine{7820, state.NightColor, "Nighttime"}};
+  const std::array places = {LegendLine{8060, kTextColor, "Frequency: " + NumberText(frequency) + " kHz"},
+                             LegendLine{8300, kTextColor,
+                                        "Home Lat: " + NumberText(state.HomeLatitude) +
+                                            "    Home Lon: " + NumberText(state.HomeLongitude)},
+                             LegendLine{8540, kTextColor, "Home:  " + state.HomeName}};
 
   canvas.BeginPanel({kBoxLeft, 9400}, kLegendFont);
   canvas.SetFont(kLegendFont);
@@ -80,7 +90,8 @@ void DrawLegend(Canvas& canvas, const SessionState& state) {
 
 void DrawHoursBanner(Canvas& canvas, int hoursFilter) {
   if (hoursFilter != 1 && hoursFilter != 2) return;
-  const std::string text = hoursFilter == 1 ? "    Day, critical & unlimited only" : "    Night, critical & unlimited only";
+  const std::string text =
+      hoursFilter == 1 ? "    Day, critical & unlimited only" : "    Night, critical & unlimited only";
   canvas.BeginPanel({1230, 30}, kLegendFont);
   canvas.SetFont(kLegendFont);
   canvas.SetColor(kBannerColor);

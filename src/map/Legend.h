@@ -9,7 +9,8 @@
 
 namespace kestrel {
 
-/// The legend panel: the colours of the hours, channel, home, map and pattern scale. Boxes widen to their text.
+/// The legend panel: the colours of the hours, channel, home, map and pattern scale. Boxes widen to their
+/// text.
 void DrawLegend(Canvas& canvas, const SessionState& state);
 
 /// The banner that names the hours shown; nothing when all are.

@@ -9,7 +9,8 @@
 
 namespace kestrel {
 
-std::vector<std::string> DrawMainMap(Canvas& canvas, const DataFolder& folder, const SessionState& state, MapGround ground) {
+std::vector<std::string> DrawMainMap(Canvas& canvas, const DataFolder& folder, const SessionState& state,
+                                     MapGround ground) {
   const MapProjection projection(state.HomeLatitude, state.HomeLongitude, state.ScaleFactor);
   if (ground == MapGround::Empty) DrawOutlineFiles(canvas, folder, projection);
 
@@ -17,7 +18,8 @@ std::vector<std::string> DrawMainMap(Canvas& canvas, const DataFolder& folder, c
   std::vector<std::string> notes = std::move(outcome.Notes);
   if (state.AdjacentsShown == 1) {
     for (const float step : {-ChannelStep, ChannelStep}) {
-      const ChannelOutcome adjacent = PlotChannel(canvas, folder, state, projection, state.CurrentFrequency + step);
+      const ChannelOutcome adjacent =
+          PlotChannel(canvas, folder, state, projection, state.CurrentFrequency + step);
       if (!adjacent.FileMissing) notes.insert(notes.end(), adjacent.Notes.begin(), adjacent.Notes.end());
     }
   }

@@ -11,13 +11,13 @@ namespace kestrel {
 
 /// What a drawing of the main map starts from.
 enum class MapGround {
-  Empty,     ///< coasts, borders and the home mark are drawn first
-  AsDrawn,   ///< they are there already, the channel is added on top
+  Empty,    ///< coasts, borders and the home mark are drawn first
+  AsDrawn,  ///< they are there already, the channel is added on top
 };
 
 /// Draws the main map as the session has it, from its files: outlines and home mark, the current channel, the
-/// channels 10 kHz beside it when `AdjacentsShown` is 1, the legend, and the compass when `CompassShown` is 1.
-/// A missing station file of the current channel leaves its notice on the map. Returns what the station
+/// channels 10 kHz beside it when `AdjacentsShown` is 1, the legend, and the compass when `CompassShown`
+/// is 1. A missing station file of the current channel leaves its notice on the map. Returns what the station
 /// readers left out, one line each.
 std::vector<std::string> DrawMainMap(Canvas& canvas, const DataFolder& folder, const SessionState& state,
                                      MapGround ground = MapGround::Empty);

@@ -32,7 +32,8 @@ Point MapProjection::Place(double latitude, double longitudeEast) const {
   // Straight below or above there is no course; the place itself is home's.
   const double eastShare = level > 0 ? east / level : 1;
   const double northShare = level > 0 ? north / level : 0;
-  return {static_cast<float>(HomeOnSheet.x + radius * eastShare), static_cast<float>(HomeOnSheet.y - radius * northShare)};
+  return {static_cast<float>(HomeOnSheet.x + radius * eastShare),
+          static_cast<float>(HomeOnSheet.y - radius * northShare)};
 }
 
 std::optional<Point> MapProjection::Station(float latitude, float longitude) const {
@@ -43,7 +44,8 @@ std::optional<Point> MapProjection::Station(float latitude, float longitude) con
 
 void MapProjection::Vertices(std::span<const float> latitudes, std::span<const float> longitudes,
                              std::span<Point> points) const {
-  for (std::size_t i = 0; i < points.size(); ++i) points[i] = Place(latitudes[i], BringIntoRange(longitudes[i]));
+  for (std::size_t i = 0; i < points.size(); ++i)
+    points[i] = Place(latitudes[i], BringIntoRange(longitudes[i]));
 }
 
 float BringIntoRange(float longitudeEast) {

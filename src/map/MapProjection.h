@@ -23,9 +23,10 @@ class MapProjection {
   /// when the position is no finite number.
   std::optional<Point> Station(float latitude, float longitude) const;
 
-  /// Vertices given as the outline files do, longitude EAST, not limited. A vertex whose position is no finite
-  /// number comes out as NaN. REQUIRES: the spans are of one length.
-  void Vertices(std::span<const float> latitudes, std::span<const float> longitudes, std::span<Point> points) const;
+  /// Vertices given as the outline files do, longitude EAST, not limited. A vertex whose position is no
+  /// finite number comes out as NaN. REQUIRES: the spans are of one length.
+  void Vertices(std::span<const float> latitudes, std::span<const float> longitudes,
+                std::span<Point> points) const;
 
  private:
   Point Place(double latitude, double longitudeEast) const;

@@ -26,7 +26,8 @@ void DrawHomeMark(Canvas& canvas) {
   canvas.Line({x, y - kHomeRadius}, {x, y + kHomeRadius});
 }
 
-void DrawFile(Canvas& canvas, const DataFolder& folder, const QString& name, ColorValue color, const MapProjection& projection) {
+void DrawFile(Canvas& canvas, const DataFolder& folder, const QString& name, ColorValue color,
+              const MapProjection& projection) {
   const Result<QByteArray> bytes = folder.Read(name);
   if (!bytes) return;
   canvas.SetColor(color);

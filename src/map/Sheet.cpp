@@ -5,12 +5,14 @@
 namespace kestrel {
 
 Point Clamped(Point point) {
-  return {std::clamp(point.x, -CoordinateLimit, CoordinateLimit), std::clamp(point.y, -CoordinateLimit, CoordinateLimit)};
+  return {std::clamp(point.x, -CoordinateLimit, CoordinateLimit),
+          std::clamp(point.y, -CoordinateLimit, CoordinateLimit)};
 }
 
-SheetFit FitSheet(float surfaceWidth, float surfaceHeight, float sheetWidth, float sheetHeight) {
-  const float scale = std::min(surfaceWidth / sheetWidth, surfaceHeight / sheetHeight);
-  return {scale, (surfaceWidth - sheetWidth * scale) / 2, (surfaceHeight - sheetHeight * scale) / 2};
+SheetFit FitSheet(float surfaceWidth, float surfaceHeight, const SheetArea& area) {
+  const float scale = std::min(surfaceWidth / area.Width, surfaceHeight / area.Height);
+  return {scale, (surfaceWidth - area.Width * scale) / 2 - area.Left * scale,
+          (surfaceHeight - area.Height * scale) / 2 - area.Top * scale};
 }
 
 }  // namespace kestrel

@@ -27,7 +27,15 @@ struct SheetFit {
   Point ToSheet(Point surface) const { return {(surface.x - Left) / Scale, (surface.y - Top) / Scale}; }
 };
 
-/// Fits a sheet of the given size (twips) to a surface. REQUIRES: all lengths above 0.
-SheetFit FitSheet(float surfaceWidth, float surfaceHeight, float sheetWidth = SheetWidth, float sheetHeight = SheetHeight);
+/// A part of a sheet, in twips.
+struct SheetArea {
+  float Left = 0;
+  float Top = 0;
+  float Width = SheetWidth;
+  float Height = SheetHeight;
+};
+
+/// Fits a part of the sheet, all of it by default, to a surface. REQUIRES: all lengths above 0.
+SheetFit FitSheet(float surfaceWidth, float surfaceHeight, const SheetArea& area = {});
 
 }  // namespace kestrel

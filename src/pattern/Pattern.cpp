@@ -63,7 +63,8 @@ bool ComputePattern(StationRecord& record, PatternValues& values) {
     double cosines = 0;
     for (std::size_t i = 1; i <= static_cast<std::size_t>(record.TowerCount); ++i) {
       const double turn = record.Bearings[i] / perRadian - static_cast<double>(azimuth) / perRadian;
-      const double psi = static_cast<float>(record.Spacings[i] / perRadian * std::cos(turn) + record.Phases[i] / perRadian);
+      const double psi =
+          static_cast<float>(record.Spacings[i] / perRadian * std::cos(turn) + record.Phases[i] / perRadian);
       sines += record.Fields[i] * std::sin(psi);
       cosines += record.Fields[i] * std::cos(psi);
     }

@@ -1,0 +1,119 @@
+#include "draw/PainterCanvas.h"
+
+#include <array>
+#include <vector>
+
+namespace kestrel {
+
+QColor PlatformColor(ColorValue color) {
+  return QColor(color & 0xFF, color >> 8 & 0xFF, color >> 16 & 0xFF);
+}
+
+PainterCanvas::PainterCanvas(QPainter& painter, const SurfaceRules& rules) : painter_(painter), view_(rules) {
+  painter_.setRenderHint(QPainter::Antialiasing);
+  painter_.setBrush(Qt::NoBrush);
+  UsePen();
+}
+
+void PainterCanvas::UsePen() {
+  painter_.setPen(QPen(color_, lineWidth_ * view_.PixelSize(), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+}
+
+void PainterCanvas::UseFont() {
+  if (!fontStale_) return;
+  painter_.setFont(PlatformFont(font_.Face, view_.FontSize(font_), painter_.device()->logicalDpiY()));
+  fontStale_ = false;
+}
+
+void PainterCanvas::SetColor(ColorValue color) {
+  color_ = PlatformColor(color);
+  UsePen();
+}
+
+void PainterCanvas::SetLineWidth(float width) {
+  lineWidth_ = width;
+  UsePen();
+}
+
+void PainterCanvas::SetFont(const Font& font) {
+  fontStale_ = fontStale_ || font != font_;
+  font_ = font;
+}
+
+void PainterCanvas::Line(Point from, Point to) {
+  Polyline(std::array{from, to});
+}
+
+void PainterCanvas::Polyline(std::span<const Point> points) {
+  view_.ForEachRun(points, [&](std::span<const QPointF> run) {
+    painter_.drawPolyline(run.data(), static_cast<int>(run.size()));
+  });
+}
+
+void PainterCanvas::Polygon(std::span<const Point> points) {
+  if (points.empty()) return;
+  std::vector<Point> closed(points.begin(), points.end());
+  closed.push_back(points.front());
+  Polyline(closed);
+}
+
+void PainterCanvas::Circle(Point center, float radius) {
+  if (!view_.Shows(center, radius)) return;
+  const Point at = view_.At(center);
+  painter_.drawEllipse(QPointF(at.x, at.y), view_.Length(radius), view_.Length(radius));
+}
+
+void PainterCanvas::FilledCircle(Point center, float radius) {
+  if (!view_.Shows(center, radius)) return;
+  const Point at = view_.At(center);
+  painter_.setPen(Qt::NoPen);
+  painter_.setBrush(color_);
+  painter_.drawEllipse(QPointF(at.x, at.y), view_.Length(radius), view_.Length(radius));
+  painter_.setBrush(Qt::NoBrush);
+  UsePen();
+}
+
+QRectF PainterCanvas::SurfaceBox(Point corner, Point opposite) const {
+  const Point a = view_.At(corner);
+  const Point b = view_.At(opposite);
+  return QRectF(QPointF(a.x, a.y), QPointF(b.x, b.y)).normalized();
+}
+
+void PainterCanvas::Box(Point corner, Point opposite) {
+  painter_.drawRect(SurfaceBox(corner, opposite));
+}
+
+void PainterCanvas::FilledBox(Point corner, Point opposite) {
+  painter_.fillRect(SurfaceBox(corner, opposite), color_);
+}
+
+void PainterCanvas::Dot(Point at) {
+  if (!view_.Shows(at, 0)) return;
+  const Point point = view_.At(at);
+  painter_.drawPoint(QPointF(point.x, point.y));
+}
+
+void PainterCanvas::Text(Point topLeft, std::string_view text) {
+  UseFont();
+  const Point at = view_.Baseline(topLeft, font_);
+  const double size = view_.FontSize(font_);
+  const QRectF reach(at.x, at.y - 2 * size, size * static_cast<double>(text.size()), 3 * size);
+  if (!view_.Area().intersects(reach)) return;
+  painter_.drawText(QPointF(at.x, at.y), QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+}
+
+void PainterCanvas::BeginPanel(Point anchor, const Font& smallest) {
+  view_.BeginPanel(anchor, smallest);
+  fontStale_ = true;
+}
+
+void PainterCanvas::EndPanel() {
+  view_.EndPanel();
+  fontStale_ = true;
+}
+
+void PainterCanvas::Clear() {
+  painter_.fillRect(view_.Area(), Qt::white);
+}
+
+}  // namespace kestrel

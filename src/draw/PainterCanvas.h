@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QPainter>
+
+#include "draw/Fonts.h"
+#include "draw/SurfaceView.h"
+
+namespace kestrel {
+
+/// A canvas on whatever a QPainter paints on: a window, an image, a PDF page, a printer.
+class PainterCanvas final : public Canvas {
+ public:
+  /// The painter must be active and outlive the canvas; it works in the surface's units.
+  PainterCanvas(QPainter& painter, const SurfaceRules& rules);
+
+  void SetColor(ColorValue color) override;
+  void SetLineWidth(float width) override;
+  void SetFont(const Font& font) override;
+  void Line(Point from, Point to) override;
+  void Polyline(std::span<const Point> points) override;
+  void Polygon(std::span<const Point> points) override;
+  void Circle(Point center, float radius) override;
+  void FilledCircle(Point center, float radius) override;
+  void Box(Point corner, Point opposite) override;
+  void FilledBox(Point corner, Point opposite) override;
+  void Dot(Point at) override;
+  void Text(Point topLeft, std::string_view text) override;
+  float TextWidth(std::string_view text) const override { return measure_.TextWidth(font_, text); }
+  float TextHeight() const override { return measure_.TextHeight(font_); }
+  void BeginStation(const StationMark&) override {}
+  void EndStation() override {}
+  void BeginPanel(Point anchor, const Font& smallest) override;
+  void EndPanel() override;
+  void Clear() override;
+
+ private:
+  void UsePen();
+  void UseFont();
+  QRectF SurfaceBox(Point corner, Point opposite) const;
+
+  QPainter& painter_;
+  SurfaceView view_;
+  PlatformTextMeasure measure_;
+  Font font_;
+  bool fontStale_ = true;
+  QColor color_ = Qt::black;
+  double lineWidth_ = 1;
+};
+
+/// The platform's colour for one of ours.
+QColor PlatformColor(ColorValue color);
+
+}  // namespace kestrel

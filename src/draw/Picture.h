@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QImage>
+#include <QSize>
+#include <QString>
+
+#include "core/Result.h"
+#include "map/DisplayList.h"
+
+// Drawings of the main map's sheet as pictures and files.
+
+namespace kestrel {
+
+/// Draws the sheet fitted into an image of `size` pixels, white behind it.
+QImage RenderImage(const DisplayList& drawing, QSize size);
+
+/// Writes the drawing as a picture of `size` pixels, its kind told by the name's end: .png, .svg or .pdf (one
+/// page, 96 pixels to the inch). The file is replaced as a whole or left as it was.
+/// Errors: Malformed (another ending), Refused.
+Result<Done> WritePicture(const DisplayList& drawing, QSize size, const QString& path);
+
+}  // namespace kestrel

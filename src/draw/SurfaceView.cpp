@@ -1,0 +1,41 @@
+#include "draw/SurfaceView.h"
+
+#include <algorithm>
+
+#include "draw/Fonts.h"
+
+namespace kestrel {
+
+Point SurfaceView::At(Point sheet) const {
+  if (panelGrowth_ == 1) return rules_.Fit.ToSurface(sheet);
+  const auto growth = static_cast<float>(panelGrowth_);
+  return rules_.Fit.ToSurface({panelAnchor_.x + (sheet.x - panelAnchor_.x) * growth,
+                               panelAnchor_.y + (sheet.y - panelAnchor_.y) * growth});
+}
+
+double SurfaceView::Growth(const Font& font) const {
+  const double xHeight = font.Points * TwipsPerPoint * rules_.Fit.Scale * XHeightShare(font.Face);
+  return std::max(1.0, rules_.SmallestXHeight * rules_.PixelSize / xHeight);
+}
+
+double SurfaceView::FontSize(const Font& font) const {
+  const double growth = panelGrowth_ == 1 ? Growth(font) : panelGrowth_;
+  return font.Points * TwipsPerPoint * rules_.Fit.Scale * growth;
+}
+
+Point SurfaceView::Baseline(Point topLeft, const Font& font) const {
+  return At({topLeft.x, topLeft.y + PlatformTextMeasure().Ascent(font)});
+}
+
+void SurfaceView::BeginPanel(Point anchor, const Font& smallest) {
+  panelAnchor_ = anchor;
+  panelGrowth_ = Growth(smallest);
+}
+
+bool SurfaceView::Shows(Point sheet, double radiusTwips) const {
+  const Point at = At(sheet);
+  const double radius = Length(radiusTwips) + 2 * rules_.PixelSize;
+  return rules_.Area.intersects(QRectF(at.x - radius, at.y - radius, 2 * radius, 2 * radius));
+}
+
+}  // namespace kestrel

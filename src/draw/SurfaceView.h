@@ -1,0 +1,94 @@
+#pragma once
+
+#include <QRectF>
+#include <span>
+#include <vector>
+
+#include "map/Sheet.h"
+
+namespace kestrel {
+
+/// How a sheet comes onto a surface (a window, a picture, a page): where it lies, how large a pixel is there,
+/// and from which size on text can be read.
+struct SurfaceRules {
+  SheetFit Fit;
+  QRectF Area;                 ///< what the surface shows, in its units
+  double PixelSize = 1;        ///< units of an ordinary screen's pixel: line widths are multiples of it
+  double SmallestXHeight = 7;  ///< in pixels; text below it grows; 0: text keeps its size
+  double Thinning = 0.5;       ///< vertices closer together than this many pixels are joined into one
+};
+
+/// Takes places and lengths of the sheet to the surface, panels included. Culling and thinning happen here,
+/// when a figure reaches its surface.
+class SurfaceView {
+ public:
+  explicit SurfaceView(const SurfaceRules& rules) : rules_(rules) {}
+
+  Point At(Point sheet) const;
+  double Length(double twips) const { return twips * rules_.Fit.Scale * panelGrowth_; }
+  double PixelSize() const { return rules_.PixelSize; }
+  const QRectF& Area() const { return rules_.Area; }
+
+  /// Size of a font on the surface, grown where it would be too small to read.
+  double FontSize(const Font& font) const;
+
+  /// Baseline start of a text whose top left corner is given. Text that has grown keeps its lower left
+  /// corner.
+  Point Baseline(Point topLeft, const Font& font) const;
+
+  void BeginPanel(Point anchor, const Font& smallest);
+  void EndPanel() { panelGrowth_ = 1; }
+
+  bool Shows(Point sheet, double radiusTwips) const;
+
+  /// Calls `draw(std::span<const QPointF>)` for each run of the polyline that may touch the surface's area.
+  template <typename Draw>
+  void ForEachRun(std::span<const Point> points, Draw draw);
+
+ private:
+  double Growth(const Font& font) const;
+
+  SurfaceRules rules_;
+  double panelGrowth_ = 1;
+  Point panelAnchor_;
+  std::vector<QPointF> run_;
+};
+
+/// Which sides of the area a point lies beyond, a bit each; a segment whose ends share a bit cannot touch it.
+inline int Outside(const QRectF& area, const QPointF& point) {
+  return (point.x() < area.left()) | (point.x() > area.right()) << 1 | (point.y() < area.top()) << 2 |
+         (point.y() > area.bottom()) << 3;
+}
+
+template <typename Draw>
+void SurfaceView::ForEachRun(std::span<const Point> points, Draw draw) {
+  const double margin = 4 * rules_.PixelSize;
+  const QRectF area = rules_.Area.adjusted(-margin, -margin, margin, margin);
+  const double closest = rules_.Thinning * rules_.PixelSize;
+  run_.clear();
+  const auto endRun = [&] {
+    if (run_.size() > 1) draw(std::span<const QPointF>(run_));
+    run_.clear();
+  };
+  QPointF previous;
+  int previousOutside = 0;
+  for (std::size_t i = 0; i < points.size(); ++i) {
+    const Point at = At(points[i]);
+    const QPointF point(at.x, at.y);
+    const int outside = Outside(area, point);
+    if (i > 0 && (outside & previousOutside) != 0) {
+      endRun();
+    } else if (i > 0) {
+      if (run_.empty()) run_.push_back(previous);
+      const QPointF step = point - run_.back();
+      const bool last = i + 1 == points.size();
+      if (last || outside != 0 || step.x() * step.x() + step.y() * step.y() >= closest * closest)
+        run_.push_back(point);
+    }
+    previous = point;
+    previousOutside = outside;
+  }
+  endRun();
+}
+
+}  // namespace kestrel

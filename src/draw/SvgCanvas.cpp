@@ -1,0 +1,193 @@
+#include "draw/SvgCanvas.h"
+
+#include <array>
+#include <vector>
+
+#include "draw/PainterCanvas.h"
+
+namespace kestrel {
+namespace {
+
+/// Two decimals at most, without trailing zeros.
+QString Number(double value) {
+  QString text = QString::number(value, 'f', 2);
+  while (text.endsWith('0')) text.chop(1);
+  if (text.endsWith('.')) text.chop(1);
+  return text == "-0" ? "0" : text;
+}
+
+QString GenericFamily(FontFace face) {
+  switch (face) {
+    case FontFace::Serif:
+      return "DejaVu Serif, serif";
+    case FontFace::Fixed:
+      return "DejaVu Sans Mono, monospace";
+    default:
+      return "DejaVu Sans, sans-serif";
+  }
+}
+
+/// Letters, digits, - and . only.
+QString IdText(const std::string& text) {
+  QString id;
+  for (const QChar c : QString::fromStdString(text))
+    if (c.unicode() < 128 && (c.isLetterOrNumber() || c == '-' || c == '.')) id += c;
+  return id;
+}
+
+}  // namespace
+
+SvgCanvas::SvgCanvas(QSizeF size, const SurfaceRules& rules) : view_(rules), xml_(&document_) {
+  xml_.setAutoFormatting(true);
+  xml_.setAutoFormattingIndent(1);
+  xml_.writeStartDocument();
+  xml_.writeStartElement("svg");
+  xml_.writeDefaultNamespace("http://www.w3.org/2000/svg");
+  xml_.writeAttribute("version", "1.1");
+  xml_.writeAttribute("width", Number(size.width()));
+  xml_.writeAttribute("height", Number(size.height()));
+  xml_.writeAttribute("viewBox", "0 0 " + Number(size.width()) + ' ' + Number(size.height()));
+  xml_.writeStartElement("rect");
+  xml_.writeAttribute("width", "100%");
+  xml_.writeAttribute("height", "100%");
+  xml_.writeAttribute("fill", "#ffffff");
+  xml_.writeEndElement();
+}
+
+QByteArray SvgCanvas::Finish() {
+  xml_.writeEndDocument();
+  return document_;
+}
+
+void SvgCanvas::Begin(const QString& element) {
+  if (pending_ && !groupOpen_) {
+    xml_.writeStartElement("g");
+    xml_.writeAttribute("id", UniqueId(*pending_));
+    groupOpen_ = true;
+  }
+  xml_.writeStartElement(element);
+}
+
+void SvgCanvas::WriteStroke() {
+  xml_.writeAttribute("fill", "none");
+  xml_.writeAttribute("stroke", color_);
+  xml_.writeAttribute("stroke-width", Number(lineWidth_ * view_.PixelSize()));
+  xml_.writeAttribute("stroke-linejoin", "round");
+}
+
+void SvgCanvas::SetColor(ColorValue color) {
+  color_ = PlatformColor(color).name();
+}
+
+void SvgCanvas::Line(Point from, Point to) {
+  Polyline(std::array{from, to});
+}
+
+void SvgCanvas::Polyline(std::span<const Point> points) {
+  view_.ForEachRun(points, [&](std::span<const QPointF> run) {
+    QString text;
+    for (const QPointF& point : run) text += Number(point.x()) + ',' + Number(point.y()) + ' ';
+    text.chop(1);
+    Begin("polyline");
+    xml_.writeAttribute("points", text);
+    WriteStroke();
+    xml_.writeEndElement();
+  });
+}
+
+void SvgCanvas::Polygon(std::span<const Point> points) {
+  if (points.empty()) return;
+  std::vector<Point> closed(points.begin(), points.end());
+  closed.push_back(points.front());
+  Polyline(closed);
+}
+
+void SvgCanvas::WriteCircle(Point center, float radius, bool filled) {
+  if (!view_.Shows(center, radius)) return;
+  const Point at = view_.At(center);
+  Begin("circle");
+  xml_.writeAttribute("cx", Number(at.x));
+  xml_.writeAttribute("cy", Number(at.y));
+  xml_.writeAttribute("r", Number(view_.Length(radius)));
+  if (filled)
+    xml_.writeAttribute("fill", color_);
+  else
+    WriteStroke();
+  xml_.writeEndElement();
+}
+
+void SvgCanvas::Circle(Point center, float radius) {
+  WriteCircle(center, radius, false);
+}
+void SvgCanvas::FilledCircle(Point center, float radius) {
+  WriteCircle(center, radius, true);
+}
+
+void SvgCanvas::WriteBox(Point corner, Point opposite, bool filled) {
+  const Point a = view_.At(corner);
+  const Point b = view_.At(opposite);
+  const QRectF box = QRectF(QPointF(a.x, a.y), QPointF(b.x, b.y)).normalized();
+  if (!view_.Area().intersects(box)) return;
+  Begin("rect");
+  xml_.writeAttribute("x", Number(box.x()));
+  xml_.writeAttribute("y", Number(box.y()));
+  xml_.writeAttribute("width", Number(box.width()));
+  xml_.writeAttribute("height", Number(box.height()));
+  if (filled)
+    xml_.writeAttribute("fill", color_);
+  else
+    WriteStroke();
+  xml_.writeEndElement();
+}
+
+void SvgCanvas::Box(Point corner, Point opposite) {
+  WriteBox(corner, opposite, false);
+}
+void SvgCanvas::FilledBox(Point corner, Point opposite) {
+  WriteBox(corner, opposite, true);
+}
+void SvgCanvas::Dot(Point at) {
+  FilledCircle(at, static_cast<float>(view_.PixelSize() / 2 / view_.Length(1)));
+}
+
+void SvgCanvas::Text(Point topLeft, std::string_view text) {
+  const QString string = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+  const Point at = view_.Baseline(topLeft, font_);
+  const double size = view_.FontSize(font_);
+  const double width = size * measure_.TextWidth(font_, text) / (font_.Points * TwipsPerPoint);
+  if (!view_.Area().intersects(QRectF(at.x, at.y - size, width, 1.3 * size))) return;
+  Begin("text");
+  xml_.writeAttribute("x", Number(at.x));
+  xml_.writeAttribute("y", Number(at.y));
+  xml_.writeAttribute("font-family", GenericFamily(font_.Face));
+  xml_.writeAttribute("font-size", Number(size));
+  if (font_.Face == FontFace::SansBold) xml_.writeAttribute("font-weight", "bold");
+  xml_.writeAttribute("fill", color_);
+  xml_.writeAttribute("xml:space", "preserve");
+  xml_.writeCharacters(string);
+  xml_.writeEndElement();
+}
+
+QString SvgCanvas::UniqueId(const StationMark& mark) {
+  const QString stem =
+      IdText(mark.CallSign) + '-' + QString::number(mark.Channel) + '-' + IdText(mark.HoursCode);
+  // An id may not begin with a digit, a point or a dash.
+  const QString base = stem.front().isLetter() ? stem : "s" + stem;
+  QString id = base;
+  for (int number = 2; !ids_.insert(id).second; ++number) id = base + '-' + QString::number(number);
+  return id;
+}
+
+void SvgCanvas::BeginStation(const StationMark& mark) {
+  pending_ = &mark;
+}
+
+void SvgCanvas::EndStation() {
+  if (groupOpen_) xml_.writeEndElement();
+  groupOpen_ = false;
+  pending_ = nullptr;
+}
+
+void SvgCanvas::Clear() {}
+
+}  // namespace kestrel

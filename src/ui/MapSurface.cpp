@@ -1,0 +1,74 @@
+#include "ui/MapSurface.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <algorithm>
+
+#include "draw/PainterCanvas.h"
+
+namespace kestrel {
+
+MapSurface::MapSurface(QWidget* parent, const SheetArea& area, double smallestXHeight)
+    : QWidget(parent), area_(area), smallestXHeight_(smallestXHeight) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setMouseTracking(true);
+  setMinimumSize(80, 60);
+}
+
+void MapSurface::ShowDrawing() {
+  stale_ = true;
+  update();
+}
+
+SheetFit MapSurface::Fit() const {
+  return FitSheet(static_cast<float>(std::max(1, width())), static_cast<float>(std::max(1, height())), area_);
+}
+
+Point MapSurface::ToSheet(const QPointF& position) const {
+  return Fit().ToSheet({static_cast<float>(position.x()), static_cast<float>(position.y())});
+}
+
+QPointF MapSurface::FromSheet(Point sheet) const {
+  const Point at = Fit().ToSurface(sheet);
+  return {at.x, at.y};
+}
+
+void MapSurface::Render() {
+  const QSize pixels = size() * devicePixelRatio();
+  if (!stale_ && image_.size() == pixels) return;
+  image_ = QImage(pixels, QImage::Format_RGB32);
+  image_.setDevicePixelRatio(devicePixelRatio());
+  image_.fill(Qt::white);
+  QPainter painter(&image_);
+  SurfaceRules rules;
+  rules.Fit = Fit();
+  rules.Area = QRectF(rect());
+  rules.SmallestXHeight = smallestXHeight_;
+  PainterCanvas canvas(painter, rules);
+  drawing_.Play(canvas);
+  stale_ = false;
+}
+
+void MapSurface::paintEvent(QPaintEvent*) {
+  Render();
+  QPainter(this).drawImage(0, 0, image_);
+}
+
+void MapSurface::mouseMoveEvent(QMouseEvent* event) {
+  if (MouseMoved) MouseMoved(ToSheet(event->position()));
+}
+
+void MapSurface::mousePressEvent(QMouseEvent* event) {
+  if (MousePressed) MousePressed(ToSheet(event->position()), event->button());
+}
+
+void MapSurface::wheelEvent(QWheelEvent* event) {
+  constexpr int kAnglePerStep = 120;
+  wheelAngle_ += event->angleDelta().y();
+  const int steps = wheelAngle_ / kAnglePerStep;
+  wheelAngle_ -= steps * kAnglePerStep;
+  if (steps != 0 && WheelTurned) WheelTurned(steps);
+  event->accept();
+}
+
+}  // namespace kestrel

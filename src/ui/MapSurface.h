@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QImage>
+#include <QWidget>
+#include <functional>
+
+#include "draw/Fonts.h"
+#include "map/DisplayList.h"
+#include "map/Sheet.h"
+
+namespace kestrel {
+
+/// The widget that shows a sheet. It keeps what is drawn on its `Drawing()` and repeats it at every size and
+/// on every screen; the sheet is fitted to the widget, and what the widget shows beyond it shows more of the
+/// map. It is white in every theme, like paper.
+class MapSurface final : public QWidget {
+ public:
+  /// Fits `area` of the sheet to the widget; `smallestXHeight` in pixels is how small text may get.
+  explicit MapSurface(QWidget* parent = nullptr, const SheetArea& area = {}, double smallestXHeight = 7);
+
+  /// Draw here, then call ShowDrawing.
+  DisplayList& Drawing() { return drawing_; }
+  const DisplayList& Drawing() const { return drawing_; }
+  void ShowDrawing();
+
+  /// Where a position of the mouse lies on the sheet, in twips, and back.
+  Point ToSheet(const QPointF& position) const;
+  QPointF FromSheet(Point sheet) const;
+
+  /// Called with the position in twips. Mouse tracking is on when MouseMoved is set.
+  std::function<void(Point)> MouseMoved;
+  std::function<void(Point, Qt::MouseButton)> MousePressed;
+  /// Called with the wheel's whole steps, away from the user positive.
+  std::function<void(int)> WheelTurned;
+
+  QSize sizeHint() const override { return {1000, 792}; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+
+ private:
+  void Render();
+  SheetFit Fit() const;
+
+  PlatformTextMeasure measure_;
+  DisplayList drawing_{measure_};
+  SheetArea area_;
+  double smallestXHeight_;
+  QImage image_;        // the drawing at the widget's size
+  bool stale_ = true;   // the drawing has changed since
+  int wheelAngle_ = 0;  // eighths of a degree not yet reported
+};
+
+}  // namespace kestrel

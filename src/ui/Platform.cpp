@@ -1,0 +1,48 @@
+#include "ui/Platform.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QDesktopServices>
+#include <QMessageBox>
+#include <QThread>
+#include <QUrl>
+#include <chrono>
+
+#include "draw/PainterCanvas.h"
+
+namespace kestrel {
+
+void DesktopPlatform::ShowMessage(QWidget* parent, const QString& text) {
+  QMessageBox box(QMessageBox::NoIcon, QApplication::applicationDisplayName(), text, QMessageBox::Ok, parent);
+  box.setTextFormat(Qt::PlainText);
+  box.exec();
+}
+
+void DesktopPlatform::Beep() {
+  QApplication::beep();
+}
+
+std::optional<ColorValue> DesktopPlatform::ChooseColor(QWidget* parent, const QString& title,
+                                                       ColorValue current) {
+  const QColor color = QColorDialog::getColor(PlatformColor(current), parent, title);
+  if (!color.isValid()) return std::nullopt;
+  return color.red() | color.green() << 8 | color.blue() << 16;
+}
+
+void DesktopPlatform::OpenAddress(const QString& address) {
+  QDesktopServices::openUrl(QUrl(address, QUrl::TolerantMode));
+}
+
+void DesktopPlatform::Pause(double seconds) {
+  const auto end = std::chrono::steady_clock::now() + std::chrono::duration<double>(seconds);
+  ProcessEvents();
+  const auto left =
+      std::chrono::duration_cast<std::chrono::milliseconds>(end - std::chrono::steady_clock::now());
+  if (left.count() > 0) QThread::msleep(static_cast<unsigned long>(left.count()));
+}
+
+void DesktopPlatform::ProcessEvents() {
+  QApplication::processEvents();
+}
+
+}  // namespace kestrel

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QString>
+#include <optional>
+
+#include "core/SessionState.h"
+
+class QPrinter;
+class QWidget;
+
+namespace kestrel {
+
+/// Everything that the windows ask of the platform beyond drawing. Tests put a stand-in in its place.
+class Platform {
+ public:
+  virtual ~Platform() = default;
+
+  /// A message with the program's title and an OK button; returns when it is answered.
+  virtual void ShowMessage(QWidget* parent, const QString& text) = 0;
+
+  virtual void Beep() = 0;
+
+  /// The common colour dialog; nothing when it is cancelled.
+  virtual std::optional<ColorValue> ChooseColor(QWidget* parent, const QString& title,
+                                                ColorValue current) = 0;
+
+  /// Lets the platform open a web address; failures are silent.
+  virtual void OpenAddress(const QString& address) = 0;
+
+  /// Lets pending events be processed once, then waits.
+  virtual void Pause(double seconds) = 0;
+
+  /// Lets pending events be processed once.
+  virtual void ProcessEvents() = 0;
+};
+
+/// The platform that the program runs on.
+class DesktopPlatform final : public Platform {
+ public:
+  void ShowMessage(QWidget* parent, const QString& text) override;
+  void Beep() override;
+  std::optional<ColorValue> ChooseColor(QWidget* parent, const QString& title, ColorValue current) override;
+  void OpenAddress(const QString& address) override;
+  void Pause(double seconds) override;
+  void ProcessEvents() override;
+};
+
+}  // namespace kestrel
