@@ -1,27 +1,35 @@
 #include <QApplication>
+#include <QTimer>
+#include <memory>
 
-#include "map/MainMap.h"
-#include "ui/MapSurface.h"
-#include "ui/Platform.h"
+#include "forms/CommandIcons.h"
+#include "forms/frmOpening.h"
+#include "forms/frmPlot.h"
 
 int main(int argc, char** argv) {
   using namespace kestrel;
   QApplication app(argc, argv);
+  QApplication::setOrganizationName("kestrel");
   QApplication::setApplicationName("kestrel");
   QApplication::setApplicationDisplayName("KestrelII");
+  QApplication::setWindowIcon(ProgramIcon());
 
-  const Result<DataFolder> folder = LocateDataFolder({});
   DesktopPlatform platform;
+  const Result<DataFolder> folder = LocateDataFolder({});
   if (!folder) {
     platform.ShowMessage(nullptr, QString::fromStdString(folder.error().Message()));
     return 1;
   }
   SessionState state;
-  LoadSession(*folder, state);
+  const Workspace workspace{state, *folder, platform};
 
-  MapSurface surface;
-  surface.setWindowTitle("KestrelII - Plot");
-  DrawMainMap(surface.Drawing(), *folder, state);
-  surface.show();
+  std::unique_ptr<frmPlot> plot;
+  frmOpening opening(workspace);
+  opening.Started = [&] {
+    plot = std::make_unique<frmPlot>(workspace);
+    plot->show();
+  };
+  opening.show();
+  QTimer::singleShot(0, &opening, [&] { opening.Load(); });
   return QApplication::exec();
 }

@@ -12,6 +12,7 @@
 #include "core/SessionFile.h"
 #include "core/Text.h"
 #include "data/FileIo.h"
+#include "data/PlaceLists.h"
 
 namespace kestrel {
 namespace {
@@ -97,6 +98,23 @@ Result<Done> FillDataFolder(const QString& folder) {
 
 QString StationFileName(float frequency) {
   return QString::fromStdString(NumberText(frequency)) + "x.dat";
+}
+
+Result<Done> LoadPlaceLists(const DataFolder& folder, SessionState& state) {
+  const auto load = [&](const QString& name, std::size_t most,
+                        std::vector<std::string>& list) -> Result<Done> {
+    list.clear();
+    const Result<QByteArray> bytes = folder.Read(name);
+    if (!bytes) return bytes.error();
+    auto entries = ReadPlaceList({bytes->constData(), static_cast<std::size_t>(bytes->size())}, most);
+    if (!entries)
+      return Error{Error::Kind::Malformed, name.toStdString(), 0,
+                   "more than " + std::to_string(most) + " entries"};
+    list = std::move(*entries);
+    return Done{};
+  };
+  const Result<Done> cities = load("Kestrel.lst", MaxCities, state.CityList);
+  return cities ? load("StationsCall.DAT", MaxCalls, state.CallList) : cities;
 }
 
 void LoadSession(const DataFolder& folder, SessionState& state) {

@@ -47,6 +47,10 @@ Result<Done> FillDataFolder(const QString& folder);
 /// "1230x.dat" for the channel of 1230 kHz.
 QString StationFileName(float frequency);
 
+/// Reads the city list and then the call-sign index into `state`; stops at the first that is missing, cannot
+/// be read or holds too many entries.
+Result<Done> LoadPlaceLists(const DataFolder& folder, SessionState& state);
+
 /// Reads "Kestrel.CFG" into `state` as ReadSession does; a missing or unreadable file is a first start.
 void LoadSession(const DataFolder& folder, SessionState& state);
 

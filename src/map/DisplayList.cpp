@@ -91,8 +91,9 @@ void DisplayList::Clear() {
   stations_.clear();
 }
 
-void DisplayList::Play(Canvas& canvas) const {
-  for (const Command& command : commands_) PlayCommand(command, canvas);
+void DisplayList::PlayFrom(std::size_t length, Canvas& canvas) const {
+  for (std::size_t i = 0; i < commands_.size(); ++i)
+    if (i >= length || SetsState(commands_[i].verb)) PlayCommand(commands_[i], canvas);
 }
 
 void DisplayList::PlayCommand(const Command& command, Canvas& canvas) const {

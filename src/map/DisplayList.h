@@ -38,7 +38,13 @@ class DisplayList final : public Canvas {
   bool IsEmpty() const { return commands_.empty(); }
 
   /// Draws everything again, in the order it was drawn.
-  void Play(Canvas& canvas) const;
+  void Play(Canvas& canvas) const { PlayFrom(0, canvas); }
+
+  /// How much has been drawn: what PlayFrom takes to draw only what came later.
+  std::size_t Length() const { return commands_.size(); }
+
+  /// Draws what was drawn after the list was `length` long, in the colours and fonts set before.
+  void PlayFrom(std::size_t length, Canvas& canvas) const;
 
   /// The stations drawn, in drawing order.
   const std::vector<StationMark>& Stations() const { return stations_; }
@@ -73,6 +79,9 @@ class DisplayList final : public Canvas {
     Point at = {};            // the text's place
   };
 
+  static bool SetsState(Verb verb) {
+    return verb == Verb::SetColor || verb == Verb::SetLineWidth || verb == Verb::SetFont;
+  }
   void AddPoints(Verb verb, std::span<const Point> points, float number = 0);
   void PlayCommand(const Command& command, Canvas& canvas) const;
 

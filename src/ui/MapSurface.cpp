@@ -20,6 +20,10 @@ void MapSurface::ShowDrawing() {
   update();
 }
 
+void MapSurface::ShowAdditions() {
+  update();
+}
+
 SheetFit MapSurface::Fit() const {
   return FitSheet(static_cast<float>(std::max(1, width())), static_cast<float>(std::max(1, height())), area_);
 }
@@ -35,18 +39,26 @@ QPointF MapSurface::FromSheet(Point sheet) const {
 
 void MapSurface::Render() {
   const QSize pixels = size() * devicePixelRatio();
-  if (!stale_ && image_.size() == pixels) return;
+  if (!stale_ && image_.size() == pixels) {
+    if (shown_ < drawing_.Length()) Play(shown_);
+    return;
+  }
   image_ = QImage(pixels, QImage::Format_RGB32);
   image_.setDevicePixelRatio(devicePixelRatio());
   image_.fill(Qt::white);
+  Play(0);
+  stale_ = false;
+}
+
+void MapSurface::Play(std::size_t from) {
   QPainter painter(&image_);
   SurfaceRules rules;
   rules.Fit = Fit();
   rules.Area = QRectF(rect());
   rules.SmallestXHeight = smallestXHeight_;
   PainterCanvas canvas(painter, rules);
-  drawing_.Play(canvas);
-  stale_ = false;
+  drawing_.PlayFrom(from, canvas);
+  shown_ = drawing_.Length();
 }
 
 void MapSurface::paintEvent(QPaintEvent*) {

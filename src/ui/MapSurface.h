@@ -23,6 +23,9 @@ class MapSurface final : public QWidget {
   const DisplayList& Drawing() const { return drawing_; }
   void ShowDrawing();
 
+  /// The same when something was only added: the picture is drawn on, not anew.
+  void ShowAdditions();
+
   /// Where a position of the mouse lies on the sheet, in twips, and back.
   Point ToSheet(const QPointF& position) const;
   QPointF FromSheet(Point sheet) const;
@@ -43,6 +46,7 @@ class MapSurface final : public QWidget {
 
  private:
   void Render();
+  void Play(std::size_t from);
   SheetFit Fit() const;
 
   PlatformTextMeasure measure_;

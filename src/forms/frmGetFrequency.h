@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QDialog>
+
+#include "forms/Workspace.h"
+
+class QLineEdit;
+
+namespace kestrel {
+
+/// The window in which the channel is chosen. It changes the session's channel; what is to be drawn after it
+/// has closed is its Choice().
+class frmGetFrequency final : public QDialog {
+ public:
+  enum class Plot {
+    Nothing,     ///< the window was left by its frame or Escape: nothing has changed
+    OnTop,       ///< the channel is added to what is drawn
+    AfterErase,  ///< the map is drawn anew
+  };
+
+  explicit frmGetFrequency(const Workspace& workspace, QWidget* parent = nullptr);
+
+  Plot Choice() const { return choice_; }
+
+ private:
+  void AddPlot();
+  void ErasePlot();
+  void Step(std::optional<std::string> (*step)(SessionState&));
+  void CloseWith(Plot choice, const std::optional<std::string>& message);
+
+  Workspace workspace_;
+  QLineEdit* txtGetFrequency_;
+  Plot choice_ = Plot::Nothing;
+};
+
+}  // namespace kestrel

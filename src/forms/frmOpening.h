@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QWidget>
+#include <functional>
+
+#include "draw/Fonts.h"
+#include "forms/Workspace.h"
+#include "map/DisplayList.h"
+
+class QLabel;
+
+namespace kestrel {
+
+/// The opening screen: title, version and an overview map over a dark-to-blue background. Loading it reads
+/// the lists and the last session.
+class frmOpening final : public QWidget {
+ public:
+  explicit frmOpening(const Workspace& workspace);
+
+  /// Loads the place lists and the last session and draws the overview map. A list that cannot be read ends
+  /// the loading with a message; the screen stays with what was done so far.
+  void Load();
+
+  /// Called when Start is pressed, the session read by then.
+  std::function<void()> Started;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  QLabel* AddLabel(const char* name, const QString& caption, FontFace face);
+  void AddButton(const char* name, const QString& caption, std::function<void()> action);
+  void Start();
+  void ReadSessionOnce();
+  void PlaceControls();
+  void RenderBackdrop();
+
+  Workspace workspace_;
+  PlatformTextMeasure measure_;
+  DisplayList overview_{measure_};
+  QImage backdrop_;
+  bool backdropStale_ = true;
+  bool sessionRead_ = false;
+};
+
+}  // namespace kestrel
