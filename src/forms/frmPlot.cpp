@@ -237,7 +237,7 @@ void frmPlot::Scan() {
          channel += ChannelStep) {
       progress_->setValue(static_cast<int>(channel));
       progress_->setFormat(FrequencyText(channel));
-      ScanChannel(surface_->Drawing(), workspace_.Folder, projection, channel);
+      static_cast<void>(DrawScannedChannel(surface_->Drawing(), workspace_.Folder, projection, channel));
       surface_->ShowAdditions();
       workspace_.System.ProcessEvents();
     }

@@ -1,0 +1,40 @@
+#include "core/Distance.h"
+
+#include <cmath>
+
+#include "core/Geodesy.h"
+#include "core/Numbers.h"
+#include "core/Text.h"
+
+namespace kestrel {
+
+Position TypedTarget(float latitude, float longitude) {
+  return {latitude, std::abs(longitude)};
+}
+
+DistanceReadout MeasureDistance(const Position& from, const Position& to, int unit) {
+  // Home's longitude west positive, the target's east positive: the course comes out clockwise.
+  const GreatCircleResult course = GreatCircle(from.Latitude, from.Longitude, -to.Longitude, to.Latitude);
+  DistanceReadout readout;
+  readout.Unit = unit == 1 ? 1 : 0;
+  readout.Bearing = TruncateToTenth(course.Bearing);
+  const float distance =
+      readout.Unit == 1 ? static_cast<float>(course.Distance * MilesPerKilometre) : course.Distance;
+  readout.Distance = TruncateToTenth(distance);
+  readout.BearingText = NumberText(readout.Bearing) + " deg";
+  readout.DistanceText = NumberText(readout.Distance) + (readout.Unit == 1 ? " mi " : " km ");
+  return readout;
+}
+
+std::string PositionText(const Position& position) {
+  return NumberText(position.Latitude) + "N, " + NumberText(position.Longitude) + "W";
+}
+
+std::string DistanceInstruction(const std::string& homeName, const Position& home) {
+  const auto line = [](std::string_view from) { return "Get distance from " + std::string(from) + " to:"; };
+  if (!homeName.empty()) return CharacterCount(Trim(homeName)) > 3 ? line(Trim(homeName)) : std::string();
+  if (home.Latitude == 0 || home.Longitude == 0) return line("home");
+  return line(PositionText(home));
+}
+
+}  // namespace kestrel
