@@ -11,7 +11,6 @@ int main(int argc, char** argv) {
   QApplication app(argc, argv);
   QApplication::setOrganizationName("kestrel");
   QApplication::setApplicationName("kestrel");
-  QApplication::setApplicationDisplayName("KestrelII");
   QApplication::setWindowIcon(ProgramIcon());
 
   DesktopPlatform platform;

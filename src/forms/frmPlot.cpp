@@ -293,6 +293,7 @@ void frmPlot::SaveSessionOnce() {
   const QRectF place(surface_->FromSheet({0, 3000}), surface_->FromSheet({SheetWidth, 3400}));
   savedNotice_->setGeometry(place.toAlignedRect());
   savedNotice_->show();
+  savedNotice_->repaint();
   workspace_.System.Pause(1);
   savedNotice_->hide();
 }
