@@ -1,26 +1,56 @@
-#include <QGuiApplication>
-#include "draw/Fonts.h"
-#include "draw/Picture.h"
-#include "map/MainMap.h"
+#include "cli/Commands.h"
+#include "cli/Console.h"
+#include "cli/Options.h"
+
+namespace {
+
 using namespace kestrel;
+using namespace kestrel::cli;
+
+void Describe(CLI::App& app, Request& request) {
+  app.name("kestrel-cli");
+  app.set_version_flag("--version", "kestrel-cli " + SessionState().ProgramVersion);
+  app.require_subcommand(1);
+  app.fallthrough();  // --data and --session are taken behind the command too
+  AddFileName(app, "--data", request.Data, "the folder with the station, outline and list files")
+      ->type_name("DIR");
+  AddFileName(app, "--session", request.SessionFile, "take home, channel and view from a last-session file");
+  for (const auto add : {AddStationsCommand, AddPatternCommand, AddHetsCommand, AddDistanceCommand,
+                         AddMapCommand, AddScanCommand, AddSessionCommand})
+    add(app, request);
+}
+
+/// Help and version are asked for by what the parser throws, too.
+ExitStatus Answer(const CLI::App& app, const CLI::ParseError& thrown) {
+  if (thrown.get_exit_code() == 0) {
+    app.exit(thrown);
+    return Succeeded;
+  }
+  const auto chosen = app.get_subcommands();
+  const std::string command = chosen.empty() ? "" : chosen.front()->get_name() + ' ';
+  Say(std::string(thrown.what()) + "; kestrel-cli " + command + "--help tells more");
+  return WronglyUsed;
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  QGuiApplication app(argc, argv);
-  SessionState state;
-  DataFolder folder(argv[1]);
-  state.CurrentFrequency = std::stof(argv[2]);
-  state.SelectedFrequency = state.CurrentFrequency;
-  state.ScaleFactor = std::stof(argv[3]);
-  if (argc > 5) state.AdjacentsShown = state.CompassShown = 1;
-  PlatformTextMeasure m;
-  DisplayList list(m);
-  auto t0 = std::chrono::steady_clock::now();
-  DrawMainMap(list, folder, state);
-  auto t1 = std::chrono::steady_clock::now();
-  RenderImage(list, {1600, 1200});
-  auto t2 = std::chrono::steady_clock::now();
-  auto r = WritePicture(list, {1600, 1200}, argv[4]);
-  fprintf(stderr, "draw %.1f ms render %.1f ms\n", std::chrono::duration<double, std::milli>(t1 - t0).count(),
-          std::chrono::duration<double, std::milli>(t2 - t1).count());
-  return r ? 0 : 1;
+  CLI::App app("Maps and figures of medium-wave stations in the Americas, without a window.");
+  Request request;
+  Describe(app, request);
+  try {
+    app.parse(argc, argv);
+    return Succeeded;
+  } catch (const CLI::ParseError& thrown) {
+    return Answer(app, thrown);
+  } catch (const WrongUse& wrong) {
+    Say(wrong.what());
+    return WronglyUsed;
+  } catch (const Failure& failure) {
+    Say(failure.what());
+    return Failed;
+  } catch (const std::bad_alloc&) {
+    Say("there is not enough memory; ask for a smaller picture with --size");
+    return Failed;
+  }
 }

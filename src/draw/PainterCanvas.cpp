@@ -73,18 +73,12 @@ void PainterCanvas::FilledCircle(Point center, float radius) {
   UsePen();
 }
 
-QRectF PainterCanvas::SurfaceBox(Point corner, Point opposite) const {
-  const Point a = view_.At(corner);
-  const Point b = view_.At(opposite);
-  return QRectF(QPointF(a.x, a.y), QPointF(b.x, b.y)).normalized();
-}
-
 void PainterCanvas::Box(Point corner, Point opposite) {
-  painter_.drawRect(SurfaceBox(corner, opposite));
+  painter_.drawRect(view_.Outlined(corner, opposite));
 }
 
 void PainterCanvas::FilledBox(Point corner, Point opposite) {
-  painter_.fillRect(SurfaceBox(corner, opposite), color_);
+  painter_.fillRect(view_.Filled(corner, opposite), color_);
 }
 
 void PainterCanvas::Dot(Point at) {

@@ -36,7 +36,6 @@ class PainterCanvas final : public Canvas {
  private:
   void UsePen();
   void UseFont();
-  QRectF SurfaceBox(Point corner, Point opposite) const;
 
   QPainter& painter_;
   SurfaceView view_;

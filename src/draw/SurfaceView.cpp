@@ -1,6 +1,7 @@
 #include "draw/SurfaceView.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "draw/Fonts.h"
 
@@ -30,6 +31,20 @@ Point SurfaceView::Baseline(Point topLeft, const Font& font) const {
 void SurfaceView::BeginPanel(Point anchor, const Font& smallest) {
   panelAnchor_ = anchor;
   panelGrowth_ = Growth(smallest);
+}
+
+QRectF SurfaceView::Filled(Point corner, Point opposite) const {
+  const auto snapped = [&](Point sheet) {
+    const Point at = At(sheet);
+    return QPointF(std::round(at.x / rules_.PixelSize), std::round(at.y / rules_.PixelSize)) *
+           rules_.PixelSize;
+  };
+  return QRectF(snapped(corner), snapped(opposite)).normalized();
+}
+
+QRectF SurfaceView::Outlined(Point corner, Point opposite) const {
+  const double half = rules_.PixelSize / 2;
+  return Filled(corner, opposite).adjusted(half, half, -half, -half).normalized();
 }
 
 bool SurfaceView::Shows(Point sheet, double radiusTwips) const {

@@ -39,6 +39,13 @@ class SurfaceView {
   void BeginPanel(Point anchor, const Font& smallest);
   void EndPanel() { panelGrowth_ = 1; }
 
+  /// A box on the surface, its edges on whole pixels: boxes that share an edge leave no seam between them
+  /// through which lines shine.
+  QRectF Filled(Point corner, Point opposite) const;
+
+  /// Likewise for a line around it, which runs through the middle of pixels.
+  QRectF Outlined(Point corner, Point opposite) const;
+
   bool Shows(Point sheet, double radiusTwips) const;
 
   /// Calls `draw(std::span<const QPointF>)` for each run of the polyline that may touch the surface's area.

@@ -1,5 +1,6 @@
 #include "draw/SvgCanvas.h"
 
+#include <algorithm>
 #include <array>
 #include <vector>
 
@@ -25,6 +26,14 @@ QString GenericFamily(FontFace face) {
     default:
       return "DejaVu Sans, sans-serif";
   }
+}
+
+/// The text without what XML 1.0 cannot hold, not even escaped: blanks stand in place of control characters.
+QString XmlText(std::string_view text) {
+  QString string = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+  for (QChar& c : string)
+    if (c.unicode() < 0x20 || c.unicode() == 0xFFFE || c.unicode() == 0xFFFF) c = QChar(' ');
+  return string;
 }
 
 /// Letters, digits, - and . only.
@@ -73,6 +82,7 @@ void SvgCanvas::WriteStroke() {
   xml_.writeAttribute("stroke", color_);
   xml_.writeAttribute("stroke-width", Number(lineWidth_ * view_.PixelSize()));
   xml_.writeAttribute("stroke-linejoin", "round");
+  xml_.writeAttribute("stroke-linecap", "round");  // a line of no length is a dot, not nothing
 }
 
 void SvgCanvas::SetColor(ColorValue color) {
@@ -124,9 +134,7 @@ void SvgCanvas::FilledCircle(Point center, float radius) {
 }
 
 void SvgCanvas::WriteBox(Point corner, Point opposite, bool filled) {
-  const Point a = view_.At(corner);
-  const Point b = view_.At(opposite);
-  const QRectF box = QRectF(QPointF(a.x, a.y), QPointF(b.x, b.y)).normalized();
+  const QRectF box = filled ? view_.Filled(corner, opposite) : view_.Outlined(corner, opposite);
   if (!view_.Area().intersects(box)) return;
   Begin("rect");
   xml_.writeAttribute("x", Number(box.x()));
@@ -151,7 +159,6 @@ void SvgCanvas::Dot(Point at) {
 }
 
 void SvgCanvas::Text(Point topLeft, std::string_view text) {
-  const QString string = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
   const Point at = view_.Baseline(topLeft, font_);
   const double size = view_.FontSize(font_);
   const double width = size * measure_.TextWidth(font_, text) / (font_.Points * TwipsPerPoint);
@@ -164,7 +171,7 @@ void SvgCanvas::Text(Point topLeft, std::string_view text) {
   if (font_.Face == FontFace::SansBold) xml_.writeAttribute("font-weight", "bold");
   xml_.writeAttribute("fill", color_);
   xml_.writeAttribute("xml:space", "preserve");
-  xml_.writeCharacters(string);
+  xml_.writeCharacters(XmlText(text));
   xml_.writeEndElement();
 }
 
@@ -174,7 +181,8 @@ QString SvgCanvas::UniqueId(const StationMark& mark) {
   // An id may not begin with a digit, a point or a dash.
   const QString base = stem.front().isLetter() ? stem : "s" + stem;
   QString id = base;
-  for (int number = 2; !ids_.insert(id).second; ++number) id = base + '-' + QString::number(number);
+  for (int& number = numbers_[base]; !ids_.insert(id).second;)
+    id = base + '-' + QString::number(std::max(++number, 2));
   return id;
 }
 

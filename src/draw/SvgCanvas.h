@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QXmlStreamWriter>
+#include <map>
 #include <set>
 
 #include "draw/Fonts.h"
@@ -56,6 +57,7 @@ class SvgCanvas final : public Canvas {
   const StationMark* pending_ = nullptr;  // a station whose group is opened with its first visible element
   bool groupOpen_ = false;
   std::set<QString> ids_;
+  std::map<QString, int> numbers_;  // the last one added to an id
 };
 
 }  // namespace kestrel

@@ -1,0 +1,77 @@
+#include <unistd.h>
+
+#include <cstdio>
+
+#include "cli/Commands.h"
+#include "cli/Console.h"
+#include "cli/Options.h"
+#include "core/Numbers.h"
+#include "data/StationFile.h"
+#include "draw/Fonts.h"
+#include "draw/Picture.h"
+#include "map/BandScan.h"
+#include "map/Outlines.h"
+
+namespace kestrel::cli {
+namespace {
+
+/// A line that names the channel being drawn, on standard error when that is a terminal.
+class ProgressLine {
+ public:
+  void Show(float channel) const {
+    if (shown_) Write("\rkestrel-cli: scanning " + NumberText(channel) + " kHz ");
+  }
+  ~ProgressLine() {
+    if (shown_) Write("\r\x1B[K");
+  }
+
+ private:
+  static void Write(const std::string& text) { std::fwrite(text.data(), 1, text.size(), stderr); }
+
+  const bool shown_ = isatty(STDERR_FILENO) != 0;
+};
+
+void DrawBand(const DataFolder& folder, const MapProjection& projection, Canvas& canvas) {
+  std::vector<std::string> notes;
+  int channels = 0;
+  {
+    const ProgressLine progress;
+    for (float channel = LowestChannel; channel <= HighestChannel; channel += ChannelStep) {
+      progress.Show(channel);
+      const Result<Done> drawn = DrawScannedChannel(canvas, folder, projection, channel);
+      if (drawn)
+        ++channels;
+      else if (drawn.error().kind != Error::Kind::NotFound)
+        notes.push_back(drawn.error().Message());
+    }
+  }
+  Say(notes);
+  if (channels == 0)
+    Say(folder.Path().toStdString() + ": no station file was drawn; name another folder with --data");
+}
+
+void Scan(const Request& request) {
+  const auto platform = StartPlatform(Platform::Pictures);
+  const SessionState state = SessionFor(request);
+  const DataFolder folder = DataFor(request);
+  const MapProjection projection(state.HomeLatitude, state.HomeLongitude, state.ScaleFactor);
+
+  const PlatformTextMeasure measure;
+  DisplayList drawing(measure);
+  DrawOutlineFiles(drawing, folder, projection);
+  DrawBand(folder, projection, drawing);
+  const Result<Done> written = WritePicture(drawing, request.Size, QString::fromStdString(request.Output));
+  if (!written) Fail(request.Output, written.error(), "the picture was not written");
+}
+
+}  // namespace
+
+void AddScanCommand(CLI::App& app, Request& request) {
+  CLI::App& command = *app.add_subcommand("scan", "Draw where the stations of all channels stand");
+  AddHome(command, request);
+  AddScale(command, request);
+  AddPicture(command, request);
+  command.callback([&request] { Scan(request); });
+}
+
+}  // namespace kestrel::cli

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+#include <QSize>
+#include <memory>
+
+struct z_stream_s;
+
+namespace kestrel {
+
+/// Makes a PNG file (ISO 15948) of 8-bit RGB from the image's rows as they come, so that a large picture is
+/// never held whole. Tuned for maps: lines on white need no filter and little effort of the compressor.
+class PngFile {
+ public:
+  explicit PngFile(QSize size);
+  ~PngFile();
+
+  /// The next rows, top to bottom. REQUIRES: as wide as the picture, Format_RGB32.
+  void AddRows(const QImage& rows);
+
+  /// The whole file. Call once, after the last row.
+  QByteArray Finish();
+
+ private:
+  void AddChunk(const char* type, const QByteArray& content);
+  void Compress(const QByteArray& bytes, int flush);
+
+  QByteArray file_;
+  QByteArray row_;
+  std::unique_ptr<z_stream_s> stream_;
+};
+
+}  // namespace kestrel
