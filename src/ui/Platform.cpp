@@ -9,8 +9,13 @@
 #include <chrono>
 
 #include "draw/PainterCanvas.h"
+#include "ui/PrintPreview.h"
 
 namespace kestrel {
+
+std::optional<PrintOrder> Platform::OfferPrinting(QWidget*, const PrintOffer&) {
+  return std::nullopt;
+}
 
 void DesktopPlatform::ShowMessage(QWidget* parent, const QString& text) {
   QMessageBox box(QMessageBox::NoIcon, "KestrelII", text, QMessageBox::Ok, parent);
@@ -43,6 +48,10 @@ void DesktopPlatform::Pause(double seconds) {
 
 void DesktopPlatform::ProcessEvents() {
   QApplication::processEvents();
+}
+
+std::optional<PrintOrder> DesktopPlatform::OfferPrinting(QWidget* parent, const PrintOffer& offer) {
+  return ChoosePrinting(parent, offer);
 }
 
 }  // namespace kestrel

@@ -4,8 +4,8 @@
 #include <optional>
 
 #include "core/SessionState.h"
+#include "ui/Printing.h"
 
-class QPrinter;
 class QWidget;
 
 namespace kestrel {
@@ -32,6 +32,10 @@ class Platform {
 
   /// Lets pending events be processed once.
   virtual void ProcessEvents() = 0;
+
+  /// Lets the user look at what would be printed and choose printer and paper. Nothing when it is cancelled,
+  /// and on a platform that does not print.
+  virtual std::optional<PrintOrder> OfferPrinting(QWidget* parent, const PrintOffer& offer);
 };
 
 /// The platform that the program runs on.
@@ -43,6 +47,7 @@ class DesktopPlatform final : public Platform {
   void OpenAddress(const QString& address) override;
   void Pause(double seconds) override;
   void ProcessEvents() override;
+  std::optional<PrintOrder> OfferPrinting(QWidget* parent, const PrintOffer& offer) override;
 };
 
 }  // namespace kestrel
