@@ -2,8 +2,9 @@
 
 #include <cmath>
 
-#include "core/Geodesy.h"
+#include "core/Distance.h"
 #include "core/Numbers.h"
+#include "core/Text.h"
 #include "data/StationFile.h"
 #include "map/ChannelPlot.h"
 #include "map/MapProjection.h"
@@ -76,12 +77,9 @@ std::string HoursWord(const std::string& hoursCode) {
 }
 
 std::string FromHomeText(const SessionState& state, float latitude, float longitudeWest) {
-  const GreatCircleResult course =
-      GreatCircle(state.HomeLatitude, state.HomeLongitude, -longitudeWest, latitude);
-  const bool miles = state.DistanceUnit == 1;
-  const double distance = miles ? course.Distance * MilesPerKilometre : course.Distance;
-  return NumberText(TruncateToTenth(distance)) + (miles ? " mi, " : " km, ") +
-         NumberText(TruncateToTenth(course.Bearing)) + " deg";
+  const DistanceReadout readout = MeasureDistance({state.HomeLatitude, state.HomeLongitude},
+                                                  {latitude, longitudeWest}, state.DistanceUnit);
+  return std::string(Trim(readout.DistanceText)) + ", " + readout.BearingText;
 }
 
 }  // namespace kestrel
