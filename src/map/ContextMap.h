@@ -10,8 +10,9 @@ namespace kestrel {
 inline constexpr float ContextMapWidth = 12000;
 inline constexpr float ContextMapHeight = 9000;
 
-/// The part of the drawing area that holds the map and its margins.
-inline constexpr SheetArea ContextMapArea = {0, 0, 0.7F * ContextMapWidth, 0.7F * ContextMapHeight};
+/// The part of the drawing area that holds the framed map and a margin.
+inline constexpr SheetArea ContextMapArea = {0.035F * ContextMapWidth, 0.035F * ContextMapHeight,
+                                             0.63F * ContextMapWidth, 0.63F * ContextMapHeight};
 
 /// Draws coasts and borders around the station in a frame, with the station's mark, 1.6 twips to the
 /// kilometre at zoom 1. Latitude north, longitude WEST positive. What was drawn before is covered. An outline

@@ -15,23 +15,31 @@ namespace {
 
 constexpr ColorValue kTextColor = 0x202020;
 constexpr Font kHeadFont = {FontFace::SansBold, 10};
+constexpr Font kTableFont = {FontFace::SansBold, 9};
 constexpr Font kTextFont = {FontFace::Sans, 9};
 constexpr Font kSmallFont = {FontFace::Sans, 8};
 constexpr float kLine = 250;  // from line to line
 constexpr PageSize kSmallestMap = {9000, 7500};
-constexpr PageSize kSmallestStation = {9600, 9600};
+constexpr PageSize kSmallestStation = {9600, 10800};
 
 /// A pane that is a part of the page itself, drawn at its true size.
 PagePane TextPane(const SheetArea& place, std::function<void(Canvas&)> draw) {
   return {place, {0, 0, place.Width, place.Height}, std::move(draw)};
 }
 
-std::string HomeText(const SessionState& state) {
+std::string HomePlace(const SessionState& state) {
   const auto degrees = [](float value, const char* positive, const char* negative) {
     return NumberText(value < 0 ? -value : value) + (value < 0 ? negative : positive);
   };
-  return "Home: " + state.HomeName + "  " + degrees(state.HomeLatitude, " N", " S") + ", " +
+  return state.HomeName + "  " + degrees(state.HomeLatitude, " N", " S") + ", " +
          degrees(state.HomeLongitude, " W", " E");
+}
+
+/// The sheet, or more of the map where the place is larger, so that text keeps its 8 to 10 points.
+SheetArea MapIn(const SheetArea& place) {
+  const float width = std::max(SheetWidth, place.Width);
+  const float height = std::max(SheetHeight, place.Height);
+  return {(SheetWidth - width) / 2, (SheetHeight - height) / 2, width, height};
 }
 
 /// A title over a framed part of the map.
@@ -47,10 +55,11 @@ std::vector<PagePane> TitledMap(PageSize page, const std::string& title, const s
     canvas.SetFont(kSmallFont);
     canvas.Text({0, kLine}, source);
   }));
-  panes.push_back({frame, {}, std::move(draw)});
+  panes.push_back({frame, MapIn(frame), std::move(draw)});
   panes.push_back(TextPane(frame, [frame](Canvas& canvas) {
+    constexpr float kHair = 8;  // keeps the frame's line off the paper's edge
     canvas.SetColor(kTextColor);
-    canvas.Box({0, 0}, {frame.Width, frame.Height});
+    canvas.Box({kHair, kHair}, {frame.Width - kHair, frame.Height - kHair});
   }));
   return panes;
 }
@@ -76,7 +85,7 @@ std::vector<LabelledValue> StationWords(const SessionState& state, const Station
           {"Longitude", degrees(selection.Longitude, "west", "east")},
           {"Towers", std::to_string(selection.SelectedTowerCount)},
           {"From home", FromHomeText(state, selection.Latitude, selection.Longitude)},
-          {"", HomeText(state)}};
+          {"Home", HomePlace(state)}};
 }
 
 PagePane WordsPane(const SheetArea& place, const SessionState& state, const StationSelection& selection,
@@ -100,12 +109,12 @@ PagePane WordsPane(const SheetArea& place, const SessionState& state, const Stat
 
 PagePane TablePane(const SheetArea& place, std::vector<TowerRow> rows) {
   return TextPane(place, [rows = std::move(rows)](Canvas& canvas) {
-    static constexpr std::array<const char*, TowerColumns> kUnits = {"ratio",   "degrees",      "degrees",
-                                                                     "degrees", "degrees true", ""};
+    static constexpr std::array<const char*, TowerColumns> kUnits = {"ratio",   "degrees",  "degrees",
+                                                                     "degrees", "deg true", ""};
     constexpr float kNumberWidth = 600;
-    constexpr float kColumn = 1050;
+    constexpr float kColumn = 1120;
     canvas.SetColor(kTextColor);
-    canvas.SetFont(kHeadFont);
+    canvas.SetFont(kTableFont);
     canvas.Text({0, 0}, "Tower");
     const auto left = [](std::size_t column) {
       return kNumberWidth + 100 + kColumn * static_cast<float>(column);
@@ -126,7 +135,7 @@ PagePane TablePane(const SheetArea& place, std::vector<TowerRow> rows) {
 
 PrintedPage MapPage(const SessionState& state, const DataFolder& folder, const DisplayList& drawing) {
   const float frequency = state.SelectedFrequency > 0 ? state.SelectedFrequency : state.CurrentFrequency;
-  const std::string title = NumberText(frequency) + " kHz    " + HomeText(state);
+  const std::string title = NumberText(frequency) + " kHz    Home: " + HomePlace(state);
   const std::string source = folder.StationsLine();
   const auto layout = [title, source, &drawing](PageSize page) {
     return TitledMap(page, title, source, [&drawing](Canvas& canvas) { drawing.Play(canvas); });
@@ -136,7 +145,7 @@ PrintedPage MapPage(const SessionState& state, const DataFolder& folder, const D
 
 PrintedPage OutlinePage(const SessionState& state, const DataFolder& folder) {
   const MapProjection projection(state.HomeLatitude, state.HomeLongitude, state.ScaleFactor);
-  const auto layout = [projection, &folder, title = "Region 2    " + HomeText(state)](PageSize page) {
+  const auto layout = [projection, &folder, title = "Region 2    Home: " + HomePlace(state)](PageSize page) {
     return TitledMap(page, title, {},
                      [projection, &folder](Canvas& canvas) { DrawOutlineFiles(canvas, folder, projection); });
   };
@@ -150,22 +159,24 @@ PrintedPage StationPage(const SessionState& state, const DataFolder& folder,
   const std::vector<TowerRow> rows = records.empty() ? std::vector<TowerRow>{} : TowerTable(records.back());
   const auto layout = [&state, shown, rows, records, source = folder.StationsLine()](PageSize page) {
     constexpr float kWordsHeight = 15 * kLine;
+    constexpr float kTableHeight = (MaxTowers + 2) * kLine;
+    constexpr float kTableWidth = 7600;
     constexpr float kGap = 300;
-    constexpr float kColumnWidth = 7100;
-    const float tableHeight = kLine * static_cast<float>(MaxTowers + 2);
+    constexpr float kWide = 1.25F;  // of the height: then words and table stand side by side
     const auto drawPlot = [&state, records](Canvas& canvas) {
       DrawStationPlot(canvas, state.AspectRatio, records);
     };
-    const bool wide = page.Width > page.Height;
-    const float column = wide ? kColumnWidth : page.Width;
-    const float plotHeight = page.Height - kWordsHeight - tableHeight - 2 * kGap;
-    const SheetArea plot = wide ? SheetArea{column, 0, page.Width - column, page.Height}
-                                : SheetArea{0, kWordsHeight, page.Width, plotHeight};
-    const float tableTop = page.Height - tableHeight;
+    const bool wide = page.Width > kWide * page.Height;
+    const float fitting = page.Width * StationPlotArea.Height / StationPlotArea.Width;
+    const float left = page.Height - kWordsHeight - (wide ? kGap : kTableHeight + 2 * kGap);
+    const SheetArea plot = {0, kWordsHeight + kGap / 2, page.Width,
+                            std::min({fitting, left, StationPlotArea.Height})};
+    const SheetArea table = wide ? SheetArea{page.Width - kTableWidth, 0, kTableWidth, kTableHeight}
+                                 : SheetArea{0, plot.Top + plot.Height + kGap, page.Width, kTableHeight};
+    const SheetArea words = {0, 0, wide ? table.Left - kGap : page.Width, kWordsHeight};
     // The plot first: its enlarged trace leaves white lines far outside the plot box.
-    return std::vector<PagePane>{{plot, StationPlotArea, drawPlot},
-                                 WordsPane({0, 0, column, kWordsHeight}, state, shown, source),
-                                 TablePane({0, tableTop, column, tableHeight}, rows)};
+    return std::vector<PagePane>{
+        {plot, StationPlotArea, drawPlot}, WordsPane(words, state, shown, source), TablePane(table, rows)};
   };
   return {"KestrelII station data", false, kSmallestStation, layout, StationPlotGreys()};
 }

@@ -9,7 +9,7 @@
 namespace kestrel {
 
 /// The part of the sheet that holds the station plot: legend, polar plot and tower layout, left to right.
-inline constexpr SheetArea StationPlotArea = {300, 3950, 12000, 5100};
+inline constexpr SheetArea StationPlotArea = {300, 3950, 11200, 5100};
 
 /// Draws the records of one station and hours, each polar plot over the one before, then the tower layout of
 /// the last one and the legend. A record with a tower that lacks its field ratio is left out; one whose
