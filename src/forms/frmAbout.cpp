@@ -49,10 +49,16 @@ frmAbout::frmAbout(const Workspace& workspace, QWidget* parent) : QDialog(parent
   setWindowTitle("KestrelII - About");
 
   const int line = fontMetrics().height();
-  MapSurface* array = MakePicture("Image1", ArrayPictureArea, 11 * line);
+  MapSurface* array = MakePicture("Image1", ArrayPictureArea, 12 * line);
   DrawArrayPicture(array->Drawing());
-  MapSurface* map = MakePicture("Image2", MapPictureArea, 11 * line);
+  MapSurface* map = MakePicture("Image2", MapPictureArea, 12 * line);
   DrawMapPicture(map->Drawing(), workspace_.Folder);
+
+  auto* pictures = new QVBoxLayout;
+  pictures->addWidget(array);
+  pictures->addSpacing(line / 2);
+  pictures->addWidget(map);
+  pictures->addStretch();
 
   QPushButton* systemInformation =
       MakeButton("cmdSysInfo", "&System Info", "Starts the system's own information tool");
@@ -71,16 +77,15 @@ frmAbout::frmAbout(const Workspace& workspace, QWidget* parent) : QDialog(parent
   layout->setSpacing(line / 2);
   layout->setColumnStretch(1, 1);
   layout->setRowStretch(2, 1);
-  layout->addWidget(array, 0, 0, 3, 1, Qt::AlignTop);
-  layout->addWidget(map, 3, 0, Qt::AlignTop);
+  layout->addLayout(pictures, 0, 0, 3, 1);
   layout->addWidget(MakeHeading("lblTitle", "KestrelII", 2.4, true), 0, 1);
   layout->addWidget(
       MakeHeading("lblVersion", "Version " + QString::fromStdString(state.ProgramVersion), 1.2, false), 1, 1);
   layout->addWidget(
       MakeScrolling(
           MakeLabel("lblDescription", QString::fromStdString(AboutText(workspace_.Folder.StationsLine())))),
-      2, 1, 2, 1);
-  layout->addLayout(buttons, 4, 0, 1, 2);
+      2, 1);
+  layout->addLayout(buttons, 3, 0, 1, 2);
   resize(fontMetrics().averageCharWidth() * 110, sizeHint().height());
   exit->setFocus();
 }

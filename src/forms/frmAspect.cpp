@@ -34,6 +34,8 @@ frmAspect::frmAspect(const Workspace& workspace, QWidget* parent) : QDialog(pare
   layout->addWidget(value_, 0, 1);
   layout->addWidget(wide, 0, 2);
   layout->addWidget(exit, 1, 0, 1, 3);
+  // Wide enough for its title beside the frame's own buttons.
+  setMinimumWidth(fontMetrics().horizontalAdvance(windowTitle()) * 2);
   wide->setFocus();
 }
 

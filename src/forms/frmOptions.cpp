@@ -77,7 +77,7 @@ void frmOptions::AddColor(QGridLayout* grid, ColorValue& color, const ColorNames
   label->setFont(bold);
   auto* outline = new MapSurface(nullptr, SampleArea);
   outline->setMinimumSize(1, 1);
-  outline->setFixedSize(fontMetrics().height() * 10 / 3, fontMetrics().height() * 7 / 3);
+  outline->setFixedSize(fontMetrics().height() * 8 / 3, fontMetrics().height() * 7 / 3);
   auto* row = new QHBoxLayout(paper);
   row->setContentsMargins(8, 1, 1, 1);
   row->addWidget(label, 1);

@@ -1,16 +1,25 @@
 #include "map/AboutPictures.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
+#include "core/Numbers.h"
+#include "data/OutlineFile.h"
+#include "data/StationFile.h"
 #include "map/ChannelPlot.h"
-#include "map/OverviewMap.h"
+#include "map/MapProjection.h"
+#include "map/Outlines.h"
 
 namespace kestrel {
 namespace {
 
 constexpr ColorValue Rgb(int red, int green, int blue) {
   return red | green << 8 | blue << 16;
+}
+
+std::string_view View(const QByteArray& bytes) {
+  return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
 }
 
 /// Towers in line, a spacing (electrical degrees) apart along a bearing.
@@ -49,6 +58,16 @@ void DrawFitted(Canvas& canvas, Point center, float radius, const PatternValues&
   DrawPattern(canvas, state, center, {0, radius / largest}, values);
 }
 
+/// Rows from near black to blue. Each is drawn down to the bottom, so that no seam shows between two.
+void DrawNightSky(Canvas& canvas, const SheetArea& area) {
+  constexpr int kRows = 80;
+  const Point end = {area.Left + area.Width, area.Top + area.Height};
+  for (int row = 0; row < kRows; ++row) {
+    canvas.SetColor(Rgb(8 + row / 8, 12 + row / 4, 34 + row));
+    canvas.FilledBox({area.Left, area.Top + area.Height * static_cast<float>(row) / kRows}, end);
+  }
+}
+
 void DrawGlowing(Canvas& canvas, Point center, float radius, const PatternValues& values,
                  std::span<const std::pair<float, ColorValue>> layers) {
   for (const auto& [width, color] : layers) {
@@ -63,19 +82,11 @@ void DrawGlowing(Canvas& canvas, Point center, float radius, const PatternValues
 void DrawSampleOutline(Canvas& canvas, ColorValue color) {
   canvas.SetLineWidth(1);
   canvas.SetColor(color);
-  DrawFitted(canvas, {280, 350}, 620, PatternOf({2, 90, 90, -100}));
+  DrawFitted(canvas, {220, 350}, 420, PatternOf({2, 90, 90, -90}));
 }
 
 void DrawArrayPicture(Canvas& canvas) {
-  const auto [left, top, width, height] = ArrayPictureArea;
-  constexpr int kRows = 80;
-  for (int row = 0; row < kRows; ++row) {
-    const float step = height / kRows;
-    canvas.SetColor(Rgb(8 + row / 8, 12 + row / 4, 34 + row));
-    const float y = top + step * static_cast<float>(row);
-    canvas.FilledBox({left, y}, {left + width, y + step + 10});
-  }
-
+  DrawNightSky(canvas, ArrayPictureArea);
   constexpr Point kCenter = {2000, 2250};
   canvas.SetLineWidth(1);
   canvas.SetColor(Rgb(44, 62, 110));
@@ -105,15 +116,40 @@ void DrawArrayPicture(Canvas& canvas) {
 }
 
 void DrawMapPicture(Canvas& canvas, const DataFolder& folder) {
-  const auto [left, top, width, height] = MapPictureArea;
-  constexpr int kRows = 100;
-  for (int row = 0; row < kRows; ++row) {
-    const float step = height / kRows;
-    const float y = top + step * static_cast<float>(row);
-    canvas.SetColor(OpeningBackground(row, kRows * 2));
-    canvas.FilledBox({left, y}, {left + width, y + step + 20});
+  DrawNightSky(canvas, MapPictureArea);
+
+  // The sea, lighter towards its middle.
+  constexpr int kShades = 40;
+  constexpr float kSeaRadius = 4200;
+  for (int shade = 0; shade < kShades; ++shade) {
+    const float share = static_cast<float>(shade) / kShades;
+    canvas.SetColor(Rgb(14 + shade / 3, 30 + shade, 78 + shade * 3 / 2));
+    canvas.FilledCircle(HomeOnSheet, kSeaRadius * std::sqrt(1 - share));
   }
-  DrawOverviewMap(canvas, folder);
+
+  const MapProjection projection(14, 86, 36);
+  const auto drawOutline = [&](const QString& name, ColorValue color) {
+    if (const Result<QByteArray> bytes = folder.Read(name)) {
+      canvas.SetColor(color);
+      DrawOutline(canvas, ReadOutline(View(*bytes)), projection);
+    }
+  };
+  canvas.SetLineWidth(0.6F);
+  drawOutline("STATES.dat", Rgb(70, 100, 160));
+  canvas.SetLineWidth(1);
+  drawOutline("REGION2.dat", Rgb(150, 190, 235));
+
+  canvas.SetColor(Rgb(255, 196, 96));
+  for (const float channel : {1230.F, 1340.F, 1450.F}) {
+    const Result<QByteArray> bytes = folder.Read(StationFileName(channel));
+    if (!bytes) continue;
+    StationLineReader stations(View(*bytes));
+    while (const auto station = stations.Next()) {
+      const auto at = projection.Station(static_cast<float>(LeadingNumber(station->Latitude)),
+                                         static_cast<float>(LeadingNumber(station->Longitude)));
+      if (at) canvas.FilledCircle(*at, 26);
+    }
+  }
 }
 
 }  // namespace kestrel

@@ -9,7 +9,7 @@
 
 namespace kestrel {
 
-inline constexpr SheetArea SampleArea = {0, 0, 1000, 700};
+inline constexpr SheetArea SampleArea = {0, 0, 800, 700};
 
 /// The outline of a small array's pattern in the colour given, as the map draws it.
 void DrawSampleOutline(Canvas& canvas, ColorValue color);
@@ -19,7 +19,7 @@ inline constexpr SheetArea ArrayPictureArea = {0, 0, 4000, 4000};
 /// An array of towers at night and the field around it.
 void DrawArrayPicture(Canvas& canvas);
 
-/// A part of the sheet of the overview map.
+/// A part of the main map's sheet.
 inline constexpr SheetArea MapPictureArea = {1500, 0, 9000, 9000};
 
 /// The Americas with the stations of the local channels.

@@ -8,6 +8,5 @@ int main(int argc, char** argv) {
   // The forms show and read numbers the same way in every locale; a comma locale would tell.
   QLocale::setDefault(QLocale(QLocale::German));
   QApplication app(argc, argv);
-  QApplication::setApplicationDisplayName("KestrelII");
   return RUN_ALL_TESTS();
 }
