@@ -4,12 +4,14 @@
 #include <QColorDialog>
 #include <QDesktopServices>
 #include <QMessageBox>
+#include <QProcess>
 #include <QThread>
 #include <QUrl>
 #include <chrono>
 
 #include "draw/PainterCanvas.h"
 #include "ui/PrintPreview.h"
+#include "ui/SystemInformation.h"
 
 namespace kestrel {
 
@@ -36,6 +38,11 @@ std::optional<ColorValue> DesktopPlatform::ChooseColor(QWidget* parent, const QS
 
 void DesktopPlatform::OpenAddress(const QString& address) {
   QDesktopServices::openUrl(QUrl(address, QUrl::TolerantMode));
+}
+
+bool DesktopPlatform::StartSystemInformation() {
+  const std::optional<ProgramCall> tool = FindSystemInformation();
+  return tool && QProcess::startDetached(tool->Program, tool->Arguments);
 }
 
 void DesktopPlatform::Pause(double seconds) {

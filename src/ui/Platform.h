@@ -27,6 +27,9 @@ class Platform {
   /// Lets the platform open a web address; failures are silent.
   virtual void OpenAddress(const QString& address) = 0;
 
+  /// Starts the system's own information tool; false when there is none.
+  virtual bool StartSystemInformation() = 0;
+
   /// Lets pending events be processed once, then waits.
   virtual void Pause(double seconds) = 0;
 
@@ -45,6 +48,7 @@ class DesktopPlatform final : public Platform {
   void Beep() override;
   std::optional<ColorValue> ChooseColor(QWidget* parent, const QString& title, ColorValue current) override;
   void OpenAddress(const QString& address) override;
+  bool StartSystemInformation() override;
   void Pause(double seconds) override;
   void ProcessEvents() override;
   std::optional<PrintOrder> OfferPrinting(QWidget* parent, const PrintOffer& offer) override;
