@@ -15,7 +15,8 @@ std::size_t Find(std::string_view bytes, char wanted, std::size_t from) {
 }
 
 bool IsPlainAscii(std::string_view line) {
-  return std::all_of(line.begin(), line.end(), [](char c) { return c > 0; });
+  return std::all_of(line.begin(), line.end(),
+                     [](char c) { return c != 0 && static_cast<unsigned char>(c) < 0x80; });
 }
 
 }  // namespace

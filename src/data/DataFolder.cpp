@@ -81,13 +81,21 @@ Result<DataFolder> LocateDataFolder(const QString& wanted) {
 }
 
 Result<Done> FillDataFolder(const QString& folder) {
+  return FillDataFolder(folder, BundledData());
+}
+
+Result<Done> FillDataFolder(const QString& folder, const QString& from) {
   if (!QDir().mkpath(folder))
     return Error{Error::Kind::Refused, folder.toStdString(), 0,
                  "the folder for the station data cannot be made"};
-  const QDir from(BundledData());
-  for (const QString& name : from.entryList(QDir::Files, QDir::Name)) {
+  const QDir source(from);
+  QStringList names = source.entryList(QDir::Files, QDir::Name);
+  // Its presence says that the folder is filled, so it comes last: a filling that broke off is taken up
+  // again.
+  if (names.removeOne(kOutlineFile)) names.append(kOutlineFile);
+  for (const QString& name : names) {
     if (!IsData(name) || DataFolder(folder).Has(name)) continue;
-    const Result<QByteArray> bytes = ReadFile(from.filePath(name));
+    const Result<QByteArray> bytes = ReadFile(source.filePath(name));
     if (!bytes) return bytes.error();
     const Result<Done> written =
         WriteFile(QDir(folder).filePath(name), {bytes->constData(), static_cast<std::size_t>(bytes->size())});

@@ -44,6 +44,9 @@ Result<DataFolder> LocateDataFolder(const QString& wanted);
 /// Copies the data that came with the program into `folder`, never over a file that is there.
 Result<Done> FillDataFolder(const QString& folder);
 
+/// The same from another folder; "REGION2.dat" is copied last.
+Result<Done> FillDataFolder(const QString& folder, const QString& from);
+
 /// "1230x.dat" for the channel of 1230 kHz.
 QString StationFileName(float frequency);
 

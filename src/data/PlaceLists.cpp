@@ -30,6 +30,20 @@ Place CutCall(std::string_view line) {
           std::string(Trim(Columns(line, 54, 9))), std::string(Trim(Columns(line, 64, 9)))};
 }
 
+Place TakeCity(std::string_view line) {
+  Place place = CutCity(line);
+  place.LatitudeText = NumberText(ParseNumber(place.LatitudeText));
+  place.LongitudeText = NumberText(std::abs(ParseNumber(place.LongitudeText)));
+  return place;
+}
+
+std::pair<std::string, std::string> SplitPlaceName(const std::string& name) {
+  const std::string_view trimmed = Trim(name);
+  const std::size_t gap = trimmed.rfind("  ");
+  if (gap == std::string_view::npos) return {std::string(trimmed), {}};
+  return {std::string(Trim(trimmed.substr(0, gap))), std::string(trimmed.substr(gap + 2))};
+}
+
 HomePosition ReadHomePosition(std::string_view latitude, std::string_view longitude) {
   return {std::clamp(ParseNumber(latitude), -88.0F, 88.0F),
           std::clamp(std::abs(ParseNumber(longitude)), 30.0F, 170.0F)};

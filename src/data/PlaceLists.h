@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 // The city list "Kestrel.lst" and the call-sign index "StationsCall.DAT": one entry a line, fixed columns.
@@ -26,6 +27,13 @@ struct Place {
 
 Place CutCity(std::string_view line);
 Place CutCall(std::string_view line);
+
+/// A city as a window takes it: both coordinates as plain numbers, the longitude without its sign.
+Place TakeCity(std::string_view line);
+
+/// A name cut at its last two blanks in a row: "Abilene  TX   " is "Abilene" and "TX". Without such
+/// blanks the second part is empty.
+std::pair<std::string, std::string> SplitPlaceName(const std::string& name);
 
 /// A position as home takes it.
 struct HomePosition {

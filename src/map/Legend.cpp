@@ -53,19 +53,21 @@ void DrawScales(Canvas& canvas, const SessionState& state) {
   canvas.Text({patternLeft, kTop}, pattern);
 }
 
-/// The integer part of a thousandfold, so three decimals cut off.
-std::string Thousandths(double value) {
-  return NumberText(static_cast<float>(std::floor(value * 1000) / 1000));
+/// The value against `unit`, cut to three decimals and then to 7 characters. Multiplied first: that is exact,
+/// so that only a true fraction is cut off.
+std::string ScaleText(double value, double unit) {
+  const double thousandths = std::floor(value * 1000 / unit);
+  return std::string(Columns(NumberText(static_cast<float>(thousandths / 1000)), 1, 7));
 }
 
 }  // namespace
 
 std::string MapScaleText(float scaleFactor) {
-  return std::string(Columns(Thousandths(scaleFactor / 156.25), 1, 7));
+  return ScaleText(scaleFactor, 156.25);
 }
 
 std::string PatternScaleText(float patternSize) {
-  return std::string(Columns(Thousandths(patternSize / 0.25), 1, 7));
+  return ScaleText(patternSize, 0.25);
 }
 
 void DrawLegend(Canvas& canvas, const SessionState& state) {

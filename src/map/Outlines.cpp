@@ -7,8 +7,6 @@
 namespace kestrel {
 namespace {
 
-constexpr ColorValue kRegionColor = 0xCC8888;
-constexpr ColorValue kStatesColor = 0xDD9999;
 constexpr ColorValue kHomeColor = 255;
 constexpr float kLongestStep = 2000;  // twips, in x or in y
 constexpr float kHomeRadius = 50;
@@ -39,7 +37,10 @@ void DrawFile(Canvas& canvas, const DataFolder& folder, const QString& name, Col
 void DrawOutline(Canvas& canvas, const Outline& outline, const MapProjection& projection) {
   std::vector<Point> points(outline.Latitude.size());
   projection.Vertices(outline.Latitude, outline.Longitude, points);
+  JoinVertices(canvas, outline, points);
+}
 
+void JoinVertices(Canvas& canvas, const Outline& outline, std::span<const Point> points) {
   std::vector<Point> stroke;
   const auto endStroke = [&] {
     if (stroke.size() > 1) canvas.Polyline(stroke);
@@ -57,9 +58,9 @@ void DrawOutline(Canvas& canvas, const Outline& outline, const MapProjection& pr
 
 void DrawOutlineFiles(Canvas& canvas, const DataFolder& folder, const MapProjection& projection) {
   canvas.SetLineWidth(1);
-  DrawFile(canvas, folder, "STATES.dat", kStatesColor, projection);
+  DrawFile(canvas, folder, "STATES.dat", StatesOutlineColor, projection);
   DrawHomeMark(canvas);
-  DrawFile(canvas, folder, "REGION2.dat", kRegionColor, projection);
+  DrawFile(canvas, folder, "REGION2.dat", RegionOutlineColor, projection);
 }
 
 }  // namespace kestrel

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <span>
+
 #include "data/DataFolder.h"
 #include "data/OutlineFile.h"
 #include "map/Canvas.h"
@@ -9,10 +11,17 @@
 
 namespace kestrel {
 
-/// Joins the outline's vertices on the canvas in its present colour. The pen is lifted at pen-up marks, where
-/// a vertex has no position, and where two vertices lie more than 2000 twips apart in x or y, so that a line
-/// which leaves the map or wraps is not drawn across it.
+inline constexpr ColorValue RegionOutlineColor = 0xCC8888;
+inline constexpr ColorValue StatesOutlineColor = 0xDD9999;
+
+/// Projects the outline's vertices and joins them as JoinVertices does.
 void DrawOutline(Canvas& canvas, const Outline& outline, const MapProjection& projection);
+
+/// Joins the outline's vertices, which lie at `points`, on the canvas in its present colour. The pen is
+/// lifted at pen-up marks, where a vertex has no position, and where two vertices lie more than 2000 twips
+/// apart in x or y, so that a line which leaves the map or wraps is not drawn across it. REQUIRES: there are
+/// as many points as vertices.
+void JoinVertices(Canvas& canvas, const Outline& outline, std::span<const Point> points);
 
 /// Draws "STATES.dat", the home mark and "REGION2.dat", each in its colour. A file that cannot be read draws
 /// nothing.

@@ -4,13 +4,20 @@
 #include <QColorDialog>
 #include <QDesktopServices>
 #include <QMessageBox>
+#include <QProcess>
 #include <QThread>
 #include <QUrl>
 #include <chrono>
 
 #include "draw/PainterCanvas.h"
+#include "ui/PrintPreview.h"
+#include "ui/SystemInformation.h"
 
 namespace kestrel {
+
+std::optional<PrintOrder> Platform::OfferPrinting(QWidget*, const PrintOffer&) {
+  return std::nullopt;
+}
 
 void DesktopPlatform::ShowMessage(QWidget* parent, const QString& text) {
   QMessageBox box(QMessageBox::NoIcon, "KestrelII", text, QMessageBox::Ok, parent);
@@ -33,6 +40,11 @@ void DesktopPlatform::OpenAddress(const QString& address) {
   QDesktopServices::openUrl(QUrl(address, QUrl::TolerantMode));
 }
 
+bool DesktopPlatform::StartSystemInformation() {
+  const std::optional<ProgramCall> tool = FindSystemInformation();
+  return tool && QProcess::startDetached(tool->Program, tool->Arguments);
+}
+
 void DesktopPlatform::Pause(double seconds) {
   const auto end = std::chrono::steady_clock::now() + std::chrono::duration<double>(seconds);
   ProcessEvents();
@@ -43,6 +55,10 @@ void DesktopPlatform::Pause(double seconds) {
 
 void DesktopPlatform::ProcessEvents() {
   QApplication::processEvents();
+}
+
+std::optional<PrintOrder> DesktopPlatform::OfferPrinting(QWidget* parent, const PrintOffer& offer) {
+  return ChoosePrinting(parent, offer);
 }
 
 }  // namespace kestrel

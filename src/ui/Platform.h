@@ -4,8 +4,8 @@
 #include <optional>
 
 #include "core/SessionState.h"
+#include "ui/Printing.h"
 
-class QPrinter;
 class QWidget;
 
 namespace kestrel {
@@ -27,11 +27,18 @@ class Platform {
   /// Lets the platform open a web address; failures are silent.
   virtual void OpenAddress(const QString& address) = 0;
 
+  /// Starts the system's own information tool; false when there is none.
+  virtual bool StartSystemInformation() = 0;
+
   /// Lets pending events be processed once, then waits.
   virtual void Pause(double seconds) = 0;
 
   /// Lets pending events be processed once.
   virtual void ProcessEvents() = 0;
+
+  /// Lets the user look at what would be printed and choose printer and paper. Nothing when it is cancelled,
+  /// and on a platform that does not print.
+  virtual std::optional<PrintOrder> OfferPrinting(QWidget* parent, const PrintOffer& offer);
 };
 
 /// The platform that the program runs on.
@@ -41,8 +48,10 @@ class DesktopPlatform final : public Platform {
   void Beep() override;
   std::optional<ColorValue> ChooseColor(QWidget* parent, const QString& title, ColorValue current) override;
   void OpenAddress(const QString& address) override;
+  bool StartSystemInformation() override;
   void Pause(double seconds) override;
   void ProcessEvents() override;
+  std::optional<PrintOrder> OfferPrinting(QWidget* parent, const PrintOffer& offer) override;
 };
 
 }  // namespace kestrel

@@ -1,0 +1,51 @@
+#include "draw/PagePainter.h"
+
+#include "draw/PainterCanvas.h"
+
+namespace kestrel {
+namespace {
+
+constexpr double kTwipsPerInch = 1440;
+constexpr double kHairsPerInch = 200;
+constexpr double kSmallestPoints = 8;
+constexpr double kPointsPerInch = 72;
+
+SurfaceRules RulesFor(const PagePane& pane, double unitsPerTwip, double unitsPerInch) {
+  SurfaceRules rules;
+  rules.Area = QRectF(pane.Place.Left * unitsPerTwip, pane.Place.Top * unitsPerTwip,
+                      pane.Place.Width * unitsPerTwip, pane.Place.Height * unitsPerTwip);
+  rules.Fit =
+      FitSheet(static_cast<float>(rules.Area.width()), static_cast<float>(rules.Area.height()), pane.Sheet);
+  rules.Fit.Left += static_cast<float>(rules.Area.left());
+  rules.Fit.Top += static_cast<float>(rules.Area.top());
+  rules.PixelSize = unitsPerInch / kHairsPerInch;
+  rules.SmallestXHeight = kSmallestPoints / kPointsPerInch * kHairsPerInch * XHeightShare(FontFace::Sans);
+  return rules;
+}
+
+}  // namespace
+
+void PaintPage(QPainter& painter, const PrintedPage& page, QSizeF paintable, double unitsPerInch,
+               bool inColor) {
+  const double twips = kTwipsPerInch / unitsPerInch;
+  const PageSize size = LayoutSize(
+      page, {static_cast<float>(paintable.width() * twips), static_cast<float>(paintable.height() * twips)});
+  const double unitsPerTwip = paintable.width() / size.Width;
+  for (const PagePane& pane : page.Layout(size)) {
+    const SurfaceRules rules = RulesFor(pane, unitsPerTwip, unitsPerInch);
+    const double hair = rules.PixelSize;
+    painter.save();
+    painter.setClipRect(rules.Area.adjusted(-hair, -hair, hair, hair));
+    PainterCanvas canvas(painter, rules);
+    if (inColor) {
+      pane.Draw(canvas);
+    } else {
+      RecoloredCanvas greys(canvas, page.Greys);
+      greys.SetColor(0);
+      pane.Draw(greys);
+    }
+    painter.restore();
+  }
+}
+
+}  // namespace kestrel

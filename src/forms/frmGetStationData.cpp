@@ -1,0 +1,207 @@
+#include "forms/frmGetStationData.h"
+
+#include <QFontDatabase>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
+#include <QStyle>
+#include <algorithm>
+
+#include "core/Text.h"
+#include "forms/frmShowContext.h"
+#include "forms/frmShowTowers.h"
+#include "map/StationPlot.h"
+#include "ui/MapSurface.h"
+#include "ui/PrintCommands.h"
+
+namespace kestrel {
+namespace {
+
+constexpr double kWidthOfScreen = 0.75;
+constexpr double kHeightOfScreen = 0.85;
+constexpr double kListOfWindow = 0.3;  // the list takes no more of the height
+
+QString Text(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QLabel* NamedLabel(const char* name, const QString& caption) {
+  auto* label = new QLabel(caption);
+  label->setObjectName(name);
+  return label;
+}
+
+}  // namespace
+
+frmGetStationData::frmGetStationData(const Workspace& workspace, QWidget* parent, const QString& callSign)
+    : QDialog(parent), workspace_(workspace) {
+  setObjectName("frmGetStationData");
+  setWindowTitle("KestrelII - Get data");
+  auto* rows = new QVBoxLayout(this);
+  LayOutEntry(rows);
+  LayOutList(rows);
+  LayOutPlot(rows);
+  const QSize available = screen()->availableSize();
+  resize(static_cast<int>(available.width() * kWidthOfScreen),
+         static_cast<int>(available.height() * kHeightOfScreen));
+  FitList();
+
+  txtGetData_->setText(callSign.isEmpty() ? Text(UpperCase(workspace_.State.RememberedCallSign)) : callSign);
+  txtGetData_->selectAll();
+  txtGetData_->setFocus();
+  if (!callSign.isEmpty()) Search();
+}
+
+QPushButton* frmGetStationData::AddButton(const char* name, const QString& caption, const QString& tip,
+                                          auto action) {
+  auto* button = new QPushButton(caption);
+  button->setObjectName(name);
+  button->setToolTip(tip);
+  connect(button, &QPushButton::clicked, this, action);
+  commands_.push_back(button);
+  return button;
+}
+
+void frmGetStationData::LayOutEntry(QVBoxLayout* rows) {
+  QLabel* label1 = NamedLabel("Label1", "&Look for");
+  txtGetData_ = new QLineEdit;
+  txtGetData_->setObjectName("txtGetData");
+  txtGetData_->setToolTip("The call sign of a station on this channel");
+  label1->setBuddy(txtGetData_);
+  QLabel* label2 = NamedLabel("Label2", "in file");
+  if (const auto channel = ChannelLabel(workspace_.State.CurrentFrequency)) label2->setText(Text(*channel));
+  QPushButton* search = AddButton("cmdGetData", "Get &data", "Lists the records of this call sign (Enter)",
+                                  [this] { Search(); });
+  search->setDefault(true);
+  label4_ = NamedLabel("Label4", "Click on a line in the list to see that station's pattern ");
+  label4_->hide();
+
+  auto* grid = new QGridLayout;
+  grid->addWidget(label1, 0, 0);
+  grid->addWidget(txtGetData_, 0, 1);
+  grid->addWidget(label2, 0, 2);
+  grid->addWidget(search, 1, 1);
+  grid->addWidget(label4_, 1, 2);
+  grid->setColumnStretch(2, 1);
+  rows->addLayout(grid);
+}
+
+void frmGetStationData::LayOutList(QVBoxLayout* rows) {
+  QFont courier = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  courier.setFamilies({"Courier New", "DejaVu Sans Mono", "Liberation Mono", "Courier"});
+  courier.setStyleHint(QFont::Monospace);
+  lstGetData_ = new QListWidget;
+  lstGetData_->setObjectName("lstGetData");
+  lstGetData_->setAccessibleName("Stations found");
+  lstGetData_->setFont(courier);
+  QLabel* label3 = NamedLabel("Label3", Text(ListHeads()));
+  label3->setTextFormat(Qt::PlainText);
+  label3->setFont(courier);
+  // The heads begin where the list's text does.
+  label3->setIndent(lstGetData_->frameWidth() + style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
+  connect(lstGetData_, &QListWidget::currentRowChanged, this, [this](int row) { ShowRecord(row); });
+  connect(lstGetData_, &QListWidget::itemClicked, this, [this] { ShowRecord(lstGetData_->currentRow()); });
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+    auto* enter = new QShortcut(key, lstGetData_);
+    enter->setContext(Qt::WidgetShortcut);
+    connect(enter, &QShortcut::activated, this, [this] { ShowRecord(lstGetData_->currentRow()); });
+  }
+  rows->addWidget(label3);
+  rows->addWidget(lstGetData_);
+}
+
+void frmGetStationData::LayOutPlot(QVBoxLayout* rows) {
+  plot_ = new MapSurface(this, StationPlotArea);
+  plot_->setObjectName("Plot");
+  plot_->setAccessibleName("Pattern and towers");
+  label5_ = NamedLabel("Label5", "Patterns are individually resized to fill the plotting area");
+  label5_->hide();
+
+  auto* column = new QVBoxLayout;
+  column->addWidget(AddButton("cmdTowers", "&Tower data", "The towers of this record as a table", [this] {
+    frmShowTowers form(workspace_, this, selection_);
+    OpenOnSelection(form);
+  }));
+  column->addWidget(AddButton("cmdContext", "&Maps", "Coasts and borders around the station", [this] {
+    frmShowContext form(workspace_, this, selection_);
+    OpenOnSelection(form);
+  }));
+  column->addWidget(AddButton("cmdPrint", "&Print", "Prints this record's data, pattern and towers", [this] {
+    PrintStation(workspace_.System, workspace_.Folder, workspace_.State, selection_, this);
+  }));
+  column->addWidget(AddButton("cmdExit", "&Close", "Back to the map (Escape)", [this] { reject(); }));
+  column->addStretch();
+  for (QPushButton* button : commands_)
+    if (button->objectName() != "cmdGetData") button->hide();
+
+  auto* row = new QHBoxLayout;
+  row->addLayout(column);
+  row->addWidget(plot_, 1);
+  rows->addLayout(row, 1);
+  rows->addWidget(label5_);
+}
+
+void frmGetStationData::Search() {
+  SessionState& state = workspace_.State;
+  const SearchResult result =
+      SearchStations(workspace_.Folder, state.CurrentFrequency, txtGetData_->text().toStdString());
+  state.LookupCallSign = result.CallSign;
+  if (!result.CallSign.empty()) state.RememberedCallSign = result.CallSign;
+  txtGetData_->setText(Text(result.CallSign));
+
+  rows_ = result.Rows;
+  {
+    const QSignalBlocker quiet(lstGetData_);
+    lstGetData_->clear();
+    for (const ListRow& row : rows_) lstGetData_->addItem(Text(row.Line));
+  }
+  if (result.Ended) {
+    label4_->show();
+    FitList();
+  }
+  if (!result.Message.empty()) workspace_.System.ShowMessage(this, Text(result.Message));
+  if (result.Ended && !rows_.empty()) {
+    lstGetData_->setCurrentRow(0);
+    lstGetData_->setFocus();
+  }
+}
+
+void frmGetStationData::ShowRecord(int row) {
+  if (row < 0 || row >= static_cast<int>(rows_.size())) return;
+  const StationSelection selection = SelectRow(rows_[static_cast<std::size_t>(row)]);
+  if (selection.SelectedCallSign.empty()) return;
+  selection_ = selection;
+  plot_->Drawing().Clear();
+  DrawStationPlot(plot_->Drawing(), workspace_.State.AspectRatio,
+                  LoadRecords(workspace_.Folder, workspace_.State.CurrentFrequency, selection_));
+  plot_->ShowDrawing();
+  for (QPushButton* button : commands_) button->show();
+  label5_->show();
+}
+
+void frmGetStationData::OpenOnSelection(QDialog& form) {
+  QWidget* focus = focusWidget();
+  for (QPushButton* button : commands_) button->setEnabled(false);
+  form.exec();
+  for (QPushButton* button : commands_) button->setEnabled(true);
+  if (focus != nullptr) focus->setFocus();
+}
+
+void frmGetStationData::FitList() {
+  const int row =
+      lstGetData_->count() > 0 ? lstGetData_->sizeHintForRow(0) : lstGetData_->fontMetrics().height();
+  const double rows = double{ListHeight(rows_.size())} / RowTwips;
+  const double wanted = rows * row + 2 * lstGetData_->frameWidth();
+  lstGetData_->setFixedHeight(static_cast<int>(std::min(wanted, height() * kListOfWindow)));
+}
+
+void frmGetStationData::resizeEvent(QResizeEvent* event) {
+  QDialog::resizeEvent(event);
+  FitList();
+}
+
+}  // namespace kestrel

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QDialog>
+#include <vector>
+
+#include "data/StationLookup.h"
+#include "forms/Workspace.h"
+
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QPushButton;
+class QVBoxLayout;
+
+namespace kestrel {
+
+class MapSurface;
+
+/// The station lookup: searches the current channel for a call sign, lists its records, and draws the pattern
+/// and the towers of the record chosen.
+class frmGetStationData final : public QDialog {
+ public:
+  /// A call sign given is looked up at once.
+  frmGetStationData(const Workspace& workspace, QWidget* parent, const QString& callSign = {});
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  QPushButton* AddButton(const char* name, const QString& caption, const QString& tip, auto action);
+  void LayOutEntry(QVBoxLayout* rows);
+  void LayOutList(QVBoxLayout* rows);
+  void LayOutPlot(QVBoxLayout* rows);
+
+  void Search();
+  void ShowRecord(int row);
+  /// Opens a window on the selected record; the commands rest until it is closed, in whatever way.
+  void OpenOnSelection(QDialog& form);
+  void FitList();
+
+  Workspace workspace_;
+  std::vector<ListRow> rows_;
+  StationSelection selection_;
+  QLineEdit* txtGetData_ = nullptr;
+  QListWidget* lstGetData_ = nullptr;
+  QLabel* label4_ = nullptr;
+  QLabel* label5_ = nullptr;
+  MapSurface* plot_ = nullptr;
+  std::vector<QPushButton*> commands_;
+};
+
+}  // namespace kestrel

@@ -1,0 +1,131 @@
+#include "forms/frmOptions.h"
+
+#include <QFrame>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include "core/Options.h"
+#include "draw/PainterCanvas.h"
+#include "map/AboutPictures.h"
+#include "ui/Controls.h"
+#include "ui/MapSurface.h"
+
+namespace kestrel {
+
+frmOptions::frmOptions(const Workspace& workspace, QWidget* parent) : QDialog(parent), workspace_(workspace) {
+  setObjectName("frmOptions");
+  setWindowTitle("KestrelII - Options");
+  SessionState& state = workspace_.State;
+  FillUnsetOptions(state);
+
+  auto* colors = new QGridLayout;
+  colors->addWidget(MakeLabel("lblColors", "Plot colors"), 0, 0, 1, 3);
+  AddColor(colors, state.DayColor, {"cmdDay", "&Day", "lblDay", "Daytime color", "Get Day pattern color"});
+  AddColor(colors, state.NightColor,
+           {"cmdNight", "&Night", "lblNight", "Nighttime color", "Get Night pattern color"});
+  AddColor(colors, state.UnlimitedColor,
+           {"cmdUnlimited", "&Unlimited", "lblUnlimited", "Unlimited color", "Get Unlimited pattern color"});
+  AddColor(colors, state.CriticalColor,
+           {"cmdCritical", "C&ritical", "lblCritical", "Critical-hours color", "Get Critical pattern color"});
+  AddColor(colors, state.AdjacentColor,
+           {"cmd1st", "Ad&jacents", "lbl1st", "First adjacent color", "Get first adjacent pattern color"});
+  QPushButton* defaults = MakeButton("cmdDefaults", "D&efaults", "Sets all five colors back");
+  connect(defaults, &QPushButton::clicked, this, [this] {
+    SetDefaultColors(workspace_.State);
+    ShowColors();
+  });
+  colors->addWidget(defaults, colors->rowCount(), 0);
+  colors->setColumnStretch(1, 1);
+
+  QPushButton* aspect = MakeButton(
+      "cmdAspect", "&Aspect", "Makes patterns wider or narrower, for a screen that shows circles as ovals");
+  connect(aspect, &QPushButton::clicked, this, [this] {
+    accept();
+    if (OpenAspect) OpenAspect();
+  });
+  QPushButton* exit = MakeButton("cmdExit", "&Close", "Back to the map, which takes the new colors");
+  exit->setDefault(true);
+  connect(exit, &QPushButton::clicked, this, &QDialog::accept);
+
+  auto* side = new QVBoxLayout;
+  side->addWidget(MakeLanguageFrame());
+  side->addStretch();
+  side->addWidget(aspect);
+  side->addWidget(exit);
+  auto* layout = new QHBoxLayout(this);
+  layout->addLayout(colors, 1);
+  layout->addSpacing(fontMetrics().height());
+  layout->addLayout(side);
+  ShowColors();
+  exit->setFocus();
+}
+
+void frmOptions::AddColor(QGridLayout* grid, ColorValue& color, const ColorNames& names) {
+  QPushButton* button = MakeButton(names.Button, names.Caption, "Chooses the " + names.Text.toLower());
+  connect(button, &QPushButton::clicked, this,
+          [this, &color, title = names.DialogTitle] { ChooseColor(color, title); });
+
+  // On white, like the map.
+  auto* paper = new QFrame;
+  paper->setObjectName("paper");
+  paper->setStyleSheet("#paper { background: white; border: 1px solid #aaaaaa }");
+  QLabel* label = MakeLabel(names.Label, names.Text);
+  QFont bold = label->font();
+  bold.setBold(true);
+  label->setFont(bold);
+  auto* outline = new MapSurface(nullptr, SampleArea);
+  outline->setMinimumSize(1, 1);
+  outline->setFixedSize(fontMetrics().height() * 8 / 3, fontMetrics().height() * 7 / 3);
+  auto* row = new QHBoxLayout(paper);
+  row->setContentsMargins(8, 1, 1, 1);
+  row->addWidget(label, 1);
+  row->addWidget(outline);
+
+  const int line = grid->rowCount();
+  grid->addWidget(button, line, 0);
+  grid->addWidget(paper, line, 1, 1, 2);
+  samples_.push_back({color, label, outline});
+}
+
+QWidget* frmOptions::MakeLanguageFrame() {
+  auto* frame = new QFrame;
+  frame->setObjectName("frmLanguage");
+  frame->setAccessibleName("Google Maps language");
+  frame->setFrameShape(QFrame::StyledPanel);
+  auto* layout = new QVBoxLayout(frame);
+  layout->addWidget(MakeLabel("lblLanguage", "     Google Maps language"));
+  const auto addLanguage = [&](const char* name, const QString& caption, const char* code) {
+    auto* option = new QRadioButton(caption);
+    option->setObjectName(name);
+    option->setChecked(workspace_.State.MapLanguage == code);
+    connect(option, &QRadioButton::clicked, this, [this, code] { workspace_.State.MapLanguage = code; });
+    layout->addWidget(option);
+  };
+  addLanguage("optEnglish", "En&glish", "en");
+  addLanguage("optFrench", "&French", "fr");
+  addLanguage("optSpanish", "&Spanish", "es");
+  return frame;
+}
+
+void frmOptions::ChooseColor(ColorValue& color, const QString& title) {
+  const std::optional<ColorValue> chosen = workspace_.System.ChooseColor(this, dialogTitle_, color);
+  // The dialog is given its title behind its showing, so it bears it from the next one on.
+  dialogTitle_ = title;
+  if (chosen) color = *chosen;
+  ShowColors();
+}
+
+void frmOptions::ShowColors() {
+  for (const Sample& sample : samples_) {
+    QPalette palette = sample.Label->palette();
+    palette.setColor(QPalette::WindowText, PlatformColor(sample.Color));
+    sample.Label->setPalette(palette);
+    sample.Outline->Drawing().Clear();
+    DrawSampleOutline(sample.Outline->Drawing(), sample.Color);
+    sample.Outline->ShowDrawing();
+  }
+}
+
+}  // namespace kestrel

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QDialog>
+#include <functional>
+#include <vector>
+
+#include "forms/Workspace.h"
+
+class QGridLayout;
+class QLabel;
+
+namespace kestrel {
+
+class MapSurface;
+
+/// Colours of the patterns, language of the web map, the way to the aspect adjustment. Every choice counts at
+/// once.
+class frmOptions final : public QDialog {
+ public:
+  explicit frmOptions(const Workspace& workspace, QWidget* parent = nullptr);
+
+  /// Opens the aspect adjustment; called when this window has closed.
+  std::function<void()> OpenAspect;
+
+ private:
+  /// A colour, and the label and the outline that are drawn in it.
+  struct Sample {
+    ColorValue& Color;
+    QLabel* Label;
+    MapSurface* Outline;
+  };
+
+  /// What the colour's controls are called.
+  struct ColorNames {
+    const char* Button;
+    QString Caption;
+    const char* Label;
+    QString Text;
+    QString DialogTitle;
+  };
+
+  void AddColor(QGridLayout* grid, ColorValue& color, const ColorNames& names);
+  QWidget* MakeLanguageFrame();
+  void ChooseColor(ColorValue& color, const QString& title);
+  void ShowColors();
+
+  Workspace workspace_;
+  std::vector<Sample> samples_;
+  QString dialogTitle_;  // what the colour dialog shows next; empty: its own title
+};
+
+}  // namespace kestrel

@@ -1,0 +1,66 @@
+#include "forms/frmPlotStates.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QScreen>
+
+#include "map/StatesMap.h"
+#include "ui/Controls.h"
+#include "ui/MapSurface.h"
+
+namespace kestrel {
+
+frmPlotStates::frmPlotStates(const Workspace& workspace, QWidget* parent)
+    : QDialog(parent), workspace_(workspace) {
+  setObjectName("frmPlotStates");
+  setWindowTitle("KestrelII - States");
+
+  map_ = new MapSurface(this, StatesMapArea);
+  map_->setObjectName("Map");
+  map_->setCursor(Qt::CrossCursor);
+  map_->setToolTip("A click makes this place your home");
+  map_->MouseMoved = [this](Point at) { ShowReadout(at); };
+  map_->MousePressed = [this](Point at, Qt::MouseButton button) { TakePoint(at, button); };
+  DrawStatesMap(map_->Drawing(), workspace_.Folder);
+
+  // Its texts stand side by side and must not grow into each other.
+  constexpr double kTextKeepsItsSize = 0;
+  readout_ = new MapSurface(this, StatesReadoutArea, kTextKeepsItsSize);
+  readout_->setObjectName("Readout");
+
+  QPushButton* exit = MakeButton("cmdExit", "&Return", "Back to the home window without a change");
+  connect(exit, &QPushButton::clicked, this, &QDialog::reject);
+
+  auto* strip = new QHBoxLayout;
+  strip->setContentsMargins(0, 0, 6, 3);
+  strip->addWidget(readout_, 1);
+  strip->addWidget(exit);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(map_, 1);
+  layout->addLayout(strip);
+  resize(screen()->availableSize() * 0.85);
+  ShowReadout(std::nullopt);
+}
+
+void frmPlotStates::resizeEvent(QResizeEvent* event) {
+  constexpr double kHeightShare = StatesReadoutArea.Height / StatesReadoutArea.Width;
+  readout_->setFixedHeight(qRound(width() * kHeightShare));
+  QDialog::resizeEvent(event);
+}
+
+void frmPlotStates::ShowReadout(std::optional<Point> mouse) {
+  readout_->Drawing().Clear();
+  DrawStatesReadout(readout_->Drawing(), mouse, workspace_.State);
+  readout_->ShowDrawing();
+}
+
+void frmPlotStates::TakePoint(Point at, Qt::MouseButton button) {
+  if (button != Qt::LeftButton && button != Qt::RightButton) return;
+  const Position clicked = ClickedPosition(at);
+  workspace_.State.HomeLatitude = clicked.Latitude;
+  workspace_.State.HomeLongitude = clicked.Longitude;
+  accept();
+}
+
+}  // namespace kestrel

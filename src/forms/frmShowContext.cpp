@@ -1,0 +1,72 @@
+#include "forms/frmShowContext.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
+
+#include "ui/MapSurface.h"
+
+namespace kestrel {
+namespace {
+
+constexpr double kOfScreen = 0.7;
+
+}  // namespace
+
+frmShowContext::frmShowContext(const Workspace& workspace, QWidget* parent, const StationSelection& selection)
+    : QDialog(parent), workspace_(workspace), selection_(selection) {
+  setObjectName("frmShowContext");
+  setWindowTitle("KestrelII - Context map");
+  map_ = new MapSurface(this, ContextMapArea);
+  map_->setObjectName("Map");
+  map_->setAccessibleName("Map around the station");
+  cmdLess_ = AddButton("cmdLess", "Zoom &out", "Shows twice as much of the map (-)",
+                       [this] { Zoom(&ContextZoom::ZoomOut); });
+  cmdMore_ = AddButton("cmdMore", "Zoom &in", "Shows the map twice as large (+)",
+                       [this] { Zoom(&ContextZoom::ZoomIn); });
+  QPushButton* web = AddButton("cmdMap", "&Google map", "Opens the place in your browser", [this] {
+    const std::string address = WebMapAddress(selection_, workspace_.State.MapLanguage);
+    workspace_.System.OpenAddress(QString::fromStdString(address));
+  });
+  QPushButton* close =
+      AddButton("cmdClose", "&Close", "Back to the station's data (Escape)", [this] { accept(); });
+  connect(new QShortcut(Qt::Key_Minus, this), &QShortcut::activated, cmdLess_, &QPushButton::click);
+  for (const Qt::Key key : {Qt::Key_Plus, Qt::Key_Equal})
+    connect(new QShortcut(key, this), &QShortcut::activated, cmdMore_, &QPushButton::click);
+  map_->WheelTurned = [this](int steps) { (steps > 0 ? cmdMore_ : cmdLess_)->click(); };
+
+  auto* column = new QVBoxLayout;
+  for (QPushButton* button : {cmdLess_, cmdMore_, web, close}) column->addWidget(button);
+  column->addStretch();
+  auto* layout = new QHBoxLayout(this);
+  layout->addWidget(map_, 1);
+  layout->addLayout(column);
+  resize(screen()->availableSize() * kOfScreen);
+  cmdMore_->setFocus();
+  Draw();
+}
+
+QPushButton* frmShowContext::AddButton(const char* name, const QString& caption, const QString& tip,
+                                       auto action) {
+  auto* button = new QPushButton(caption);
+  button->setObjectName(name);
+  button->setToolTip(tip);
+  connect(button, &QPushButton::clicked, this, action);
+  return button;
+}
+
+void frmShowContext::Zoom(void (ContextZoom::*step)()) {
+  (zoom_.*step)();
+  cmdLess_->setEnabled(zoom_.MayZoomOut);
+  cmdMore_->setEnabled(zoom_.MayZoomIn);
+  Draw();
+}
+
+void frmShowContext::Draw() {
+  map_->Drawing().Clear();
+  DrawContextMap(map_->Drawing(), workspace_.Folder, selection_.Latitude, selection_.Longitude, zoom_.Scale);
+  map_->ShowDrawing();
+}
+
+}  // namespace kestrel

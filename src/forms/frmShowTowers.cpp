@@ -1,0 +1,55 @@
+#include "forms/frmShowTowers.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+#include "map/TowerSheet.h"
+#include "ui/MapSurface.h"
+
+namespace kestrel {
+namespace {
+
+constexpr float kTwipsPerPixel = 15;
+
+}  // namespace
+
+frmShowTowers::frmShowTowers(const Workspace& workspace, QWidget* parent, const StationSelection& selection)
+    : QDialog(parent) {
+  setObjectName("frmShowTowers");
+  setWindowTitle("KestrelII - Tower data");
+  const QSize screenSize = screen()->size();
+  const ScreenTwips twips{static_cast<float>(screenSize.width()) * kTwipsPerPixel,
+                          static_cast<float>(screenSize.height()) * kTwipsPerPixel};
+
+  std::vector<TowerRow> rows;
+  for (const StationRecord& record :
+       LoadRecords(workspace.Folder, workspace.State.CurrentFrequency, selection))
+    rows = TowerTable(record);
+  const QString text = QString::fromStdString(TowerTableText(rows));
+
+  auto* table = new MapSurface(this, TowerSheetArea(twips));
+  table->setObjectName("Table");
+  table->setAccessibleName("Towers");
+  table->setAccessibleDescription(text);
+  table->setToolTip("Ctrl+C copies the table");
+  DrawTowerSheet(table->Drawing(), twips, rows);
+  table->ShowDrawing();
+
+  auto* close = new QPushButton("&Close");
+  close->setObjectName("cmdExit");
+  close->setDefault(true);
+  connect(close, &QPushButton::clicked, this, &QDialog::accept);
+  connect(new QShortcut(QKeySequence::Copy, this), &QShortcut::activated, this,
+          [text] { QGuiApplication::clipboard()->setText(text); });
+
+  auto* layout = new QVBoxLayout(this);
+  layout->addWidget(table, 1);
+  layout->addWidget(close, 0, Qt::AlignLeft);
+  resize(screenSize / 2);
+}
+
+}  // namespace kestrel

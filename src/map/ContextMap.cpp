@@ -1,0 +1,118 @@
+#include "map/ContextMap.h"
+
+#include <cmath>
+#include <vector>
+
+#include "data/OutlineFile.h"
+#include "map/MapProjection.h"
+
+namespace kestrel {
+namespace {
+
+constexpr float W = ContextMapWidth;
+constexpr float H = ContextMapHeight;
+constexpr Point kCenter = {0.35F * W, 0.325F * H};
+constexpr Point kFrameCorner = {0.05F * W, 0.05F * H};
+constexpr Point kFrameOpposite = {0.65F * W, 0.65F * H};
+constexpr float kLowestLine = 0.6F * H;  // outlines end above the frame's lower edge
+constexpr float kLongestStepX = 0.2F * W;
+constexpr float kLongestStepY = 0.2F * H;
+constexpr float kTwipsPer75Km = 120;
+constexpr float kSmallestZoom = 0.25F;
+constexpr float kLargestZoom = 8;
+
+constexpr ColorValue kBackground = 16777198;
+constexpr ColorValue kWhite = 0xFFFFFF;
+constexpr ColorValue kBlack = 0;
+constexpr ColorValue kRed = 255;
+constexpr ColorValue kBlue = 16711680;
+
+bool IsVisible(Point point) {
+  // Written so that a vertex without a position (NaN) is none.
+  return point.y >= kFrameCorner.y && point.y <= kLowestLine && point.x >= kFrameCorner.x &&
+         point.x <= kFrameOpposite.x;
+}
+
+void DrawOutlineAround(Canvas& canvas, const Outline& outline, const MapProjection& projection) {
+  std::vector<Point> points(outline.Latitude.size());
+  projection.Vertices(outline.Latitude, outline.Longitude, points);
+  std::vector<Point> stroke;
+  const auto endStroke = [&] {
+    if (stroke.size() > 1) canvas.Polyline(stroke);
+    stroke.clear();
+  };
+  auto penUp = outline.PenUpBefore.begin();
+  for (std::size_t i = 0; i < points.size(); ++i) {
+    const Point at = {points[i].x - HomeOnSheet.x + kCenter.x, points[i].y - HomeOnSheet.y + kCenter.y};
+    bool lifted = false;
+    for (; penUp != outline.PenUpBefore.end() && *penUp <= i; ++penUp) lifted = true;
+    const bool visible = IsVisible(at);
+    if (lifted || !visible || stroke.empty() || std::abs(at.x - stroke.back().x) > kLongestStepX ||
+        std::abs(at.y - stroke.back().y) > kLongestStepY)
+      endStroke();
+    if (visible) stroke.push_back(at);
+  }
+  endStroke();
+}
+
+void DrawStationMark(Canvas& canvas) {
+  canvas.SetColor(kWhite);
+  canvas.SetLineWidth(10);
+  canvas.Circle(kCenter, 10);
+  canvas.SetLineWidth(1);
+  canvas.SetColor(kRed);
+  canvas.Circle(kCenter, 75);
+  canvas.Line({0.34F * W, kCenter.y}, {0.36F * W, kCenter.y});
+  canvas.Line({kCenter.x, 0.315F * H}, {kCenter.x, 0.335F * H});
+}
+
+/// Hides what lies outside the frame. The surface may be wider or higher than the map, so the masks reach far
+/// beyond the drawing area.
+void DrawMasks(Canvas& canvas) {
+  constexpr float kFar = CoordinateLimit;
+  canvas.SetColor(kBackground);
+  canvas.FilledBox({-kFar, -kFar}, {kFrameCorner.x, kFar});
+  canvas.FilledBox({kFrameOpposite.x, -kFar}, {kFar, kFar});
+  canvas.FilledBox({-kFar, -kFar}, {kFar, kFrameCorner.y});
+  canvas.FilledBox({-kFar, kFrameOpposite.y}, {kFar, kFar});
+}
+
+}  // namespace
+
+void DrawContextMap(Canvas& canvas, const DataFolder& folder, float latitude, float longitude, float zoom) {
+  const MapProjection projection(latitude, longitude, kTwipsPer75Km * zoom);
+  canvas.SetColor(kWhite);
+  canvas.FilledBox(kFrameCorner, kFrameOpposite);
+  canvas.SetLineWidth(1);
+  for (const char* name : {"REGION2.dat", "STATES.dat"}) {
+    const Result<QByteArray> bytes = folder.Read(name);
+    if (!bytes) continue;
+    canvas.SetColor(kBlack);
+    DrawOutlineAround(canvas, ReadOutline({bytes->constData(), static_cast<std::size_t>(bytes->size())}),
+                      projection);
+  }
+  DrawStationMark(canvas);
+  DrawMasks(canvas);
+  canvas.SetColor(kBlue);
+  canvas.Box(kFrameCorner, kFrameOpposite);
+}
+
+void ContextZoom::ZoomIn() {
+  MayZoomOut = true;
+  Scale *= 2;
+  if (Scale > kLargestZoom) {
+    Scale = kLargestZoom;
+    MayZoomIn = false;
+  }
+}
+
+void ContextZoom::ZoomOut() {
+  MayZoomIn = true;
+  Scale /= 2;
+  if (Scale < kSmallestZoom) {
+    Scale = kSmallestZoom;
+    MayZoomOut = false;
+  }
+}
+
+}  // namespace kestrel

@@ -1,0 +1,119 @@
+#include "map/StatesMap.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include "core/Numbers.h"
+#include "data/OutlineFile.h"
+#include "map/Outlines.h"
+
+namespace kestrel {
+namespace {
+
+constexpr int kGridStep = 10;   // degrees
+constexpr int kWestEdge = 220;  // degrees east
+constexpr int kEastEdge = 310;
+constexpr int kSouthEdge = 10;
+constexpr int kNorthEdge = 80;
+constexpr ColorValue kGridColor = 0xDDDDDD;
+constexpr ColorValue kGridTextColor = 0x888888;
+constexpr Font kGridFont = {FontFace::Sans, 8};
+
+constexpr ColorValue kStripColor = 0xEFEFEF;
+constexpr ColorValue kHomeStripColor = 0x663322;  // dark, for the white text of home
+constexpr ColorValue kWhite = 0xFFFFFF;
+constexpr Font kStripFont = {FontFace::Sans, 7.5F};
+constexpr float kStripTextTop = 7700;
+
+void DrawGrid(Canvas& canvas) {
+  canvas.SetLineWidth(1);
+  canvas.SetFont(kGridFont);
+  constexpr float kGap = 40;  // between a label and its line
+  const auto line = [&](Point from, Point to, Point label, const std::string& text) {
+    canvas.SetColor(kGridColor);
+    canvas.Line(from, to);
+    canvas.SetColor(kGridTextColor);
+    canvas.Text(label, text);
+  };
+  const float height = canvas.TextHeight();
+  for (int east = kWestEdge; east <= kEastEdge; east += kGridStep) {
+    const auto longitude = static_cast<float>(east);
+    const Point south = PlaceOnStatesMap(kSouthEdge, longitude);
+    line(PlaceOnStatesMap(kNorthEdge, longitude), south, {south.x + kGap, south.y - height},
+         std::to_string(360 - east) + " W");
+  }
+  for (int latitude = kSouthEdge; latitude <= kNorthEdge; latitude += kGridStep) {
+    const Point west = PlaceOnStatesMap(static_cast<float>(latitude), kWestEdge);
+    // The lowest one stands above the names of the longitudes.
+    const float lift = latitude == kSouthEdge ? 2 * height : height;
+    line(west, PlaceOnStatesMap(static_cast<float>(latitude), kEastEdge), {west.x + kGap, west.y - lift},
+         std::to_string(latitude) + " N");
+  }
+}
+
+void DrawFile(Canvas& canvas, const DataFolder& folder, const QString& name, ColorValue color) {
+  const Result<QByteArray> bytes = folder.Read(name);
+  if (!bytes) return;
+  const Outline outline =
+      ReadOutline({bytes->constData(), static_cast<std::size_t>(bytes->size())}, CommentLines::Skip);
+  std::vector<Point> points(outline.Latitude.size());
+  for (std::size_t i = 0; i < points.size(); ++i)
+    points[i] = PlaceOnStatesMap(outline.Latitude[i], outline.Longitude[i]);
+  canvas.SetColor(color);
+  JoinVertices(canvas, outline, points);
+}
+
+Position PositionAt(Point at, double southLimit, double northLimit) {
+  return {static_cast<float>(std::clamp(57.5 - 0.005 * at.y, southLimit, northLimit)),
+          static_cast<float>(std::clamp(133 - 0.00625 * at.x, 30.0, 170.0))};
+}
+
+/// The product is a single, so that a value which is one of thousandths already stays what it is.
+float CutToThousandth(float value) {
+  return static_cast<float>(std::trunc(value * 1000.0F) * 0.001);
+}
+
+}  // namespace
+
+Point PlaceOnStatesMap(float latitude, float longitudeEast) {
+  return {160 * longitudeEast - 36300, 11500 - 200 * latitude};
+}
+
+Position PointedPosition(Point at) {
+  return PositionAt(at, 10, 70);
+}
+
+Position ClickedPosition(Point at) {
+  const Position position = PositionAt(at, 0, 80);
+  return {CutToThousandth(position.Latitude), CutToThousandth(position.Longitude)};
+}
+
+void DrawStatesMap(Canvas& canvas, const DataFolder& folder) {
+  DrawGrid(canvas);
+  DrawFile(canvas, folder, "REGION2.dat", RegionOutlineColor);
+  DrawFile(canvas, folder, "STATES.dat", StatesOutlineColor);
+}
+
+void DrawStatesReadout(Canvas& canvas, std::optional<Point> mouse, const SessionState& state) {
+  canvas.SetFont(kStripFont);
+  const auto print = [&](float x, const char* caption, float value) {
+    canvas.Text({x, kStripTextTop}, caption + NumberText(CutToThousandth(value)));
+  };
+  canvas.SetColor(kStripColor);
+  canvas.FilledBox({1, 7600}, {11999, 7999});
+  canvas.SetColor(kHomeStripColor);
+  canvas.FilledBox({4600, 7600}, {11999, 7999});
+  if (mouse) {
+    const Position pointed = PointedPosition(*mouse);
+    canvas.SetColor(0);
+    print(300, "Mouse latitude: ", pointed.Latitude);
+    print(2310, "Longitude: ", pointed.Longitude);
+  }
+  canvas.SetColor(kWhite);
+  print(4700, "Current home latitude: ", state.HomeLatitude);
+  print(7400, "Longitude: ", state.HomeLongitude);
+}
+
+}  // namespace kestrel

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <vector>
+
+#include "data/StationFile.h"
+#include "map/Canvas.h"
+#include "map/Sheet.h"
+
+namespace kestrel {
+
+/// The part of the sheet that holds the station plot: legend, polar plot and tower layout, left to right.
+inline constexpr SheetArea StationPlotArea = {300, 3950, 11200, 5100};
+
+/// Draws the records of one station and hours, each polar plot over the one before, then the tower layout of
+/// the last one and the legend. A record with a tower that lacks its field ratio is left out; one whose
+/// pattern cannot be computed says so. `records` are as the file holds them.
+void DrawStationPlot(Canvas& canvas, float aspectRatio, std::vector<StationRecord> records);
+
+}  // namespace kestrel

@@ -1,0 +1,85 @@
+#include "map/StationTip.h"
+
+#include <cmath>
+
+#include "core/Distance.h"
+#include "core/Numbers.h"
+#include "core/Text.h"
+#include "data/StationFile.h"
+#include "map/ChannelPlot.h"
+#include "map/MapProjection.h"
+
+namespace kestrel {
+namespace {
+
+/// City and state; a file that knows no state has "-".
+std::string PlaceText(const StationRecord& record) {
+  return record.State.empty() || record.State == "-" ? record.City : record.City + ", " + record.State;
+}
+
+}  // namespace
+
+const StationMark* NearestStation(std::span<const StationMark> marks, Point point, float radius) {
+  const StationMark* nearest = nullptr;
+  float reach = radius;
+  for (const StationMark& mark : marks) {
+    const float distance = std::hypot(mark.At.x - point.x, mark.At.y - point.y);
+    if (distance > reach) continue;
+    reach = distance;
+    nearest = &mark;
+  }
+  return nearest;
+}
+
+std::optional<std::string> StationTip(const DataFolder& folder, const SessionState& state,
+                                      const StationMark& mark) {
+  const QString name = StationFileName(static_cast<float>(mark.Channel));
+  const Result<QByteArray> bytes = folder.Read(name);
+  if (!bytes) return std::nullopt;
+  const MapProjection projection(state.HomeLatitude, state.HomeLongitude, state.ScaleFactor);
+  StationLineReader reader({bytes->constData(), static_cast<std::size_t>(bytes->size())});
+  std::string head;
+  std::string powers;
+  std::string place;
+  StationRecord record;
+  while (const std::optional<StationLine> line = reader.Next()) {
+    StoreStationLine(*line, record);
+    const bool shown =
+        record.HoursCode == mark.HoursCode || PassesHoursFilter(record.HoursCode, state.HoursFilter);
+    if (record.CallSign != mark.CallSign || !shown) continue;
+    if (projection.Station(record.Latitude, record.Longitude) != mark.At) continue;
+    if (head.empty()) {
+      head = std::to_string(mark.Channel) + " kHz " + record.CallSign + "  " + PlaceText(record);
+      place = FromHomeText(state, record.Latitude, record.Longitude);
+    }
+    if (!powers.empty()) powers += ", ";
+    powers += PowerText(record.PowerKW) + ' ' + HoursWord(record.HoursCode);
+  }
+  if (head.empty()) return std::nullopt;
+  return head + '\n' + powers + '\n' + place;
+}
+
+bool OpensLookup(const StationMark& mark, const SessionState& state) {
+  return static_cast<float>(mark.Channel) == state.CurrentFrequency;
+}
+
+std::string PowerText(float powerKW) {
+  if (powerKW < 1) return NumberText(powerKW * 1000) + " watts";
+  return NumberText(powerKW) + " kW";
+}
+
+std::string HoursWord(const std::string& hoursCode) {
+  if (hoursCode == "D") return "daytime";
+  if (hoursCode == "N") return "nighttime";
+  if (hoursCode == "C") return "critical hours";
+  if (hoursCode == "U") return "unlimited";
+  return hoursCode;
+}
+
+std::string FromHomeText(const SessionState& state, float latitude, float longitudeWest) {
+  const DistanceReadout readout = MeasureDistance({state.HomeLatitude, state.HomeLongitude},
+                                                  {latitude, longitudeWest}, state.DistanceUnit);
+  return std::string(Trim(readout.DistanceText)) + ", " + readout.BearingText;
+}
+
+}  // namespace kestrel

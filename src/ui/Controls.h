@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QWidget;
+
+// The controls that forms are made of.
+
+namespace kestrel {
+
+/// A button of that object name; a "&" in its caption marks the mnemonic.
+QPushButton* MakeButton(const char* name, const QString& caption, const QString& tip);
+
+/// Plain text of that object name; with a buddy its mnemonic leads there.
+QLabel* MakeLabel(const char* name, const QString& caption, QWidget* buddy = nullptr);
+
+/// An entry box of that object name, some 12 characters wide.
+QLineEdit* MakeBox(const char* name, const QString& tip);
+
+/// Colours the box as one whose entry wants a second look, or as an ordinary one.
+void MarkBox(QLineEdit* box, bool marked);
+
+}  // namespace kestrel

@@ -1,0 +1,138 @@
+#include "core/Geodesy.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <numbers>
+
+namespace kestrel {
+namespace {
+
+TEST(ArcCosineTest, IsExactAtTheEndsAndLimitsBeyond) {
+  EXPECT_EQ(ArcCosine(1), 0);
+  EXPECT_EQ(ArcCosine(-1), 3.14159265);
+  EXPECT_EQ(ArcCosine(0), 1.5707963267949);
+  EXPECT_EQ(ArcCosine(1.0000001), 0);
+  EXPECT_EQ(ArcCosine(-1.0000001), 3.14159265);
+  for (double x = -0.999; x < 1; x += 0.037) EXPECT_NEAR(ArcCosine(x), std::acos(x), 1e-12) << x;
+}
+
+/// The great circle by haversine and two-argument arc tangent, east longitudes, in doubles.
+struct Course {
+  double Kilometres, Bearing;
+};
+Course Independent(double lat1, double east1, double lat2, double east2) {
+  const double radian = std::numbers::pi / 180;
+  const double dLat = (lat2 - lat1) * radian;
+  const double dLon = (east2 - east1) * radian;
+  const double a = std::pow(std::sin(dLat / 2), 2) +
+                   std::cos(lat1 * radian) * std::cos(lat2 * radian) * std::pow(std::sin(dLon / 2), 2);
+  const double y = std::sin(dLon) * std::cos(lat2 * radian);
+  const double x = std::cos(lat1 * radian) * std::sin(lat2 * radian) -
+                   std::sin(lat1 * radian) * std::cos(lat2 * radian) * std::cos(dLon);
+  const double bearing = std::atan2(y, x) / radian;
+  return {2 * std::asin(std::min(1.0, std::sqrt(a))) / radian * 111.44,
+          bearing < 0 ? bearing + 360 : bearing};
+}
+
+/// Of two bearings, 0 to 180.
+double Apart(double a, double b) {
+  return std::abs(std::remainder(a - b, 360));
+}
+
+TEST(GreatCircleTest, KnownCourses) {
+  // Published distances stand for a sphere of 6371 km, 111.195 km per degree.
+  constexpr float kPublished = 111.44F / 111.195F;
+  // West-positive home and station: the first longitude goes in negated, the bearing counts towards the west.
+  const struct {
+    float homeLatitude, homeWest, latitude, west;
+    float kilometres, bearing;
+  } rows[] = {
+      {40, 75, 40, 80, 426.8F, 88.4F},
+      {40, 75, 40, 70, 426.8F, 271.6F},
+      {40, 75, 50, 75, 1114.4F, 0},
+      {40, 75, 30, 75, 1114.4F, 180},
+      {0, 75, 0, 165, 10029.6F, 90},
+      {0, 75, 0, -15, 10029.6F, 270},
+      {-10, 179, -10, -179, 219.48F, 90.17F},  // across the date line, 2 degrees of longitude
+      {40.6413F, 73.7781F, 51.47F, 0.4543F, 5540 * kPublished, 308.7F},     // New York to London
+      {33.9425F, 118.408F, 40.6413F, 73.7781F, 3974 * kPublished, 294.1F},  // Los Angeles to New York
+  };
+  for (const auto& row : rows) {
+    const GreatCircleResult result = GreatCircle(row.homeLatitude, -row.homeWest, row.west, row.latitude);
+    EXPECT_NEAR(result.Distance, row.kilometres, 0.1 + row.kilometres * 3e-4)
+        << row.latitude << ' ' << row.west;
+    EXPECT_LT(Apart(result.Bearing, row.bearing), 0.1)
+        << row.latitude << ' ' << row.west << ' ' << result.Bearing;
+  }
+}
+
+TEST(GreatCircleTest, AgreesWithTheHaversineInBothConventions) {
+  for (const float home : {-60.0F, -30.0F, 0.0F, 33.24278F, 60.0F, 85.0F})
+    for (float latitude = -88; latitude < 89; latitude += 11)
+      for (float west = -175; west < 180; west += 25) {
+        const float homeWest = 96.54139F;
+        const Course course = Independent(home, -homeWest, latitude, -west);
+        if (course.Kilometres < 200 || course.Kilometres > 19800) continue;
+        const GreatCircleResult station = GreatCircle(home, -homeWest, west, latitude);
+        const GreatCircleResult vertex = GreatCircle(home, homeWest, -west, latitude);
+        EXPECT_NEAR(station.Distance, course.Kilometres, 0.25) << home << ' ' << latitude << ' ' << west;
+        EXPECT_NEAR(vertex.Distance, course.Kilometres, 0.25) << home << ' ' << latitude << ' ' << west;
+        // The cosine is flat near north and south, so a stored single leaves 0.06 degrees there.
+        EXPECT_LT(Apart(station.Bearing, 360 - course.Bearing), 0.1)
+            << home << ' ' << latitude << ' ' << west;
+        EXPECT_LT(Apart(vertex.Bearing, course.Bearing), 0.1) << home << ' ' << latitude << ' ' << west;
+      }
+}
+
+TEST(GreatCircleTest, EndsOfTheSphereAndTheSamePoint) {
+  for (const float latitude : {-88.0F, -41.3F, 0.0F, 33.24278F, 47.7F, 90.0F})
+    for (const float west : {-180.0F, 0.0F, 96.54139F, 170.0F}) {
+      const GreatCircleResult same = GreatCircle(latitude, -west, west, latitude);
+      EXPECT_LT(same.Distance, 3.2F) << latitude << ' ' << west;
+      if (same.Distance == 0) {
+        EXPECT_EQ(same.Bearing, 90) << latitude << ' ' << west;
+      }
+      const GreatCircleResult antipode = GreatCircle(latitude, -west, west - 180, -latitude);
+      EXPECT_NEAR(antipode.Distance, 180 * 111.44, 3.2) << latitude << ' ' << west;
+      EXPECT_TRUE(antipode.Bearing >= 0 && antipode.Bearing <= 360);
+      EXPECT_NEAR(GreatCircle(latitude, -west, west, 90).Distance, (90 - latitude) * 111.44, 3.2);
+      EXPECT_NEAR(GreatCircle(latitude, -west, west, -90).Distance, (90 + latitude) * 111.44, 3.2);
+    }
+  EXPECT_EQ(GreatCircle(0, -75, 75, 0).Distance, 0);
+  EXPECT_EQ(GreatCircle(0, -75, 75, 0).Bearing, 90);
+}
+
+TEST(PolarSumTest, AddsPlaneOffsets) {
+  const struct {
+    PolarOffset first, second, sum;
+  } rows[] = {
+      {{90, 0}, {90, 90}, {127.2792F, 45}},
+      {{90, 0}, {0, 0}, {90, 0}},
+      {{0, 0}, {90, 225}, {90, 225}},
+      {{10, 180}, {10, 180}, {20, 180}},
+      {{50, 300}, {20, 300}, {70, 300}},
+      {{30, 120}, {40, 210}, {50, 173.1301F}},
+      {{0, 0}, {0, 0}, {0, 0}},
+      {{-90, 0}, {0, 0}, {90, 180}},
+      {{120, 130}, {90, 40}, {150, 93.1301F}},
+      {{60, 350}, {150, 93.1301F}, {148.3613F, 69.9361F}},
+  };
+  for (const auto& row : rows) {
+    const PolarOffset sum = PolarSum(row.first, row.second);
+    EXPECT_NEAR(sum.Spacing, row.sum.Spacing, 2e-4) << row.first.Spacing << '@' << row.first.Bearing;
+    EXPECT_LT(Apart(sum.Bearing, row.sum.Bearing), 2e-4) << sum.Bearing;
+  }
+  EXPECT_NEAR(PolarSum({90, 90}, {90, 270}).Spacing, 0, 1e-4);
+}
+
+TEST(PolarSumTest, BearingLiesWithinTheCircle) {
+  for (float a = 0; a < 360; a += 7.5F)
+    for (float b = 0; b < 360; b += 7.5F) {
+      const PolarOffset sum = PolarSum({100, a}, {60, b});
+      EXPECT_TRUE(sum.Bearing >= 0 && sum.Bearing < 360) << a << ' ' << b << ' ' << sum.Bearing;
+    }
+}
+
+}  // namespace
+}  // namespace kestrel

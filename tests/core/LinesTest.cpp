@@ -1,0 +1,68 @@
+#include "core/Lines.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace kestrel {
+namespace {
+
+using namespace std::string_view_literals;
+
+std::vector<std::string> AllLines(std::string_view bytes) {
+  std::vector<std::string> lines;
+  LineReader reader(bytes);
+  while (!reader.AtEnd()) {
+    const auto line = reader.Next();
+    if (!line) {
+      ADD_FAILURE() << "no line before the end";
+      break;
+    }
+    lines.emplace_back(*line);
+    EXPECT_EQ(reader.LineNumber(), static_cast<int>(lines.size()));
+  }
+  EXPECT_FALSE(reader.Next());
+  EXPECT_FALSE(reader.NextBytes());
+  return lines;
+}
+
+TEST(LineReaderTest, KnowsAllLineEnds) {
+  const struct {
+    std::string_view bytes;
+    std::vector<std::string> lines;
+  } rows[] = {
+      {"", {}},
+      {"\n", {""}},
+      {"\r\n", {""}},
+      {"\r", {""}},
+      {"\n\r", {"", ""}},
+      {"\r\r\n", {"", ""}},
+      {"a", {"a"}},
+      {"a\nb\r\nc\rd", {"a", "b", "c", "d"}},
+      {"a\n\n\nb\n", {"a", "", "", "b"}},
+      {"a\r\rb\r", {"a", "", "b"}},
+      {"a\r\n\r\nb\r\n", {"a", "", "b"}},
+      {"\xEF\xBB\xBF", {}},
+      {"\xEF\xBB\xBF"
+       "a\n",
+       {"a"}},
+      {"a\n\xEF\xBB\xBF"
+       "b",
+       {"a",
+        "\xEF\xBB\xBF"
+        "b"}},
+      {"a\0b\n\0"sv, {"a b", " "}},
+      {"Bogot\xE1\nBogot\xC3\xA1\n\xE1\0"sv, {"Bogotá", "Bogotá", "á "}},
+  };
+  for (const auto& row : rows) EXPECT_EQ(AllLines(row.bytes), row.lines) << testing::PrintToString(row.bytes);
+}
+
+TEST(LineReaderTest, NextBytesLeavesTheLineAsItIs) {
+  LineReader reader("a\0\xE1\nb"sv);
+  EXPECT_EQ(reader.NextBytes(), "a\0\xE1"sv);
+  EXPECT_EQ(reader.Next(), "b");
+}
+
+}  // namespace
+}  // namespace kestrel

@@ -1,0 +1,294 @@
+#include "core/SessionFile.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <optional>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace kestrel {
+namespace {
+
+const std::string kGood =
+    "* Kestrel last-session file\r\n"
+    "* 1/2/2024\r\n"
+    "\r\n"
+    "Frequency displayed: 1230\r\n"
+    "Home: Albany   NY\r\n"
+    "Home latitude: 42.65\r\n"
+    "Home longitude: 73.75\r\n"
+    "Relative size of pattern: .25\r\n"
+    "Scale factor: 400\r\n"
+    "Distance km or miles: 1\r\n"
+    "Daytime pattern color: 1\r\n"
+    "Nighttime pattern color: 2\r\n"
+    "Unlimited-hours pattern color: 3\r\n"
+    "Critical-hours pattern color: 4\r\n"
+    "Adjacent channel pattern color: 5\r\n"
+    "Google Maps Language: fr\r\n"
+    "Aspect ratio:  .75 \r\n";
+
+/// What the file carries, as one text that compares and prints well.
+std::string Carried(const SessionState& s) {
+  std::string text;
+  for (const float value :
+       {s.CurrentFrequency, s.HomeLatitude, s.HomeLongitude, s.PatternSize, s.ScaleFactor, s.AspectRatio}) {
+    char digits[64];
+    text.append(digits, std::to_chars(digits, digits + sizeof digits, value).ptr) += ' ';
+  }
+  for (const int value :
+       {int{s.DistanceUnit}, s.DayColor, s.NightColor, s.UnlimitedColor, s.CriticalColor, s.AdjacentColor})
+    text += std::to_string(value) + ' ';
+  return text + '[' + s.HomeName + "] [" + s.MapLanguage + ']';
+}
+
+SessionState Read(const std::string& bytes, SessionState state = {}) {
+  ReadSession(bytes, state);
+  return state;
+}
+
+/// The good file with line `number` (from 1) replaced, and optionally nothing behind it.
+enum class Rest { Kept, Cut };
+std::string WithLine(int number, const std::string& line, Rest rest = Rest::Kept) {
+  std::string bytes;
+  std::size_t from = 0;
+  for (int i = 1; from < kGood.size(); ++i) {
+    const std::size_t end = kGood.find("\r\n", from) + 2;
+    bytes += i == number ? line : kGood.substr(from, end - from);
+    if (i == number && rest == Rest::Cut) break;
+    from = end;
+  }
+  return bytes;
+}
+
+TEST(SessionFileTest, ReadsEveryValueInItsPlace) {
+  const SessionState state = Read(kGood);
+  EXPECT_EQ(Carried(state), "1230 42.65 73.75 0.25 400 0.75 1 1 2 3 4 5 [Albany   NY] [fr]");
+}
+
+TEST(SessionFileTest, OnlyTheOrderCounts) {
+  const SessionState state = Read(
+      "\xEF\xBB\xBF* a comment: 99\n620\n\n*\nCiudad:  San Juan  PR \r33.24278\nHome latitude: "
+      "66\n:.5\n200\n0\n"
+      "1\n2\n3\n4\n5\nen: es: fr\n1");
+  EXPECT_EQ(Carried(state), "620 33.24278 66 0.5 200 1 0 1 2 3 4 5 [San Juan  PR] [es: fr]");
+}
+
+TEST(SessionFileTest, RowsOfTheReadersRules) {
+  const struct {
+    int line;
+    const char* text;
+    const char* carried;
+  } rows[] = {
+      {4, "Frequency displayed: 1.23K\n", "1230 42.65 73.75 0.25 400 0.75 1 1 2 3 4 5 [Albany   NY] [fr]"},
+      {4, "620\n", "620 42.65 73.75 0.25 400 0.75 1 1 2 3 4 5 [Albany   NY] [fr]"},
+      {4, "Frequency: nonsense\n", "0 42.65 73.75 0.25 400 0.75 1 1 2 3 4 5 [Albany   NY] [fr]"},
+      {5, "Home:\n", "1230 42.65 73.75 0.25 400 0.75 1 1 2 3 4 5 [] [fr]"},
+      {5, "Home: Bogot\xE1 : DC\n", "1230 42.65 73.75 0.25 400 0.75 1 1 2 3 4 5 [Bogotá : DC] [fr]"},
+      {6, "L: -12,5\n", "1230 -12.5 73.75 0.25 400 0.75 1 1 2 3 4 5 [Albany   NY] [fr]"},
+      {8, "P: .5k\n", "1230 42.65 73.75 0.5 400 0.75 1 1 2 3 4 5 [Albany   NY] [fr]"},  // plain: no suffix
+      {8, "P: 5\n", "1230 42.65 73.75 1 400 0.75 1 1 2 3 4 5 [Albany   NY] [fr]"},
+      {8, "P: 1e400\n", "1230 42.65 73.75 1 400 0.75 1 1 2 3 4 5 [Albany   NY] [fr]"},
+      {8, "P: -3\n", "1230 42.65 73.75 0.02 400 0.75 1 1 2 3 4 5 [Albany   NY] [fr]"},
+      {9, "S: 50\n", "1230 42.65 73.75 0.25 100 0.75 1 1 2 3 4 5 [Albany   NY] [fr]"},
+      {9, "S: 10001\n", "1230 42.65 73.75 0.25 10000 0.75 1 1 2 3 4 5 [Albany   NY] [fr]"},
+      {9, "S: 1,5k\n", "1230 42.65 73.75 0.25 100 0.75 1 1 2 3 4 5 [Albany   NY] [fr]"},  // plain: 1
+      {10, "D: .5\n", "1230 42.65 73.75 0.25 400 0.75 0 1 2 3 4 5 [Albany   NY] [fr]"},   // to the even one
+      {10, "D: 1.5\n", "1230 42.65 73.75 0.25 400 0.75 2 1 2 3 4 5 [Albany   NY] [fr]"},
+      {10, "D: 32.767k\n", "1230 42.65 73.75 0.25 400 0.75 32767 1 2 3 4 5 [Albany   NY] [fr]"},
+      {11, "C: 0\n", "1230 42.65 73.75 0.25 400 0.75 1 65280 2 3 4 5 [Albany   NY] [fr]"},
+      {12, "C: 0\n", "1230 42.65 73.75 0.25 400 0.75 1 1 0 3 4 5 [Albany   NY] [fr]"},
+      {13, "C: 0\n", "1230 42.65 73.75 0.25 400 0.75 1 1 2 255 4 5 [Albany   NY] [fr]"},
+      {14, "C: x\n", "1230 42.65 73.75 0.25 400 0.75 1 1 2 3 16776960 5 [Albany   NY] [fr]"},
+      {15, "C: .4\n", "1230 42.65 73.75 0.25 400 0.75 1 1 2 3 4 208931 [Albany   NY] [fr]"},
+      {15, "C: 16777215\n", "1230 42.65 73.75 0.25 400 0.75 1 1 2 3 4 16777215 [Albany   NY] [fr]"},
+      {16, "G: \n", "1230 42.65 73.75 0.25 400 0.75 1 1 2 3 4 5 [Albany   NY] []"},
+      {17, "A: 0\n", "1230 42.65 73.75 0.25 400 0.75 1 1 2 3 4 5 [Albany   NY] [fr]"},
+      {17, "A: x\n", "1230 42.65 73.75 0.25 400 0.75 1 1 2 3 4 5 [Albany   NY] [fr]"},
+      {17, "A: .3\n", "1230 42.65 73.75 0.25 400 0.6 1 1 2 3 4 5 [Albany   NY] [fr]"},
+      {17, "A: 2\n", "1230 42.65 73.75 0.25 400 1.5 1 1 2 3 4 5 [Albany   NY] [fr]"},
+      {17, "A: -1\n", "1230 42.65 73.75 0.25 400 0.6 1 1 2 3 4 5 [Albany   NY] [fr]"},
+  };
+  for (const auto& row : rows)
+    EXPECT_EQ(Carried(Read(WithLine(row.line, row.text))), row.carried) << row.text;
+}
+
+/// A file may end behind any value; only one that reaches the language gets limits.
+TEST(SessionFileTest, EarlyEnds) {
+  SessionState before;
+  before.PatternSize = 5;
+  before.ScaleFactor = 20;
+  before.DayColor = 0;
+  before.MapLanguage = "es";
+  before.AspectRatio = 9;
+
+  EXPECT_EQ(Carried(Read("", before)), Carried(before));
+  EXPECT_EQ(Carried(Read("* nothing but comments\r\n\r\n", before)), Carried(before));
+  EXPECT_EQ(Carried(Read(WithLine(6, "Home latitude: 10", Rest::Cut), before)),
+            "1230 10 96.54139 5 20 9 0 0 0 255 16776960 208931 [Albany   NY] [es]");
+  // Behind the distance unit, with and without a comment after it.
+  for (const char* unit : {"Distance: 1", "Distance: 1\r\n", "Distance: 1\r\n\r\n* end\r\n"})
+    EXPECT_EQ(Carried(Read(WithLine(10, unit, Rest::Cut), before)),
+              "1230 42.65 73.75 0.25 400 9 1 0 0 255 16776960 208931 [Albany   NY] [es]");
+  EXPECT_EQ(Read(WithLine(8, "5\n400\n1\n", Rest::Cut), before).PatternSize, 5);
+  // Among the colours.
+  EXPECT_EQ(Carried(Read(WithLine(12, "N: 7", Rest::Cut), before)),
+            "1230 42.65 73.75 0.25 400 9 1 1 7 255 16776960 208931 [Albany   NY] [es]");
+  // Behind the language: limits apply, to an aspect ratio from elsewhere too.
+  EXPECT_EQ(Carried(Read(WithLine(16, "G: de", Rest::Cut), before)),
+            "1230 42.65 73.75 0.25 400 1.5 1 1 2 3 4 5 [Albany   NY] [de]");
+  // A comment behind the language is no end, but the aspect ratio is missing all the same: no limits.
+  EXPECT_EQ(Carried(Read(WithLine(16, "G: de\r\n*\r\n", Rest::Cut), before)),
+            "1230 42.65 73.75 0.25 400 9 1 1 2 3 4 5 [Albany   NY] [de]");
+}
+
+TEST(SessionFileTest, MissingFileAndOverflowFallBack) {
+  SessionState before;
+  before.CurrentFrequency = 700;
+  before.HomeName = "Elsewhere";
+  before.DistanceUnit = 1;
+  before.PatternSize = 0.1F;
+  before.MapLanguage = "es";
+  before.AspectRatio = 7;
+  before.DayColor = 0;
+  before.NightColor = 9;
+  before.FurtherAdjacentColors = {0, 4, 0};
+  SessionState state = before;
+  ReadSession(std::nullopt, state);
+  EXPECT_EQ(Carried(state),
+            "620 33.24278 96.54139 0.5 200 7 1 65280 9 255 16776960 208931 [Plano   TX] [es]");
+  EXPECT_EQ(state.FurtherAdjacentColors, (std::array<ColorValue, 3>{16711680, 4, 16711680}));
+  for (const float ratio : {0.0F, -1.0F}) {
+    state.AspectRatio = ratio;
+    ReadSession(std::nullopt, state);
+    EXPECT_EQ(state.AspectRatio, 0.75F);
+  }
+
+  // What was read before the error stays only where the defaults do not name it.
+  EXPECT_EQ(Carried(Read(WithLine(10, "D: 32768\r\n"), before)),
+            "620 33.24278 96.54139 0.5 200 7 1 65280 9 255 16776960 208931 [Plano   TX] [es]");
+  EXPECT_EQ(Carried(Read(WithLine(10, "D: -40k\r\n"), before)),
+            "620 33.24278 96.54139 0.5 200 7 1 65280 9 255 16776960 208931 [Plano   TX] [es]");
+  EXPECT_EQ(Carried(Read(WithLine(13, "U: 2147483648\r\n"), before)),
+            "620 33.24278 96.54139 0.5 200 7 1 1 2 255 16776960 208931 [Plano   TX] [es]");
+  EXPECT_EQ(Read(WithLine(13, "U: -2147483648\r\n")).UnlimitedColor, std::numeric_limits<ColorValue>::min());
+}
+
+TEST(SessionFileTest, WritesItsSeventeenLines) {
+  SessionState state = Read(kGood);
+  EXPECT_EQ(WriteSession(state, "1/2/2024"), kGood);
+
+  state.HomeName = "Two\r\nlines";
+  state.HomeLatitude = -0.5F;
+  state.AspectRatio = 1;
+  state.PatternSize = 2;
+  state.ScaleFactor = 50;
+  const std::string text = WriteSession(state, "a\nb");
+  EXPECT_EQ(text.substr(0, 37), "* Kestrel last-session file\r\n* a b\r\n\r");
+  EXPECT_NE(text.find("\r\nHome: Two  lines\r\nHome latitude: -.5\r\n"), std::string::npos) << text;
+  EXPECT_NE(text.find("\r\nRelative size of pattern: 1\r\nScale factor: 100\r\n"), std::string::npos) << text;
+  EXPECT_TRUE(text.ends_with("\r\nAspect ratio:  1 \r\n")) << text;
+  EXPECT_EQ(state.PatternSize, 1);
+  EXPECT_EQ(state.ScaleFactor, 100);
+}
+
+TEST(SessionFileTest, AZeroResetsTheWholeHome) {
+  for (float SessionState::*member :
+       {&SessionState::CurrentFrequency, &SessionState::HomeLatitude, &SessionState::HomeLongitude}) {
+    SessionState state = Read(kGood);
+    state.*member = 0;
+    const std::string text = WriteSession(state, "");
+    EXPECT_EQ(state.HomeName, "Plano  TX");  // two blanks, the writer's spelling
+    EXPECT_NE(
+        text.find(
+            "displayed: 620\r\nHome: Plano  TX\r\nHome latitude: 33.24278\r\nHome longitude: 96.54139\r\n"),
+        std::string::npos)
+        << text;
+  }
+}
+
+TEST(SessionFileTest, WriteReadWriteIsTheSame) {
+  std::mt19937 random(3);
+  const auto real = [&random](float from, float to) {
+    return std::uniform_real_distribution<float>(from, to)(random);
+  };
+  const auto color = [&random] { return static_cast<ColorValue>(1 + random() % 16777215); };
+  const std::vector<std::string> names = {"", "Plano   TX", "Bogotá  DC", "a: b", "* star", "São Paulo  SP"};
+  for (int i = 0; i < 2000; ++i) {
+    SessionState state;
+    state.CurrentFrequency = real(1, 2000);
+    state.HomeName = names[random() % names.size()];
+    state.HomeLatitude = real(-90, 90);
+    state.HomeLongitude = real(-180, 180);
+    state.PatternSize = real(0, 2);
+    state.ScaleFactor = std::exp(real(3, 10));
+    state.DistanceUnit = static_cast<std::int16_t>(random());
+    state.DayColor = color();
+    state.NightColor = static_cast<ColorValue>(random() % 2) * color();
+    state.UnlimitedColor = color();
+    state.CriticalColor = color();
+    state.AdjacentColor = color();
+    state.MapLanguage = names[random() % names.size()];
+    state.AspectRatio = real(0.6F, 1.5F);
+    const std::string text = WriteSession(state, "1/2/2024");
+    SessionState read;
+    ReadSession(text, read);
+    ASSERT_EQ(Carried(read), Carried(state)) << text;
+    ASSERT_EQ(WriteSession(read, "1/2/2024"), text);
+  }
+}
+
+/// Whatever is read, the program can draw with it and write it: every number is finite, and from the second
+/// writing on (the first fills in what a file that ended early left unset) the file stays the same.
+void ExpectUsable(const std::string& bytes) {
+  SessionState state;
+  ReadSession(bytes, state);
+  for (const float value : {state.CurrentFrequency, state.HomeLatitude, state.HomeLongitude,
+                            state.PatternSize, state.ScaleFactor, state.AspectRatio})
+    ASSERT_TRUE(std::isfinite(value)) << bytes;
+  ASSERT_EQ(state.HomeName.find_first_of("\r\n"), std::string::npos) << bytes;
+  ReadSession(WriteSession(state, ""), state);
+  const std::string written = WriteSession(state, "");
+  ReadSession(written, state);
+  ASSERT_EQ(WriteSession(state, ""), written) << bytes;
+}
+
+TEST(SessionFileTest, EveryTruncationLeavesAUsableState) {
+  const SessionState whole = Read(kGood);
+  for (std::size_t length = 0; length <= kGood.size(); ++length) {
+    const std::string bytes = kGood.substr(0, length);
+    ExpectUsable(bytes);
+    // Behind its first value the file has set the channel: all of its digits or the first of them.
+    const SessionState state = Read(bytes);
+    if (length < kGood.find("Freq")) {
+      EXPECT_EQ(Carried(state), Carried(SessionState{}));
+    }
+    if (length >= kGood.find("\r\nHome:")) {
+      EXPECT_EQ(state.CurrentFrequency, whole.CurrentFrequency);
+    }
+    if (length >= kGood.find("\r\nDaytime")) {
+      EXPECT_EQ(state.DistanceUnit, whole.DistanceUnit);
+    }
+    if (length >= kGood.find("\r\nAspect")) {
+      EXPECT_EQ(state.MapLanguage, whole.MapLanguage);
+    }
+  }
+}
+
+TEST(SessionFileTest, EveryByteDisturbedLeavesAUsableState) {
+  for (std::size_t at = 0; at < kGood.size(); ++at)
+    for (const char byte :
+         {'\0', '\n', '\r', ' ', '*', ':', '-', '.', '9', 'e', 'G', '\x80', '\xC3', '\xFF'}) {
+      std::string bytes = kGood;
+      bytes[at] = byte;
+      ExpectUsable(bytes);
+    }
+}
+
+}  // namespace
+}  // namespace kestrel

@@ -1,0 +1,191 @@
+#include "data/StationFile.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <string>
+#include <vector>
+
+namespace kestrel {
+namespace {
+
+const std::string kGood =
+    "1230, WXYZ ,Town,ST,United States, U ,40.5,75.25,1,x,y,2\r\n"
+    "0,1.0,90,0,0,0\r\n"
+    "0,.8,90,-90.5,90,45\r\n"
+    "1230,WABC,Big City,NY,United States,D,-12.5,-10,.25,-,-,0\r\n"
+    "1230,CDEF,Halifax,NS,Canada,N,44.6,63.5,50,-,-,1\r\n"
+    " 1,1,100,0,0,0\r\n";
+
+/// Everything that a file yields: a line for each record, and the notes.
+struct Yield {
+  std::vector<std::string> calls;
+  std::vector<std::string> notes;
+};
+Yield ReadAll(std::string_view bytes) {
+  Yield yield;
+  StationFileReader reader("1230x.dat", bytes);
+  while (const StationRecord* record = reader.Next()) {
+    yield.calls.push_back(record->CallSign);
+    EXPECT_TRUE(record->TowerCount >= 0 && record->TowerCount <= MaxTowers);
+    EXPECT_EQ(record->Spacings[0], 0);
+    for (const auto* numbers :
+         {&record->Fields, &record->Heights, &record->Phases, &record->Spacings, &record->Bearings})
+      for (const float number : *numbers) EXPECT_TRUE(std::isfinite(number));
+  }
+  EXPECT_EQ(reader.Next(), nullptr) << "nothing behind the end";
+  yield.notes = reader.Notes();
+  return yield;
+}
+
+using Texts = std::vector<std::string>;
+
+TEST(StationFileTest, ReadsRecordsWithTheirTowers) {
+  StationFileReader reader("1230x.dat", kGood);
+  const StationRecord* record = reader.Next();
+  ASSERT_NE(record, nullptr);
+  EXPECT_EQ(record->CallSign, "WXYZ");
+  EXPECT_EQ(record->City, "Town");
+  EXPECT_EQ(record->State, "ST");
+  EXPECT_EQ(record->Country, "United States");
+  EXPECT_EQ(record->HoursCode, "U");
+  EXPECT_EQ(record->Latitude, 40.5F);
+  EXPECT_EQ(record->Longitude, 75.25F);
+  EXPECT_EQ(record->PowerKW, 1);
+  ASSERT_EQ(record->TowerCount, 2);
+  EXPECT_EQ(record->Switch[2], "0");
+  EXPECT_EQ(record->Fields[2], 0.8F);
+  EXPECT_EQ(record->Heights[2], 90);
+  EXPECT_EQ(record->Phases[2], -90.5F);
+  EXPECT_EQ(record->Spacings[2], 90);
+  EXPECT_EQ(record->Bearings[2], 45);
+
+  record = reader.Next();
+  ASSERT_NE(record, nullptr);
+  EXPECT_EQ(record->Latitude, -12.5F);
+  EXPECT_EQ(record->Longitude, -10);
+  EXPECT_EQ(record->TowerCount, 0);
+
+  record = reader.Next();
+  ASSERT_NE(record, nullptr);
+  EXPECT_EQ(record->CallSign, "CDEF");
+  EXPECT_EQ(record->Switch[1], " 1") << "not trimmed";
+  EXPECT_EQ(reader.Next(), nullptr);
+  EXPECT_EQ(reader.Notes(), Texts{});
+}
+
+TEST(StationFileTest, LacksReadAsEmptyAndZero) {
+  StationRecord record;
+  CutTowerLine(",,0,1.0,0,0,90", 3, record);
+  EXPECT_EQ(record.Switch[3], "0");
+  EXPECT_EQ(record.Fields[3], 1);
+  EXPECT_EQ(record.Spacings[3], 90);
+  EXPECT_EQ(record.Bearings[3], 0);
+  record.Bearings[3] = 7;
+  CutTowerLine("", 3, record);
+  EXPECT_EQ(record.Switch[3], "");
+  EXPECT_EQ(record.Fields[3], 0);
+  EXPECT_EQ(record.Bearings[3], 0);
+  CutTowerLine("0,abc,nan,1e400,-1x,1 2", 3, record);
+  EXPECT_EQ(record.Fields[3], 0);
+  EXPECT_EQ(record.Heights[3], 0);
+  EXPECT_EQ(record.Phases[3], std::numeric_limits<float>::max());
+  EXPECT_EQ(record.Spacings[3], -1);
+  EXPECT_EQ(record.Bearings[3], 1);
+
+  // An empty field is dropped, so what follows moves up by one.
+  const StationLine moved = CutStationLine("1230,WXYZ,,ST,US,U,40.5,75.25,1,-,-,2");
+  EXPECT_EQ(moved.City, "ST");
+  EXPECT_EQ(moved.Latitude, "75.25");
+  EXPECT_EQ(moved.TowerCount, "");
+}
+
+TEST(StationFileTest, NotesWhatItLeavesOut) {
+  const std::string start = "1230,A,c,s,u,U,1,2,3,-,-,";
+  const std::string next = "1230,Z,c,s,u,U,1,2,3,-,-,0\n";
+  std::string towers;
+  for (int i = 0; i < 14; ++i) towers += "0,1,0,0,0,0\n";
+  const auto of = [&towers](int count) { return towers.substr(0, static_cast<std::size_t>(count) * 12); };
+  const struct {
+    std::string bytes;
+    Texts calls, notes;
+  } rows[] = {
+      {"", {}, {}},
+      {"\n \n" + next, {"Z"}, {}},
+      {start + "-1\n" + next, {"Z"}, {"1230x.dat:1: -1 towers, at least 0"}},
+      {start + "0\n" + next, {"A", "Z"}, {}},
+      {start + "-.4\n" + next, {"A", "Z"}, {}},
+      {start + "12\n" + of(12) + next, {"A", "Z"}, {}},
+      {start + "12.5\n" + of(12) + next, {"A", "Z"}, {}},
+      {start + "13\n" + of(13) + next, {"Z"}, {"1230x.dat:1: 13 towers, at most 12"}},
+      {next + start + "14\n" + of(14) + next, {"Z", "Z"}, {"1230x.dat:2: 14 towers, at most 12"}},
+      {start + "1e5\n" + next, {"Z"}, {"1230x.dat:1: 100000 towers, at most 12"}},
+      {start + "two\n" + next, {"A", "Z"}, {}},
+      {start + "two\n" + of(2) + next,
+       {"A", "Z"},
+       {"1230x.dat:2: not a station line, which begins with the channel"}},
+      {"1230\n" + next, {"", "Z"}, {}},
+      {"hello\n\nworld\n" + next + "bye\n",
+       {"Z"},
+       {"1230x.dat:1: not a station line, which begins with the channel",
+        "1230x.dat:5: not a station line, which begins with the channel"}},
+      {start + "1\n\n" + next, {"A", "Z"}, {}},  // an empty line is a tower without numbers
+      {start + "2\n" + of(1), {}, {"1230x.dat:2: the file ends before the last of 2 towers"}},
+      {next + start + "2\n", {"Z"}, {"1230x.dat:2: the file ends before the last of 2 towers"}},
+  };
+  for (const auto& row : rows) {
+    const Yield yield = ReadAll(row.bytes);
+    EXPECT_EQ(yield.calls, row.calls) << row.bytes;
+    EXPECT_EQ(yield.notes, row.notes) << row.bytes;
+  }
+}
+
+/// A shorter file never yields more than the whole one, and never a record whose towers it does not hold.
+TEST(StationFileTest, EveryTruncation) {
+  const std::size_t firstTowersEnd = kGood.find("\r\n1230,WABC");
+  const std::size_t secondEnd = kGood.find(",0\r\n1230,CDEF");
+  for (std::size_t length = 0; length <= kGood.size(); ++length) {
+    const Yield yield = ReadAll(std::string_view(kGood).substr(0, length));
+    EXPECT_LE(yield.calls.size(), 3U) << length;
+    EXPECT_LE(yield.notes.size(), 1U) << length;
+    if (length >= firstTowersEnd) {
+      ASSERT_FALSE(yield.calls.empty()) << length;
+      EXPECT_EQ(yield.calls[0], "WXYZ") << length;
+      EXPECT_EQ(yield.notes, (length >= kGood.find(",1\r\n 1,") + 2 && length <= kGood.find(" 1,1,100")
+                                  ? Texts{"1230x.dat:5: the file ends before the last of 1 towers"}
+                                  : Texts{}))
+          << length;
+    }
+    if (length >= secondEnd + 1) {
+      EXPECT_EQ(yield.calls[1], "WABC") << length;
+    }
+  }
+}
+
+TEST(StationFileTest, EveryByteDisturbed) {
+  for (std::size_t at = 0; at < kGood.size(); ++at)
+    for (const char byte : {'\0', '\n', ',', '0', '9', 'e', '-', '\xC3', '\xFF'}) {
+      std::string bytes = kGood;
+      bytes[at] = byte;
+      const Yield yield = ReadAll(bytes);
+      EXPECT_LE(yield.calls.size(), 5U) << bytes;
+      // The damage stays in its record: the last one is found unless it is the one that was hit, or the tower
+      // count in front of it.
+      if (at < kGood.find(",2\r\n") ||
+          (at > kGood.find(",2\r\n") + 3 && at < kGood.find(",0\r\n1230,CDEF"))) {
+        ASSERT_FALSE(yield.calls.empty()) << bytes;
+        EXPECT_EQ(yield.calls.back(), "CDEF") << bytes;
+      }
+    }
+}
+
+TEST(StationLineReaderTest, PassesOverTowerLines) {
+  StationLineReader reader(kGood);
+  Texts calls;
+  while (const auto line = reader.Next()) calls.emplace_back(line->CallSign);
+  EXPECT_EQ(calls, (Texts{" WXYZ ", "WABC", "CDEF"}));
+  for (const char* line : {"", "0,1", " 1230", ",1230", "x", "-1"}) EXPECT_FALSE(IsStationLine(line)) << line;
+}
+
+}  // namespace
+}  // namespace kestrel

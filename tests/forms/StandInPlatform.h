@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QStringList>
+#include <vector>
+
+#include "ui/Platform.h"
+
+namespace kestrel {
+
+/// A platform that answers at once and remembers what it was asked.
+class StandInPlatform final : public Platform {
+ public:
+  struct ColorQuestion {
+    QString Title;
+    ColorValue Current;
+  };
+
+  // What it answers.
+  std::optional<ColorValue> NextColor;  ///< nothing: the colour dialog is cancelled
+  bool HasSystemInformation = false;
+
+  // What it was asked.
+  QStringList Messages;
+  QStringList Addresses;
+  std::vector<ColorQuestion> ColorQuestions;
+  int Beeps = 0;
+  int SystemInformationStarts = 0;
+  double PausedSeconds = 0;
+
+  void ShowMessage(QWidget*, const QString& text) override { Messages << text; }
+  void Beep() override { ++Beeps; }
+  std::optional<ColorValue> ChooseColor(QWidget*, const QString& title, ColorValue current) override {
+    ColorQuestions.push_back({title, current});
+    return NextColor;
+  }
+  void OpenAddress(const QString& address) override { Addresses << address; }
+  bool StartSystemInformation() override {
+    if (HasSystemInformation) ++SystemInformationStarts;
+    return HasSystemInformation;
+  }
+  void Pause(double seconds) override { PausedSeconds += seconds; }
+  void ProcessEvents() override { ++EventRounds; }
+
+  int EventRounds = 0;
+};
+
+}  // namespace kestrel

@@ -1,0 +1,89 @@
+#include "map/DisplayList.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+#include "RecordingCanvas.h"
+
+namespace kestrel {
+namespace {
+
+/// Every verb, with arguments that no two share.
+void DrawSomething(Canvas& canvas) {
+  const std::array<Point, 3> points = {{{1, 2}, {-3, 4.5F}, {30000, -30000}}};
+  canvas.SetColor(0x1289AB);
+  canvas.SetLineWidth(2.5F);
+  canvas.Line({1, 2}, {3, 4});
+  canvas.BeginStation({{7, 8}, 1230, "WXYZ", "D"});
+  canvas.Polygon(points);
+  canvas.SetFont({FontFace::Serif, 8});
+  canvas.Text({9, 10}, "Bogotá");
+  canvas.EndStation();
+  canvas.Polyline(points);
+  canvas.Polyline({});
+  canvas.SetColor(-1);
+  canvas.Circle({11, 12}, 50);
+  canvas.FilledCircle({13, 14}, 30);
+  canvas.BeginPanel({15, 16}, {FontFace::Fixed, 9});
+  canvas.Box({17, 18}, {19, 20});
+  canvas.FilledBox({21, 22}, {23, 24});
+  canvas.Text({0, 0}, "");
+  canvas.EndPanel();
+  canvas.BeginStation({{25, 26}, 620, "", "d"});
+  canvas.Dot({27, 28});
+  canvas.EndStation();
+}
+
+TEST(DisplayListTest, PlaysBackWhatWasDrawn) {
+  RecordingCanvas direct;
+  DrawSomething(direct);
+  DrawSomething(direct);
+
+  const FixedMeasure measure;
+  DisplayList list(measure);
+  EXPECT_TRUE(list.IsEmpty());
+  DrawSomething(list);
+  DrawSomething(list);
+  RecordingCanvas played;
+  list.Play(played);
+  EXPECT_EQ(played.List, direct.List);
+
+  RecordingCanvas again;  // a list that was played is as it was
+  list.Play(again);
+  EXPECT_EQ(again.List, direct.List);
+  ASSERT_EQ(list.Stations().size(), 4U);
+  EXPECT_EQ(list.Stations()[1].HoursCode, "d");
+  EXPECT_EQ(list.Stations()[2].At, (Point{7, 8}));
+}
+
+TEST(DisplayListTest, PlaysAdditionsInTheColoursSetBefore) {
+  const FixedMeasure measure;
+  DisplayList list(measure);
+  DrawSomething(list);
+  const std::size_t length = list.Length();
+  list.Line({1, 1}, {2, 2});
+  RecordingCanvas played;
+  list.PlayFrom(length, played);
+  ASSERT_EQ(played.List.size(), 1U);
+  EXPECT_EQ(played.List[0].Color, -1);
+  EXPECT_EQ(played.List[0].LineWidth, 2.5F);
+  EXPECT_EQ(played.List[0].Face.Points, 8);
+}
+
+TEST(DisplayListTest, ClearForgetsEverything) {
+  const FixedMeasure measure;
+  DisplayList list(measure);
+  DrawSomething(list);
+  list.Clear();
+  EXPECT_TRUE(list.IsEmpty());
+  EXPECT_TRUE(list.Stations().empty());
+  list.Dot({1, 2});
+  RecordingCanvas played, direct;
+  direct.Dot({1, 2});
+  list.Play(played);
+  EXPECT_EQ(played.List, direct.List);
+}
+
+}  // namespace
+}  // namespace kestrel

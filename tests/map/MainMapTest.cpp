@@ -1,0 +1,118 @@
+#include "map/MainMap.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "RecordingCanvas.h"
+#include "TestFolder.h"
+#include "map/BandScan.h"
+
+namespace kestrel {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+const QByteArray kStation = "1230,WXYZ,City,ST,US,U,40,75,1,-,-,1\n0,1,0,0,0,0\n";
+
+class MainMapTest : public testing::Test {
+ protected:
+  MainMapTest() {
+    state_.HomeLatitude = 40;
+    state_.HomeLongitude = 75;
+    state_.CurrentFrequency = state_.SelectedFrequency = 1230;
+    files_.Put("REGION2.dat", "40 285\n41 285\n");
+    files_.Put("STATES.dat", "40 285\n40 286\n");
+  }
+  Texts Draw(MapGround ground = MapGround::Empty) {
+    canvas_.Clear();
+    notes_ = DrawMainMap(canvas_, files_.Folder(), state_, ground);
+    return canvas_.Texts();
+  }
+  /// The texts of stations, which stand in front of the legend's.
+  Texts Labels() {
+    Texts texts = Draw();
+    texts.erase(std::find(texts.begin(), texts.end(), "Adjacents"), texts.end());
+    return texts;
+  }
+
+  TestFolder files_;
+  SessionState state_;
+  RecordingCanvas canvas_;
+  Texts notes_;
+};
+
+TEST_F(MainMapTest, DrawsFromTheGroundUp) {
+  files_.Put("1230x.dat", kStation);
+  state_.HoursFilter = 1;
+  state_.CompassShown = 1;
+  Draw();
+  const std::string drawn = canvas_.Readable();
+  std::size_t before = 0;
+  for (const char* figure : {"Polyline DD9999", "Circle 0000FF", "Polyline CC8888", "\"1230 WXYZ\"",
+                             "\"Adjacents\"", "Day, critical", "Line FF8888", "\"350\""}) {
+    const std::size_t at = drawn.find(figure);
+    ASSERT_NE(at, std::string::npos) << figure;
+    EXPECT_GE(at, before) << figure;
+    before = at;
+  }
+  EXPECT_EQ(drawn.find("No station file"), std::string::npos);
+
+  Draw(MapGround::AsDrawn);
+  EXPECT_EQ(canvas_.All("Polyline").size(), 0U);
+  EXPECT_EQ(canvas_.All("Polygon").size(), 1U);
+}
+
+TEST_F(MainMapTest, AdjacentsFollowWhenShown) {
+  for (const char* name : {"1220x.dat", "1230x.dat", "1240x.dat"}) files_.Put(name, kStation);
+  EXPECT_EQ(Labels(), (Texts{"1230 WXYZ"}));
+  state_.AdjacentsShown = 1;
+  EXPECT_EQ(Labels(), (Texts{"1230 WXYZ", "1220 WXYZ", "1240 WXYZ"}));
+}
+
+TEST_F(MainMapTest, TheEndsOfTheBandHaveOneNeighbour) {
+  for (const char* name : {"520x.dat", "530x.dat", "540x.dat", "1690x.dat", "1700x.dat", "1710x.dat"})
+    files_.Put(name, kStation);
+  state_.AdjacentsShown = 1;
+  state_.CurrentFrequency = state_.SelectedFrequency = 1700;
+  EXPECT_EQ(Labels(), (Texts{"1700 WXYZ", "1690 WXYZ"}));
+  state_.CurrentFrequency = state_.SelectedFrequency = 530;
+  EXPECT_EQ(Labels(), (Texts{"530 WXYZ", "540 WXYZ"}));
+  EXPECT_EQ(notes_, Texts{});
+}
+
+TEST_F(MainMapTest, AMissingFileLeavesItsNotice) {
+  state_.AdjacentsShown = 1;
+  files_.Put("1240x.dat", "1240,A,c,s,u,U,1,2,3,-,-,13\n" + kStation);
+  const Texts texts = Draw();
+  EXPECT_EQ(texts.front(), "1240 WXYZ");
+  EXPECT_EQ(texts.back(), "    No station file for 1230 kHz");
+  EXPECT_EQ(std::count(texts.begin(), texts.end(), "Unlimited"), 1);
+  EXPECT_EQ(notes_, (Texts{"1230x.dat: there is no such file", "1240x.dat:1: 13 towers, at most 12"}));
+
+  files_.Put("1230x.dat", kStation);  // now the missing one is an adjacent
+  const Texts whole = Draw();
+  EXPECT_EQ(
+      std::count_if(whole.begin(), whole.end(),
+                    [](const std::string& text) { return text.find("No station") != std::string::npos; }),
+      0);
+  EXPECT_EQ(notes_, (Texts{"1240x.dat:1: 13 towers, at most 12"}));
+}
+
+TEST_F(MainMapTest, TheScanMarksStationsWithoutPatterns) {
+  files_.Put("1230x.dat", kStation + kStation + "1230,WABC,City,ST,US,N,-60,75,1,-,-,0\n");
+  const MapProjection projection(40, 75, 1000);
+  RecordingCanvas canvas;
+  ASSERT_TRUE(DrawScannedChannel(canvas, files_.Folder(), projection, 1230));
+  EXPECT_EQ(canvas.Texts(), (Texts{"1230", "1230"}));
+  EXPECT_EQ(canvas.All("Text")[0].Points[0], (Point{5940, 4290}));
+  EXPECT_EQ(canvas.All("Line")[0].Points, (std::vector<Point>{{5984, 4500}, {6016, 4500}}));
+  EXPECT_EQ(canvas.All("Line")[1].Points, (std::vector<Point>{{6000, 4484}, {6000, 4516}}));
+  EXPECT_EQ(canvas.All("Line").size(), 6U);
+  EXPECT_EQ(canvas.All("Line")[0].Color, 255);
+  EXPECT_EQ(canvas.All("Polygon").size(), 0U);
+  EXPECT_EQ(DrawScannedChannel(canvas, files_.Folder(), projection, 620).error().kind, Error::Kind::NotFound);
+}
+
+}  // namespace
+}  // namespace kestrel

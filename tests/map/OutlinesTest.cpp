@@ -1,0 +1,71 @@
+#include "map/Outlines.h"
+
+#include <gtest/gtest.h>
+
+#include "RecordingCanvas.h"
+#include "TestFolder.h"
+
+namespace kestrel {
+namespace {
+
+/// An outline drawn around 0 N, 75 W at 1114.4 twips to a degree, so that vertices read easily.
+std::string Draw(std::string_view bytes) {
+  RecordingCanvas canvas;
+  DrawOutline(canvas, ReadOutline(bytes), MapProjection(0, 75, 750));
+  return canvas.Readable();
+}
+
+TEST(OutlinesTest, StrokesBreakWhereTheyShould) {
+  const struct {
+    const char *what, *vertices, *drawn;
+  } rows[] = {
+      {"joined, and nothing drawn to the first vertex", "0 285\n1 285\n0 286\n",
+       "Polyline 000000 (6000,4500) (6000,3386) (7114,4500)\n"},
+      {"the pen lifted", "0 285\n1 285\n-100 -100\n0 286\n1 286\n",
+       "Polyline 000000 (6000,4500) (6000,3386)\nPolyline 000000 (7114,4500) (7114,3386)\n"},
+      {"the pen lifted twice, at the front and at the end", "-100 -100\n-100 -100\n0 285\n1 285\n-100 -100\n",
+       "Polyline 000000 (6000,4500) (6000,3386)\n"},
+      {"a lone vertex draws nothing", "0 285\n-100 -100\n0 286\n1 286\n",
+       "Polyline 000000 (7114,4500) (7114,3386)\n"},
+      {"a long step in y", "0 285\n2 285\n3 285\n", "Polyline 000000 (6000,2271) (6000,1157)\n"},
+      {"a long step in x", "0 285\n0 287\n0 288\n", "Polyline 000000 (8229,4500) (9343,4500)\n"},
+      {"1.7 degrees in both are no long step", "0 285\n1.7 286.7\n",
+       "Polyline 000000 (6000,4500) (7894,2605)\n"},
+      {"-2000 ends the drawing", "0 285\n1 285\n-2000\n0 285\n", "Polyline 000000 (6000,4500) (6000,3386)\n"},
+      {"drawn up to the limit and along it", "0 306\n0 307\n.5 307\n",
+       "Polyline 000000 (29402,4500) (30000,4500) (30000,3929)\n"},
+      {"beyond the limit by more than a long step", "0 307\n0 308.5\n0 309\n", ""},
+  };
+  for (const auto& row : rows) EXPECT_EQ(Draw(row.vertices), row.drawn) << row.what;
+}
+
+TEST(OutlinesTest, AVertexWithoutAPositionLiftsThePen) {
+  Outline outline = ReadOutline("0 285\n1 285\n9 9\n0 286\n1 286\n");
+  outline.Latitude[2] = std::numeric_limits<float>::quiet_NaN();
+  RecordingCanvas canvas;
+  DrawOutline(canvas, outline, MapProjection(0, 75, 750));
+  EXPECT_EQ(canvas.Readable(),
+            "Polyline 000000 (6000,4500) (6000,3386)\nPolyline 000000 (7114,4500) (7114,3386)\n");
+}
+
+TEST(OutlinesTest, FilesInTheirColoursWithTheHomeMarkBetween) {
+  const TestFolder files;
+  files.Put("states.DAT", "0 285\n1 285\n-2000\n");
+  files.Put("REGION2.dat", "0 285\n0 286\n");
+  RecordingCanvas canvas;
+  DrawOutlineFiles(canvas, files.Folder(), MapProjection(0, 75, 750));
+  const std::string home =
+      "Circle 0000FF (6000,4500) r50\n"
+      "Line 0000FF (5950,4500) (6050,4500)\n"
+      "Line 0000FF (6000,4450) (6000,4550)\n";
+  EXPECT_EQ(canvas.Readable(),
+            "Polyline DD9999 (6000,4500) (6000,3386)\n" + home + "Polyline CC8888 (6000,4500) (7114,4500)\n");
+
+  const TestFolder empty;
+  canvas.Clear();
+  DrawOutlineFiles(canvas, empty.Folder(), MapProjection(0, 75, 750));
+  EXPECT_EQ(canvas.Readable(), home);
+}
+
+}  // namespace
+}  // namespace kestrel
