@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QStringList>
+#include <functional>
 #include <vector>
 
 #include "ui/Platform.h"
@@ -39,9 +40,13 @@ class StandInPlatform final : public Platform {
     return HasSystemInformation;
   }
   void Pause(double seconds) override { PausedSeconds += seconds; }
-  void ProcessEvents() override { ++EventRounds; }
+  void ProcessEvents() override {
+    ++EventRounds;
+    if (OnEvents) OnEvents(EventRounds);
+  }
 
   int EventRounds = 0;
+  std::function<void(int)> OnEvents;  ///< what happens in an event round, with its number from 1
 };
 
 }  // namespace kestrel
