@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "map/TowerSheet.h"
+#include "ui/Controls.h"
 #include "ui/MapSurface.h"
 
 namespace kestrel {
@@ -39,8 +40,7 @@ frmShowTowers::frmShowTowers(const Workspace& workspace, QWidget* parent, const 
   DrawTowerSheet(table->Drawing(), twips, rows);
   table->ShowDrawing();
 
-  auto* close = new QPushButton("&Close");
-  close->setObjectName("cmdExit");
+  QPushButton* close = MakeButton("cmdExit", "&Close", "Back to the station's data (Escape)");
   close->setDefault(true);
   connect(close, &QPushButton::clicked, this, &QDialog::accept);
   connect(new QShortcut(QKeySequence::Copy, this), &QShortcut::activated, this,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QStringList>
+#include <functional>
 #include <vector>
 
 #include "ui/Platform.h"
@@ -18,6 +19,7 @@ class StandInPlatform final : public Platform {
   // What it answers.
   std::optional<ColorValue> NextColor;  ///< nothing: the colour dialog is cancelled
   bool HasSystemInformation = false;
+  std::function<std::optional<PrintOrder>(const PrintOffer&)> NextPrint;  ///< none: printing is cancelled
 
   // What it was asked.
   QStringList Messages;
@@ -40,6 +42,9 @@ class StandInPlatform final : public Platform {
   }
   void Pause(double seconds) override { PausedSeconds += seconds; }
   void ProcessEvents() override { ++EventRounds; }
+  std::optional<PrintOrder> OfferPrinting(QWidget*, const PrintOffer& offer) override {
+    return NextPrint ? NextPrint(offer) : std::nullopt;
+  }
 
   int EventRounds = 0;
 };
