@@ -1,0 +1,169 @@
+#include "import/AmqList.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+#include "core/Text.h"
+#include "data/StationLineText.h"
+#include "import/Countries.h"
+#include "import/RowFields.h"
+
+namespace kestrel {
+namespace {
+
+// The fields of a row, counted from 1; field 0 is the nothing before the first bar.
+enum Field : std::size_t {
+  kCall = 1,
+  kFrequency = 2,
+  kService = 3,
+  kPeriod = 6,
+  kStatus = 9,
+  kCity = 10,
+  kState = 11,
+  kCountry = 12,
+  kPower = 14,
+  kDirectional = 15,
+  kFacility = 18,
+  kLatitude = 19,
+  kLongitude = 23
+};
+
+constexpr std::size_t kOlderFields = 31;
+constexpr std::size_t kFields = 33;
+
+// In the order of preference; those behind the permit are never on the air.
+constexpr std::array<std::string_view, 11> kStatuses = {"LIC",    "STA", "MOD", "CP",  "APP", "NCECP",
+                                                        "NCECPA", "EXT", "CNL", "EXP", "DEL"};
+
+bool IsOnAir(std::string_view status, std::string_view country, bool includePermits) {
+  if (country != "US") return status == "LIC" || status == "CP";
+  return status == "LIC" || status == "STA" || (includePermits && (status == "MOD" || status == "CP"));
+}
+
+std::optional<char> HoursCode(std::string_view period) {
+  if (period == "Daytime") return 'D';
+  if (period == "Nighttime") return 'N';
+  if (period == "Unlimited") return 'U';
+  if (period == "Critical Hours") return 'C';
+  return std::nullopt;
+}
+
+std::string Quoted(std::string_view text) {
+  return '"' + std::string(text) + '"';
+}
+
+/// Why a row is left out.
+struct Fault {
+  Finding finding;
+  std::string text;
+};
+
+class Reader {
+ public:
+  Reader(const ImportOptions& options, AmqStations& stations) : options_(options), stations_(stations) {}
+
+  /// Adds the row's station, or says why not.
+  std::optional<Fault> Add(std::string_view line, bool cut, RowPlace row);
+
+ private:
+  std::optional<Fault> ReadStatus(Station& station);
+  std::optional<Fault> ReadSite(Station& station) const;
+  SexagesimalText Angle(std::size_t first) const {
+    return {fields_[first], fields_[first + 1], fields_[first + 2], fields_[first + 3]};
+  }
+
+  const ImportOptions& options_;
+  AmqStations& stations_;
+  std::vector<std::string_view> fields_;
+};
+
+std::optional<Fault> Reader::Add(std::string_view line, bool cut, RowPlace row) {
+  if (cut) return Fault{Finding::WrongForm, "the row is longer than 64 KB"};
+  line = Trim(line);
+  if (!line.ends_with('|')) return Fault{Finding::WrongForm, "the row does not end with a bar"};
+  SplitAtBars(line, fields_);
+  const std::size_t count = fields_.size() - 2;
+  if (count < kOlderFields || count > kFields)
+    return Fault{Finding::WrongForm, std::to_string(count) + " fields, 31 to 33 expected"};
+
+  Station station;
+  station.row = row;
+  if (fields_[kService] != "AM") return Fault{Finding::OtherService, "service " + Quoted(fields_[kService])};
+  if (auto fault = ReadStatus(station)) return fault;
+  if (auto fault = ReadSite(station)) return fault;
+  stations_.onAir.push_back(std::move(station));
+  return std::nullopt;
+}
+
+std::optional<Fault> Reader::ReadStatus(Station& station) {
+  const auto* const status = std::find(kStatuses.begin(), kStatuses.end(), fields_[kStatus]);
+  if (status == kStatuses.end()) return Fault{Finding::BadField, "status " + Quoted(fields_[kStatus])};
+  const std::optional<char> hours = HoursCode(fields_[kPeriod]);
+  if (!hours) return Fault{Finding::BadField, "hours " + Quoted(fields_[kPeriod])};
+  station.hours = *hours;
+  station.country = CountryCode(fields_[kCountry]);
+  station.callSign = UpperCase(MendedName(fields_[kCall]));
+  if (fields_[kFacility] != "0" && fields_[kFacility] != "-") station.facility = fields_[kFacility];
+  station.preference = static_cast<int>(status - kStatuses.begin());
+  station.permit = station.country == "US" && *status != "LIC" && *status != "STA";
+  if (!station.facility.empty()) stations_.facilities.insert(station.facility);
+
+  const bool named = IsCallSign(station.callSign);
+  if (named && IsOnAir(*status, station.country, options_.includePermits)) return std::nullopt;
+  if (!station.facility.empty()) stations_.offAir.emplace(station.facility, station.hours);
+  if (!named) return Fault{Finding::NotOnAir, "call sign " + Quoted(station.callSign)};
+  return Fault{Finding::NotOnAir, station.callSign + ", status " + std::string(*status)};
+}
+
+std::optional<Fault> Reader::ReadSite(Station& station) const {
+  const std::optional<double> frequency = NumberWithUnit(fields_[kFrequency], "kHz");
+  if (!frequency) return Fault{Finding::BadField, "frequency " + Quoted(fields_[kFrequency])};
+  const std::optional<double> power = NumberWithUnit(fields_[kPower], "kW");
+  if (!power) return Fault{Finding::BadField, "power " + Quoted(fields_[kPower])};
+  const Result<SitePosition> position = ReadSitePosition(Angle(kLatitude), Angle(kLongitude));
+  if (!position) return Fault{Finding::BadField, position.error().text};
+  const std::string_view directional = fields_[kDirectional];
+  if (!directional.empty() && directional != "-" && directional != "Directional")
+    return Fault{Finding::BadField, "antenna " + Quoted(directional)};
+
+  if (!IsOnRaster(*frequency))
+    return Fault{Finding::OffRaster, station.callSign + ", " + DecimalText(*frequency, 3) + " kHz"};
+  if (const std::string fault = PowerFault(*power); !fault.empty())
+    return Fault{Finding::BadField, station.callSign + ", " + fault};
+  if (!IsInAmericas(*position))
+    return Fault{Finding::OutsideAmericas, station.callSign + ", " + std::string(fields_[kCity])};
+  if (!options_.WantsCountry(station.country))
+    return Fault{Finding::OtherCountry, station.callSign + ", " + station.country};
+
+  station.channel = static_cast<int>(*frequency);
+  station.powerKW = *power;
+  station.position = *position;
+  station.directional = directional == "Directional";
+  station.city = MendedName(fields_[kCity]);
+  station.state = MendedName(fields_[kState]);
+  return std::nullopt;
+}
+
+}  // namespace
+
+bool IsAmqRow(std::string_view line) {
+  if (!line.starts_with('|') || line.ends_with("|^|")) return false;
+  std::vector<std::string_view> fields;
+  SplitAtBars(line, fields);
+  return fields.size() > kOlderFields && fields[kFrequency].ends_with("kHz");
+}
+
+void ReadAmqList(LineStream& lines, int file, const ImportOptions& options, AmqStations& stations,
+                 ImportReport& report) {
+  Reader reader(options, stations);
+  while (const auto line = lines.Next()) {
+    if (!line->starts_with('|')) continue;
+    const RowPlace row{file, lines.LineNumber()};
+    report.Read(row);
+    if (const std::optional<Fault> fault = reader.Add(*line, lines.WasCut(), row))
+      report.LeaveOut(row, fault->finding, fault->text);
+  }
+}
+
+}  // namespace kestrel

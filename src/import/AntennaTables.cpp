@@ -1,0 +1,168 @@
+#include "import/AntennaTables.h"
+
+#include <algorithm>
+
+#include "core/Text.h"
+#include "import/RowFields.h"
+#include "import/TableRow.h"
+
+namespace kestrel {
+namespace {
+
+constexpr double kMostDegrees = 100000;  // of a height or spacing
+
+/// Keeps `value` under `key`; an earlier row there is left out.
+template <typename Value>
+void Keep(std::unordered_map<std::string, Value>& map, std::string key, Value value, ImportReport& report) {
+  const auto [at, isNew] = map.try_emplace(std::move(key), value);
+  if (isNew) return;
+  report.LeaveOut(at->second.row, Finding::Superseded, at->first);
+  at->second = std::move(value);
+}
+
+/// Rows of the current system that are no longer in force are left out here.
+bool IsInForce(TableRow& row) {
+  if (!row.HasColumn("active_ind") || row.Text("active_ind") == "Y") return true;
+  row.LeaveOut(Finding::NotLicensed, "active_ind \"" + std::string(row.Text("active_ind")) + '"');
+  return false;
+}
+
+void ReadAntennaSystem(TableRow& row, bool current, AntennaTables& tables, ImportReport& report) {
+  AntennaSystem system;
+  system.row = row.Place();
+  system.id = row.Key("ant_sys_id");
+  system.application = row.Key("application_id");
+  system.current = current;
+  if (!IsInForce(row)) return;
+  if (row.HasColumn("eng_record_type") && row.Text("eng_record_type") != "C") {
+    row.LeaveOut(Finding::NotLicensed,
+                 "antenna system " + system.id + ", record type " + std::string(row.Text("eng_record_type")));
+    return;
+  }
+  const std::string_view hours = row.Text("hours_operation");
+  if (hours == "P" || hours == "X") {
+    row.LeaveOut(Finding::OtherHours, "antenna system " + system.id + ", hours " + std::string(hours));
+    return;
+  }
+  if (hours.size() != 1 || std::string_view("UDNCR").find(hours) == std::string_view::npos)
+    row.Fail("hours_operation");
+  system.hours = hours == "R" ? 'C' : row.Letter("hours_operation");
+  system.domesticStatus = row.Letter("am_dom_status");
+  system.directional = row.Letter("ant_dir_ind") == 'Y';
+  system.towerCount = static_cast<int>(row.Number("tower_count", 0, 1000).value_or(0));
+  system.powerKW = row.Number("power", 0, 1e6).value_or(0);
+  system.position = row.Position();
+  if (row.Faulty()) return;
+  std::string id = system.id;
+  Keep(tables.systems, std::move(id), std::move(system), report);
+}
+
+/// Of a top-loaded tower without a height of its own: the height of its parts.
+double ElectricalHeight(TableRow& row) {
+  const double height = row.Number("elec_hgt_deg", 0, kMostDegrees).value_or(0);
+  const char loaded = row.Letter("top_loaded_switch");
+  if (height != 0 || (loaded != '1' && loaded != '2')) return height;
+  const auto part = [&](std::string_view column) { return row.Number(column, 0, kMostDegrees).value_or(0); };
+  const double single = part("topload_a") + part("topload_b");
+  const double sectional = part("topload_c") + part("topload_d");
+  if (loaded == '1') return single != 0 ? single : sectional;
+  return sectional != 0 ? sectional : single;
+}
+
+void ReadTower(TableRow& row, AntennaTables& tables, ImportReport& report) {
+  TowerRow tower;
+  tower.row = row.Place();
+  std::string system = row.Key("ant_sys_id");
+  if (!IsInForce(row)) return;
+  row.Key("tower_num");
+  tower.number = static_cast<int>(row.Number("tower_num", 1, 1000).value_or(0));
+  tower.field = row.Number("field_ratio", 0, 1e6);
+  tower.height = ElectricalHeight(row);
+  tower.phase = row.Number("phasing_deg", -360, 360).value_or(0);
+  tower.spacing = row.Number("spacing_deg", 0, kMostDegrees).value_or(0);
+  tower.bearing = row.Number("orientation_deg", -360, 360).value_or(0);
+  const std::string_view reference = row.Text("tower_ref_switch");
+  if (!reference.empty() && reference != "0" && reference != "1") row.Fail("tower_ref_switch");
+  tower.fromPrevious = reference == "1";
+  if (row.Faulty()) return;
+
+  std::vector<TowerRow>& towers = tables.towers[std::move(system)];
+  if (!towers.empty() && towers.front().row.file != tower.row.file) {
+    // A later file tells of the whole array anew.
+    for (const TowerRow& old : towers)
+      report.LeaveOut(old.row, Finding::Superseded, "tower " + std::to_string(old.number));
+    towers.clear();
+  }
+  const auto same = std::find_if(towers.begin(), towers.end(),
+                                 [&](const TowerRow& old) { return old.number == tower.number; });
+  if (same == towers.end()) {
+    towers.push_back(tower);
+  } else {
+    report.LeaveOut(same->row, Finding::Superseded, "tower " + std::to_string(tower.number));
+    *same = tower;
+  }
+}
+
+void ReadApplication(TableRow& row, std::unordered_map<std::string, ApplicationRow>& map,
+                     ImportReport& report) {
+  ApplicationRow application;
+  application.row = row.Place();
+  std::string id = row.Key("application_id");
+  if (!IsInForce(row)) return;
+  application.facility = row.Text("facility_id");
+  application.domesticStatus = row.Letter("am_dom_status");
+  const std::string_view service = row.Text("app_service");
+  if (!service.empty() && service != "AM")
+    return row.LeaveOut(Finding::OtherService, "service \"" + std::string(service) + '"');
+  if (row.Faulty()) return;
+  Keep(map, std::move(id), std::move(application), report);
+}
+
+void ReadFacility(TableRow& row, AntennaTables& tables, ImportReport& report) {
+  const std::string_view service = row.Text("fac_service");
+  if (service != "AM") return row.LeaveOut(Finding::OtherService, "service \"" + std::string(service) + '"');
+  if (!IsInForce(row)) return;
+  FacilityRow facility;
+  facility.row = row.Place();
+  std::string id = row.Key("facility_id");
+  facility.callSign = UpperCase(MendedName(row.Text("fac_callsign")));
+  facility.city = MendedName(row.Text("comm_city"));
+  facility.state = MendedName(row.Text("comm_state"));
+  facility.country = row.Text("fac_country");
+  facility.status = row.Text("fac_status");
+  facility.frequency = row.Number("fac_frequency", 0, 1e6).value_or(0);
+  facility.application = row.Text("application_id");
+  if (row.Faulty()) return;
+  Keep(tables.facilities, std::move(id), std::move(facility), report);
+}
+
+}  // namespace
+
+void ReadAntennaTable(LineStream& lines, int file, const TableLayout& layout, AntennaTables& tables,
+                      ImportReport& report) {
+  TableRow row(lines, file, layout, report);
+  while (row.Next()) {
+    switch (layout.table) {
+      case Table::AntennaSystems:
+        ReadAntennaSystem(row, layout.current, tables, report);
+        break;
+      case Table::Towers:
+        ReadTower(row, tables, report);
+        break;
+      case Table::EngineeringData:
+        ReadApplication(row, tables.engineering, report);
+        break;
+      case Table::Applications:
+        ReadApplication(row, tables.applications, report);
+        break;
+      case Table::Facilities:
+        ReadFacility(row, tables, report);
+        break;
+      case Table::Augmentations:
+        row.LeaveOut(Finding::NotUsed, "antenna system " + std::string(row.Text("ant_sys_id")));
+        break;
+    }
+  }
+}
+
+}  // namespace kestrel

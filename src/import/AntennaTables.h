@@ -1,0 +1,71 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "import/ImportReport.h"
+#include "import/LineStream.h"
+#include "import/SitePosition.h"
+#include "import/TableLayout.h"
+
+// The rows of the antenna tables, kept by their keys until the stations are put together from them. Of
+// several rows with the same key the last one counts.
+
+namespace kestrel {
+
+/// A row of am_ant_sys: one antenna of one application for its hours.
+struct AntennaSystem {
+  RowPlace row;
+  std::string id;
+  std::string application;
+  char hours = 'U';          ///< D, N, C or U
+  char domesticStatus = 0;   ///< L licensed, C permit, ...; 0 abroad
+  bool directional = false;  ///< as the record says; its towers may tell more
+  bool current = false;      ///< of the current system: licensed unless its facility says otherwise
+  int towerCount = 0;        ///< announced
+  SitePosition position;
+  double powerKW = 0;
+};
+
+/// A row of am_towers.
+struct TowerRow {
+  RowPlace row;
+  int number = 0;
+  std::optional<double> field;
+  double height = 0, phase = 0, spacing = 0,
+         bearing = 0;         ///< degrees; spacing and bearing as the switch says
+  bool fromPrevious = false;  ///< placed from the tower before, else from the reference point
+};
+
+/// A row of am_eng_data or application: whose application it is. A facility row of the current system is one
+/// too.
+struct ApplicationRow {
+  RowPlace row;
+  std::string facility;
+  char domesticStatus = 0;
+};
+
+/// A row of facility, service AM.
+struct FacilityRow {
+  RowPlace row;
+  std::string callSign, city, state, country, status;
+  double frequency = 0;     ///< kHz
+  std::string application;  ///< the one in force; only in the current system
+};
+
+struct AntennaTables {
+  std::unordered_map<std::string, AntennaSystem> systems;         ///< by ant_sys_id
+  std::unordered_map<std::string, std::vector<TowerRow>> towers;  ///< by ant_sys_id
+  std::unordered_map<std::string, ApplicationRow> engineering;    ///< by application_id
+  std::unordered_map<std::string, ApplicationRow> applications;   ///< by application_id
+  std::unordered_map<std::string, FacilityRow> facilities;        ///< by facility_id
+};
+
+/// Reads the table to its end. Rows that are not kept are left out in `report` with their reason; the others
+/// are taken or left out when the stations are put together.
+void ReadAntennaTable(LineStream& lines, int file, const TableLayout& layout, AntennaTables& tables,
+                      ImportReport& report);
+
+}  // namespace kestrel

@@ -1,0 +1,205 @@
+#include "import/Changes.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <map>
+#include <numbers>
+#include <tuple>
+
+#include "data/StationLineText.h"
+#include "import/SitePosition.h"
+
+namespace kestrel {
+namespace {
+
+constexpr double kSamePlace = 1;  // km
+constexpr std::array kKinds = {ChangeKind::New,   ChangeKind::Gone,    ChangeKind::Moved,
+                               ChangeKind::Power, ChangeKind::Pattern, ChangeKind::CallSign};
+
+double Distance(const StationRecord& a, const StationRecord& b) {
+  return SiteDistance({a.Latitude, a.Longitude}, {b.Latitude, b.Longitude});
+}
+
+/// A tower by what the pattern sees of it: its share of the strongest field, its phase and place from tower
+/// 1's.
+struct SeenTower {
+  double field, phase, east, north;
+};
+
+std::vector<SeenTower> SeenTowers(const StationRecord& record) {
+  constexpr double kRadian = std::numbers::pi / 180;
+  std::vector<SeenTower> towers;
+  double strongest = 0;
+  for (std::size_t i = 1; i <= static_cast<std::size_t>(record.TowerCount); ++i) {
+    SeenTower tower{record.Fields[i], record.Phases[i],
+                    record.Spacings[i] * std::sin(record.Bearings[i] * kRadian),
+                    record.Spacings[i] * std::cos(record.Bearings[i] * kRadian)};
+    if (record.Switch[i] != "0" && !towers.empty()) {
+      tower.east += towers.back().east;
+      tower.north += towers.back().north;
+    }
+    towers.push_back(tower);
+    strongest = std::max(strongest, tower.field);
+  }
+  if (towers.empty()) return towers;
+  const SeenTower first = towers.front();
+  for (SeenTower& tower : towers) {
+    if (strongest > 0) tower.field /= strongest;
+    tower.phase -= first.phase;
+    tower.east -= first.east;
+    tower.north -= first.north;
+  }
+  return towers;
+}
+
+/// Whether the two make the same pattern, but for its size. Towers are compared in their order.
+bool SamePattern(const StationRecord& a, const StationRecord& b) {
+  if (a.TowerCount != b.TowerCount) return false;
+  if (a.TowerCount <= 1) return true;
+  constexpr double kField = 0.001;
+  constexpr double kDegrees = 0.01;
+  const auto near = [&](const SeenTower& x, const SeenTower& y) {
+    const double turn = std::remainder(x.phase - y.phase, 360);
+    return std::abs(x.field - y.field) <= kField && std::abs(turn) <= kDegrees &&
+           std::abs(x.east - y.east) <= kDegrees && std::abs(x.north - y.north) <= kDegrees;
+  };
+  const std::vector<SeenTower> seenA = SeenTowers(a);
+  const std::vector<SeenTower> seenB = SeenTowers(b);
+  return std::equal(seenA.begin(), seenA.end(), seenB.begin(), seenB.end(), near);
+}
+
+std::string Towers(int count) {
+  if (count == 0) return "not known";
+  return std::to_string(count) + (count == 1 ? " tower" : " towers");
+}
+
+/// The two sides, and which antennas of each have found their counterpart.
+class Comparison {
+ public:
+  Comparison(const std::vector<ListedAntenna>& before, const std::vector<ListedAntenna>& after)
+      : before_(before), after_(after), foundBefore_(before.size()), foundAfter_(after.size()) {}
+
+  /// Pairs those of equal key, the nearest first, up to `farthest` km apart.
+  template <typename Key, typename Paired>
+  void Pair(Key key, double farthest, Paired paired) {
+    std::multimap<std::string, std::size_t> byKey;
+    for (std::size_t i = 0; i < before_.size(); ++i)
+      if (!foundBefore_[i]) byKey.emplace(key(before_[i].record), i);
+    std::vector<std::tuple<double, std::size_t, std::size_t>> pairs;
+    for (std::size_t j = 0; j < after_.size(); ++j) {
+      if (foundAfter_[j]) continue;
+      const auto [first, last] = byKey.equal_range(key(after_[j].record));
+      for (auto at = first; at != last; ++at) {
+        const double distance = Distance(before_[at->second].record, after_[j].record);
+        if (distance <= farthest) pairs.emplace_back(distance, at->second, j);
+      }
+    }
+    std::sort(pairs.begin(), pairs.end());
+    for (const auto& [distance, i, j] : pairs) {
+      if (foundBefore_[i] || foundAfter_[j]) continue;
+      foundBefore_[i] = foundAfter_[j] = true;
+      paired(before_[i], after_[j], distance);
+    }
+  }
+
+  template <typename Left>
+  void ForLeftOver(Left left) const {
+    for (std::size_t i = 0; i < before_.size(); ++i)
+      if (!foundBefore_[i]) left(ChangeKind::Gone, before_[i]);
+    for (std::size_t j = 0; j < after_.size(); ++j)
+      if (!foundAfter_[j]) left(ChangeKind::New, after_[j]);
+  }
+
+ private:
+  const std::vector<ListedAntenna>& before_;
+  const std::vector<ListedAntenna>& after_;
+  std::vector<bool> foundBefore_;
+  std::vector<bool> foundAfter_;
+};
+
+}  // namespace
+
+std::string_view ChangeName(ChangeKind kind) {
+  switch (kind) {
+    case ChangeKind::New:
+      return "new";
+    case ChangeKind::Gone:
+      return "gone";
+    case ChangeKind::Moved:
+      return "moved";
+    case ChangeKind::Power:
+      return "power";
+    case ChangeKind::Pattern:
+      return "pattern";
+    case ChangeKind::CallSign:
+      return "call sign";
+  }
+  return {};
+}
+
+std::vector<ListedAntenna> ReadAntennas(int channel, const std::string& fileName, std::string_view bytes) {
+  std::vector<ListedAntenna> antennas;
+  StationFileReader reader(fileName, bytes);
+  while (const StationRecord* record = reader.Next()) antennas.push_back({channel, *record});
+  return antennas;
+}
+
+std::vector<Change> CompareChannel(const std::vector<ListedAntenna>& before,
+                                   const std::vector<ListedAntenna>& after) {
+  std::vector<Change> changes;
+  const auto add = [&](ChangeKind kind, const ListedAntenna& antenna, std::string detail) {
+    const StationRecord& r = antenna.record;
+    changes.push_back({kind, antenna.channel, r.CallSign, r.HoursCode,
+                       r.City + ", " + r.State + ", " + r.Country, std::move(detail)});
+  };
+  const auto compare = [&](const ListedAntenna& old, const ListedAntenna& now, double distance) {
+    if (distance > kSamePlace) add(ChangeKind::Moved, now, DecimalText(distance, 1) + " km");
+    if (old.record.PowerKW != now.record.PowerKW)
+      add(ChangeKind::Power, now,
+          DecimalText(old.record.PowerKW, 4) + " kW -> " + DecimalText(now.record.PowerKW, 4) + " kW");
+    if (!SamePattern(old.record, now.record)) {
+      const int oldCount = old.record.TowerCount;
+      const int count = now.record.TowerCount;
+      add(ChangeKind::Pattern, now,
+          oldCount == count ? Towers(count) : Towers(oldCount) + " -> " + Towers(count));
+    }
+  };
+
+  Comparison comparison(before, after);
+  constexpr double kAnywhere = 1e9;
+  comparison.Pair([](const StationRecord& r) { return r.CallSign + '|' + r.HoursCode; }, kAnywhere, compare);
+  comparison.Pair([](const StationRecord& r) { return r.HoursCode; }, kSamePlace,
+                  [&](const ListedAntenna& old, const ListedAntenna& now, double distance) {
+                    add(ChangeKind::CallSign, now, "was " + old.record.CallSign);
+                    compare(old, now, distance);
+                  });
+  comparison.ForLeftOver([&](ChangeKind kind, const ListedAntenna& antenna) { add(kind, antenna, {}); });
+  std::stable_sort(changes.begin(), changes.end(), [](const Change& a, const Change& b) {
+    return std::tie(a.kind, a.callSign, a.hours) < std::tie(b.kind, b.callSign, b.hours);
+  });
+  return changes;
+}
+
+std::string ChangesText(const std::vector<Change>& changes, std::size_t most) {
+  if (changes.empty()) return "No changes\n";
+  std::string text;
+  for (const ChangeKind kind : kKinds) {
+    const auto isOfKind = [&](const Change& change) { return change.kind == kind; };
+    const auto count = static_cast<std::size_t>(std::count_if(changes.begin(), changes.end(), isOfKind));
+    if (count == 0) continue;
+    text += std::string(ChangeName(kind)) + ": " + std::to_string(count) + '\n';
+    std::size_t shown = 0;
+    for (const Change& change : changes) {
+      if (!isOfKind(change) || (most > 0 && shown == most)) continue;
+      ++shown;
+      text += "  " + std::to_string(change.channel) + ' ' + change.callSign + ' ' + change.hours + ", " +
+              change.place;
+      text += change.detail.empty() ? "\n" : ": " + change.detail + '\n';
+    }
+    if (shown < count) text += "  and " + std::to_string(count - shown) + " more\n";
+  }
+  return text;
+}
+
+}  // namespace kestrel

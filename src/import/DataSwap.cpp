@@ -1,0 +1,219 @@
+#include "import/DataSwap.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLockFile>
+#include <memory>
+#include <optional>
+
+#include "data/FileIo.h"
+#include "import/SwapJournal.h"
+
+namespace kestrel {
+namespace {
+
+const QString kNewSet = ".import-new";    // being written
+const QString kOldSet = ".import-old";    // being replaced
+const QString kKeptSet = ".import-undo";  // replaced by the last import
+const QString kJournal = ".import-journal";
+const QString kLock = ".import-lock";
+
+/// What stopped the work: a step that was not allowed, or a refusal of the system.
+struct Stopped {
+  bool abandoned = false;
+  Error error;
+};
+
+/// The exchange in one folder. A member function that fails throws nothing and leaves its reason in stopped_;
+/// those that follow then do nothing, so a chain of them ends where the first one failed.
+class Exchange {
+ public:
+  Exchange(const QString& folder, const SwapStep& step) : dir_(folder), step_(step) {}
+
+  bool Lock() {
+    lock_ = std::make_unique<QLockFile>(dir_.filePath(kLock));
+    lock_->setStaleLockTime(0);  // a lock holds as long as its process
+    return lock_->tryLock(0);
+  }
+
+  bool Exists(const QString& name) const { return QFileInfo::exists(dir_.filePath(name)); }
+  const std::optional<Stopped>& Failure() const { return stopped_; }
+  void Forgive() { stopped_.reset(); }
+  Result<Done> Outcome() const {
+    if (stopped_) return stopped_->error;
+    return Done{};
+  }
+
+  void MakeFolder(const QString& name) {
+    if (!Exists(name)) Do(name, "the folder cannot be made", [&] { return dir_.mkdir(name); });
+  }
+  void RemoveFolder(const QString& name) {
+    if (Exists(name))
+      Do(name, "the folder cannot be removed", [&] { return QDir(dir_.filePath(name)).removeRecursively(); });
+  }
+  void RenameFolder(const QString& from, const QString& to) {
+    Do(from, "the folder cannot be renamed", [&] { return dir_.rename(from, to); });
+  }
+  void Move(const QString& fromFolder, const QString& toFolder, const QString& name) {
+    const QString from = dir_.filePath(fromFolder + name);
+    Do(name, "the file cannot be moved",
+       [&] { return QFileInfo(from).isFile() && QFile::rename(from, dir_.filePath(toFolder + name)); });
+  }
+  void Write(const QString& name, std::string_view bytes) {
+    if (stopped_ || !Allowed()) return;
+    if (const Result<Done> written = WriteFile(dir_.filePath(name), bytes); !written)
+      stopped_ = Stopped{false, written.error()};
+  }
+  void RemoveFile(const QString& name) {
+    Do(name, "the file cannot be removed", [&] { return QFile::remove(dir_.filePath(name)); });
+  }
+
+  QStringList FilesOf(const QString& folder) const {
+    const QDir dir(dir_.filePath(folder));
+    return dir.exists() ? dir.entryList(QDir::Files | QDir::Hidden, QDir::Name) : QStringList();
+  }
+
+  void Forward(const SwapJournal& journal);
+  void Back(const SwapJournal& journal);
+  void ClearUp(const SwapJournal& journal);
+  Result<Done> Run(SwapJournal journal);
+
+ private:
+  bool Allowed() {
+    if (!step_ || step_()) return true;
+    stopped_ = Stopped{true, {Error::Kind::Refused, "", 0, "the import was interrupted"}};
+    return false;
+  }
+
+  template <typename Action>
+  void Do(const QString& name, const char* problem, Action action) {
+    if (stopped_ || !Allowed() || action()) return;
+    stopped_ = Stopped{false, {Error::Kind::Refused, name.toStdString(), 0, problem}};
+  }
+
+  QDir dir_;
+  const SwapStep& step_;
+  std::unique_ptr<QLockFile> lock_;
+  std::optional<Stopped> stopped_;
+};
+
+/// Whichever of the moves have been made already, makes the others.
+void Exchange::Forward(const SwapJournal& journal) {
+  MakeFolder(kOldSet);
+  for (const QString& name : journal.oldFiles)
+    if (!Exists(kOldSet + '/' + name)) Move("", kOldSet + '/', name);
+  for (const QString& name : journal.newFiles)
+    if (Exists(journal.source + '/' + name)) Move(journal.source + '/', "", name);
+}
+
+/// Whichever of the moves have been made, takes them back.
+void Exchange::Back(const SwapJournal& journal) {
+  for (const QString& name : journal.newFiles)
+    if (!Exists(journal.source + '/' + name)) Move("", journal.source + '/', name);
+  for (const QString& name : journal.oldFiles)
+    if (Exists(kOldSet + '/' + name)) Move(kOldSet + '/', "", name);
+  RemoveFile(kJournal);  // before the folders: without them it would read as nothing moved yet
+  RemoveFolder(kOldSet);
+  if (journal.source == kNewSet) RemoveFolder(kNewSet);
+}
+
+/// Keeps the replaced set. The old set is still under its first name as long as the kept one has to go.
+void Exchange::ClearUp(const SwapJournal& journal) {
+  if (Exists(kOldSet)) {
+    RemoveFolder(kKeptSet);
+    RenameFolder(kOldSet, kKeptSet);
+  }
+  if (journal.source == kNewSet) RemoveFolder(kNewSet);
+  RemoveFile(kJournal);
+}
+
+Result<Done> Exchange::Run(SwapJournal journal) {
+  if (!journal.moved) {
+    Forward(journal);
+    if (stopped_ && !stopped_->abandoned) {
+      const Error why = stopped_->error;
+      Forgive();
+      Back(journal);
+      return why;
+    }
+    journal.moved = true;
+    Write(kJournal, JournalText(journal));
+  }
+  ClearUp(journal);
+  return Outcome();
+}
+
+/// The files of the folder that belong to the set, by the names they have there.
+QStringList PresentFiles(const QString& folder) {
+  QStringList present;
+  for (const QString& file : QDir(folder).entryList(QDir::Files, QDir::Name))
+    for (const std::string& name : StationSetNames())
+      if (file.compare(QString::fromStdString(name), Qt::CaseInsensitive) == 0) present << file;
+  return present;
+}
+
+Error Busy(const DataFolder& folder) {
+  return {Error::Kind::Refused, folder.Path().toStdString(), 0,
+          "cannot be written to, or another import is at work in it"};
+}
+
+/// With the folder locked: what an interrupted run left is finished or taken back.
+Result<Done> Recover(Exchange& exchange, const QString& folder) {
+  if (!exchange.Exists(kJournal)) {
+    exchange.RemoveFolder(kNewSet);
+    exchange.RemoveFolder(kOldSet);
+    return exchange.Outcome();
+  }
+  const Result<QByteArray> bytes = ReadFile(folder + '/' + kJournal);
+  if (!bytes) return bytes.error();
+  const auto journal = ReadJournal({bytes->constData(), static_cast<std::size_t>(bytes->size())});
+  if (!journal)
+    return Error{Error::Kind::Malformed, kJournal.toStdString(), 0,
+                 "is damaged; remove it to go on with the files as they are"};
+  return exchange.Run(*journal);
+}
+
+}  // namespace
+
+Result<Done> SwapInStations(const DataFolder& folder, const StationSet& files, const SwapStep& step) {
+  Exchange exchange(folder.Path(), step);
+  if (!exchange.Lock()) return Busy(folder);
+  if (const Result<Done> recovered = Recover(exchange, folder.Path()); !recovered) return recovered;
+
+  SwapJournal journal{false, kNewSet, PresentFiles(folder.Path()), {}};
+  exchange.MakeFolder(kNewSet);
+  for (const auto& [name, bytes] : files) {
+    exchange.Write(kNewSet + '/' + QString::fromStdString(name), bytes);
+    journal.newFiles << QString::fromStdString(name);
+  }
+  exchange.Write(kJournal, JournalText(journal));
+  if (const auto failure = exchange.Failure()) {
+    exchange.Forgive();
+    if (!failure->abandoned) exchange.RemoveFolder(kNewSet);
+    return failure->error;
+  }
+  return exchange.Run(journal);
+}
+
+Result<Done> UndoImport(const DataFolder& folder, const SwapStep& step) {
+  Exchange exchange(folder.Path(), step);
+  if (!exchange.Lock()) return Busy(folder);
+  if (const Result<Done> recovered = Recover(exchange, folder.Path()); !recovered) return recovered;
+  if (!exchange.Exists(kKeptSet))
+    return Error{Error::Kind::NotFound, folder.Path().toStdString(), 0,
+                 "holds no station files that an import replaced"};
+  const SwapJournal journal{false, kKeptSet, PresentFiles(folder.Path()), exchange.FilesOf(kKeptSet)};
+  exchange.Write(kJournal, JournalText(journal));
+  if (exchange.Failure()) return exchange.Outcome();
+  return exchange.Run(journal);
+}
+
+Result<Done> RecoverImport(const DataFolder& folder, const SwapStep& step) {
+  Exchange exchange(folder.Path(), step);
+  if (!exchange.Exists(kJournal) && !exchange.Exists(kNewSet)) return Done{};
+  if (!exchange.Lock()) return Done{};
+  return Recover(exchange, folder.Path());
+}
+
+}  // namespace kestrel

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <functional>
+
+#include "core/Result.h"
+#include "data/DataFolder.h"
+#include "import/StationSet.h"
+
+// Replacing the station files of a data folder all at once. docs/formats/import-journal.md describes what
+// stands in the folder meanwhile.
+
+namespace kestrel {
+
+/// Called before each change on the disk; false abandons the work at this point, as a killed process would.
+using SwapStep = std::function<bool()>;
+
+/// Puts the set in the place of the folder's station files, "StationsCall.DAT" and "Stations.txt", and keeps
+/// those for UndoImport; what was kept before goes. No other file of the folder is touched. The new files are
+/// written beside the old ones first; interrupted before all are whole, the old set stays, later the new one
+/// is completed by RecoverImport. A failure brings the old set back. Errors: Refused, with the file that made
+/// the trouble, or the folder when another import is at work in it.
+Result<Done> SwapInStations(const DataFolder& folder, const StationSet& files, const SwapStep& step = {});
+
+/// Brings the set back that the last import replaced, and keeps the present one in its turn: done twice, all
+/// is as it was. Errors: NotFound when there is none; else as SwapInStations.
+Result<Done> UndoImport(const DataFolder& folder, const SwapStep& step = {});
+
+/// Finishes or takes back what an interrupted import left. To be called before the folder's files are read;
+/// costs next to nothing when there is nothing to do, and does nothing while an import is at work. Errors:
+/// Refused; the next call tries again.
+Result<Done> RecoverImport(const DataFolder& folder, const SwapStep& step = {});
+
+}  // namespace kestrel

@@ -1,0 +1,156 @@
+#include "import/Import.h"
+
+#include <QDateTime>
+#include <QFileInfo>
+#include <QLocale>
+#include <algorithm>
+#include <charconv>
+#include <memory>
+
+#include "data/FileIo.h"
+#include "import/DataSwap.h"
+#include "import/Intake.h"
+#include "import/Merge.h"
+#include "import/ReadFiles.h"
+#include "import/StationSet.h"
+
+namespace kestrel {
+namespace {
+
+constexpr double kReadingShare = 0.8;  // of the whole work
+
+const Error kCancelled{Error::Kind::Refused, "", 0, "cancelled; the station files are as they were"};
+
+/// Counts the bytes that pass, tells of them, and ends early when told to.
+class ProgressStream : public ByteStream {
+ public:
+  ProgressStream(ByteStream& stream, const std::function<bool(std::size_t)>& passed)
+      : stream_(stream), passed_(passed) {}
+
+  std::size_t Read(char* to, std::size_t most) override {
+    const std::size_t count = stream_.Read(to, most);
+    return passed_(count) ? count : 0;
+  }
+
+ private:
+  ByteStream& stream_;
+  const std::function<bool(std::size_t)>& passed_;
+};
+
+/// Reads all files into the report and the readings. Of those that cannot be read all are named.
+std::optional<Error> ReadAll(const ImportRequest& request, const ImportProgress& progress, Readings& readings,
+                             ImportReport& report) {
+  std::optional<Error> failure;
+  const auto fail = [&](const Error& error) {
+    report.Refuse(error.file, error.text);
+    if (!failure) failure = error;
+  };
+  std::vector<std::unique_ptr<Intake>> intakes;
+  std::uint64_t total = 1;
+  for (const QString& path : request.files) {
+    Result<std::unique_ptr<Intake>> intake = OpenIntake(path);
+    if (!intake) {
+      fail(intake.error());
+      continue;
+    }
+    for (const Intake::Part& part : (*intake)->Parts()) total += part.size;
+    if ((*intake)->Parts().empty())
+      report.Refuse(QFileInfo(path).fileName().toStdString(), "is a zip without files");
+    intakes.push_back(std::move(*intake));
+  }
+
+  std::uint64_t done = 0;
+  bool cancelled = false;
+  for (const auto& intake : intakes) {
+    for (std::size_t i = 0; i < intake->Parts().size() && !cancelled; ++i) {
+      const Intake::Part& part = intake->Parts()[i];
+      Result<std::unique_ptr<ByteStream>> stream = intake->Open(i);
+      if (!stream) {
+        fail(stream.error());
+        continue;
+      }
+      const std::function<bool(std::size_t)> passed = [&](std::size_t count) {
+        done += count;
+        const double share = kReadingShare * static_cast<double>(done) / static_cast<double>(total);
+        cancelled = cancelled || (progress && !progress(std::min(share, kReadingShare), part.name));
+        return !cancelled;
+      };
+      ProgressStream counted(**stream, passed);
+      ReadSourceFile(counted, part.name, request.options, readings, report);
+    }
+  }
+  return cancelled ? kCancelled : failure;
+}
+
+/// "The FCC's AM Query list and antenna tables, files of 2 August 2026, 10980 stations"
+std::string StationsLine(const ImportRequest& request, const Readings& readings, int stations) {
+  QDateTime newest;
+  for (const QString& path : request.files) newest = std::max(newest, QFileInfo(path).lastModified());
+  std::string line = "The FCC's ";
+  if (readings.hasAmq) line += "AM Query list";
+  if (readings.hasAmq && readings.hasTables) line += " and ";
+  if (readings.hasTables) line += "antenna tables";
+  line += ", files of " + QLocale::c().toString(newest.date(), "d MMMM yyyy").toStdString();
+  return line + ", " + std::to_string(stations) + " stations";
+}
+
+std::vector<Change> CompareWith(const DataFolder& folder, const StationSet& files) {
+  std::vector<Change> changes;
+  for (const auto& [name, bytes] : files) {
+    int channel = 0;
+    if (std::from_chars(name.data(), name.data() + name.size(), channel).ec != std::errc{}) continue;
+    const Result<QByteArray> old = folder.Read(QString::fromStdString(name));
+    const std::string_view oldBytes =
+        old ? std::string_view(old->constData(), static_cast<std::size_t>(old->size())) : "";
+    for (Change& change :
+         CompareChannel(ReadAntennas(channel, name, oldBytes), ReadAntennas(channel, name, bytes)))
+      changes.push_back(std::move(change));
+  }
+  std::stable_sort(changes.begin(), changes.end(),
+                   [](const Change& a, const Change& b) { return a.channel < b.channel; });
+  return changes;
+}
+
+}  // namespace
+
+ImportOutcome RunImport(const ImportRequest& request, const DataFolder& folder,
+                        const ImportProgress& progress) {
+  ImportOutcome outcome;
+  Readings readings;
+  outcome.failure = ReadAll(request, progress, readings, outcome.report);
+  if (outcome.failure && outcome.failure->text == kCancelled.text) return outcome;
+  const auto goesOn = [&](double done, std::string_view what) {
+    if (progress && !progress(done, what) && !outcome.failure) outcome.failure = kCancelled;
+  };
+
+  goesOn(kReadingShare, "putting the stations together");
+  const std::vector<Station> stations =
+      MergeStations(std::move(readings.amq), readings.tables, request.options, outcome.report);
+  const StationSet files = [&] {
+    const std::string line = StationsLine(request, readings, SiteCount(stations));
+    outcome.stationsLine = line;
+    return MakeStationSet(stations, line, outcome.report);
+  }();
+  if (outcome.failure) return outcome;
+  if (stations.empty()) {
+    outcome.failure =
+        Error{Error::Kind::Malformed, "", 0, "no station was found; the station files are as they were"};
+    return outcome;
+  }
+
+  goesOn(0.9, "comparing with the stations before");
+  outcome.changes = CompareWith(folder, files);
+  goesOn(0.95, "writing the station files");
+  if (outcome.failure || request.dryRun) return outcome;
+  if (const Result<Done> swapped = SwapInStations(folder, files); !swapped) outcome.failure = swapped.error();
+  goesOn(1, "done");
+  return outcome;
+}
+
+std::string OutcomeText(const ImportOutcome& outcome, std::size_t mostChanges) {
+  std::string text = ReportText(outcome.report);
+  if (outcome.failure) return text;
+  return text + "\nChanges\n" + ChangesText(outcome.changes, mostChanges);
+}
+
+}  // namespace kestrel

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QStringList>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/Result.h"
+#include "data/DataFolder.h"
+#include "import/Changes.h"
+#include "import/ImportOptions.h"
+#include "import/ImportReport.h"
+
+// From the files that the listener downloaded to the station files of the map.
+
+namespace kestrel {
+
+struct ImportRequest {
+  QStringList files;  ///< paths, plain or zipped, in the order of precedence: the last one counts most
+  ImportOptions options;
+  bool dryRun = false;  ///< write nothing
+};
+
+/// Called now and then with the share done, 0 to 1, and what is being done; false cancels.
+using ImportProgress = std::function<bool(double done, std::string_view what)>;
+
+struct ImportOutcome {
+  ImportReport report;
+  std::vector<Change> changes;   ///< against what the folder held before, by channel
+  std::string stationsLine;      ///< the new line of "Stations.txt"
+  std::optional<Error> failure;  ///< why nothing was written; the report says what had been read until then
+};
+
+/// Reads the files, puts the stations together, compares them with those in `folder` and puts them in their
+/// place. Nothing is written when a file cannot be read to its end, when no station is found, when it is
+/// cancelled, and on a dry run. A file that can be read and is none of those known is refused in the report
+/// and does not stop the others.
+ImportOutcome RunImport(const ImportRequest& request, const DataFolder& folder,
+                        const ImportProgress& progress = {});
+
+/// The report for people, with the changes below it; at most `mostChanges` of a kind are listed (0: all).
+std::string OutcomeText(const ImportOutcome& outcome, std::size_t mostChanges);
+
+}  // namespace kestrel

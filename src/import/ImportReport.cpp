@@ -1,0 +1,129 @@
+#include "import/ImportReport.h"
+
+#include <algorithm>
+
+#include "core/Text.h"
+
+namespace kestrel {
+namespace {
+
+std::string RightAligned(int number, std::size_t width) {
+  const std::string text = std::to_string(number);
+  return std::string(width - std::min(width, text.size()), ' ') + text;
+}
+
+std::string Counts(const ImportReport::File& file) {
+  return RightAligned(file.rows, 9) + RightAligned(file.taken, 9) + RightAligned(file.leftOut, 9);
+}
+
+std::string FindingsText(const ImportReport& report, std::size_t first, std::size_t last) {
+  std::string text;
+  for (std::size_t i = first; i <= last; ++i) {
+    const auto finding = static_cast<Finding>(i);
+    const ImportReport::Count& count = report.Of(finding);
+    if (count.rows == 0) continue;
+    text += RightAligned(count.rows, 9) + "  " + std::string(FindingTitle(finding)) + '\n';
+    for (const std::string& example : count.examples) text += "             " + example + '\n';
+  }
+  return text;
+}
+
+}  // namespace
+
+std::string_view FindingTitle(Finding finding) {
+  switch (finding) {
+    case Finding::WrongForm:
+      return "rows that are damaged";
+    case Finding::BadField:
+      return "rows with a field that cannot be read";
+    case Finding::OtherService:
+      return "rows of another service than AM";
+    case Finding::NotOnAir:
+      return "stations not on the air";
+    case Finding::NotLicensed:
+      return "antenna records that are not the licensed ones";
+    case Finding::OtherHours:
+      return "antennas for hours that the map does not show";
+    case Finding::OtherCountry:
+      return "stations of other countries";
+    case Finding::OffRaster:
+      return "stations off the channels of 530 to 1700 kHz";
+    case Finding::OutsideAmericas:
+      return "stations outside the Americas";
+    case Finding::Superseded:
+      return "rows replaced by another of the same station and hours";
+    case Finding::NoStation:
+      return "antenna records without their station";
+    case Finding::NotReferred:
+      return "table rows of no antenna taken";
+    case Finding::NoField:
+      return "towers without a field";
+    case Finding::NotUsed:
+      return "pattern augmentations, which are not used";
+    case Finding::TowersUnknown:
+      return "directional antennas whose towers are not known";
+    case Finding::TooManyTowers:
+      return "arrays of more than 12 towers, taken without their pattern";
+    case Finding::TowersDisagree:
+      return "antennas listed as non-directional, drawn with the towers of the tables";
+    case Finding::CountryUnknown:
+      return "stations with an unknown country code";
+    case Finding::NameCut:
+      return "names cut to the width of their column";
+    case Finding::NameBlanked:
+      return "names with a comma, now a blank";
+    case Finding::NameEmpty:
+      return "empty names, now a dash";
+  }
+  return {};
+}
+
+int ImportReport::AddFile(std::string name, std::string content) {
+  files_.push_back({std::move(name), std::move(content)});
+  return static_cast<int>(files_.size()) - 1;
+}
+
+void ImportReport::LeaveOut(RowPlace row, Finding why, std::string_view text) {
+  ++FileOf(row).leftOut;
+  Add(row, why, text);
+}
+
+void ImportReport::Add(RowPlace row, Finding finding, std::string_view text) {
+  Count& count = counts_[static_cast<std::size_t>(finding)];
+  ++count.rows;
+  if (count.examples.size() < MostExamples)
+    count.examples.push_back(FileOf(row).name + ':' + std::to_string(row.line) + ": " + std::string(text));
+}
+
+ImportReport::File ImportReport::Total() const {
+  File total{"all files", ""};
+  for (const File& file : files_) {
+    total.rows += file.rows;
+    total.taken += file.taken;
+    total.leftOut += file.leftOut;
+  }
+  return total;
+}
+
+std::string ReportText(const ImportReport& report) {
+  std::size_t width = 9;
+  for (const ImportReport::File& file : report.Files()) width = std::max(width, CharacterCount(file.name));
+
+  std::string text = PadTo("File", width) + "     rows    taken left out\n";
+  for (const ImportReport::File& file : report.Files())
+    text += PadTo(file.name, width) + Counts(file) + "  " + file.content + '\n';
+  text += PadTo("all files", width) + Counts(report.Total()) + '\n';
+  for (const ImportReport::Refusal& refusal : report.Refusals())
+    text += refusal.file + ": " + refusal.reason + '\n';
+
+  constexpr auto kLastLeftOut = static_cast<std::size_t>(Finding::LastLeftOut);
+  const std::string leftOut = FindingsText(report, 0, kLastLeftOut);
+  if (!leftOut.empty()) text += "\nLeft out\n" + leftOut;
+  const std::string remarks = FindingsText(report, kLastLeftOut + 1, FindingCount - 1);
+  if (!remarks.empty()) text += "\nTaken, but\n" + remarks;
+  text += "\n" + std::to_string(report.stations) + " stations with " + std::to_string(report.records) +
+          " antennas by hours\n";
+  return text;
+}
+
+}  // namespace kestrel

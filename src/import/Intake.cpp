@@ -1,0 +1,64 @@
+#include "import/Intake.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include "import/ZipIntake.h"
+
+namespace kestrel {
+namespace {
+
+class FileStream : public ByteStream {
+ public:
+  explicit FileStream(const QString& path) : file_(path) {}
+
+  bool Open() { return file_.open(QIODevice::ReadOnly | QIODevice::Unbuffered); }
+  QString Problem() const { return file_.errorString(); }
+
+  std::size_t Read(char* to, std::size_t most) override {
+    const qint64 count = file_.read(to, static_cast<qint64>(most));
+    return count > 0 ? static_cast<std::size_t>(count) : 0;
+  }
+
+ private:
+  QFile file_;
+};
+
+class PlainIntake : public Intake {
+ public:
+  PlainIntake(QString path, std::string name, std::uint64_t size) : path_(std::move(path)) {
+    parts_.push_back({std::move(name), size});
+  }
+
+  Result<std::unique_ptr<ByteStream>> Open(std::size_t) override {
+    auto stream = std::make_unique<FileStream>(path_);
+    if (!stream->Open())
+      return Error{Error::Kind::Refused, parts_.front().name, 0, stream->Problem().toStdString()};
+    return std::unique_ptr<ByteStream>(std::move(stream));
+  }
+
+ private:
+  QString path_;
+};
+
+}  // namespace
+
+Result<std::unique_ptr<Intake>> OpenIntake(const QString& path, std::uint64_t largest) {
+  const QFileInfo info(path);
+  const std::string name = info.fileName().toStdString();
+  if (!info.exists()) return Error{Error::Kind::NotFound, name, 0, "there is no such file"};
+  if (!info.isFile()) return Error{Error::Kind::NotAFile, name, 0, "is a folder or a device, not a file"};
+  const auto size = static_cast<std::uint64_t>(info.size());
+  if (size > largest)
+    return Error{Error::Kind::TooLarge, name, 0,
+                 "is larger than " + std::to_string(largest >> 20) + " MB, the most that is read"};
+
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly))
+    return Error{Error::Kind::Refused, name, 0, file.errorString().toStdString()};
+  const QByteArray front = file.read(4);
+  if (front == "PK\x03\x04" || front == "PK\x05\x06") return OpenZip(path, name, largest);
+  return std::unique_ptr<Intake>(std::make_unique<PlainIntake>(path, name, size));
+}
+
+}  // namespace kestrel

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "core/Result.h"
+#include "import/ByteStream.h"
+
+namespace kestrel {
+
+/// No file given to the importer is longer, and no zip unpacks to more.
+inline constexpr std::uint64_t LargestImportFile = 500ULL << 20;
+
+/// A file as the user gave it: a plain one, or a zip with its entries, told apart by their first bytes.
+/// Nothing is ever unpacked to the disk, so the names inside a zip are names in a report and no more.
+class Intake {
+ public:
+  virtual ~Intake() = default;
+
+  struct Part {
+    std::string name;        ///< "amq.txt"; "am.zip/am_towers.dat" for an entry of a zip
+    std::uint64_t size = 0;  ///< bytes, unpacked
+  };
+  const std::vector<Part>& Parts() const { return parts_; }
+
+  /// The content of a part, from its front. The intake must outlive the stream. An entry of a zip is unpacked
+  /// once beforehand, to the end, so that a damaged one gives nothing rather than a half. Errors: Malformed
+  /// for an entry that is encrypted, damaged or longer than it says; Refused.
+  virtual Result<std::unique_ptr<ByteStream>> Open(std::size_t part) = 0;
+
+ protected:
+  std::vector<Part> parts_;
+};
+
+/// Errors: NotFound, NotAFile, Refused; TooLarge for a file or the content of a zip of more than `largest`
+/// bytes, before anything is unpacked; Malformed for a zip that is none.
+Result<std::unique_ptr<Intake>> OpenIntake(const QString& path, std::uint64_t largest = LargestImportFile);
+
+}  // namespace kestrel

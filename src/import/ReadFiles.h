@@ -1,0 +1,28 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "core/Result.h"
+#include "import/AmqList.h"
+#include "import/AntennaTables.h"
+#include "import/ImportOptions.h"
+#include "import/ImportReport.h"
+
+namespace kestrel {
+
+/// Everything that the files said, before it is put together.
+struct Readings {
+  AmqStations amq;
+  AntennaTables tables;
+  bool hasAmq = false;
+  bool hasTables = false;
+};
+
+/// Reads a file of any kind, recognised by its content, to its end; adds it to `report` under `name`. A file
+/// that is none of those the importer knows is refused there, with the reason.
+void ReadSourceFile(ByteStream& bytes, const std::string& name, const ImportOptions& options,
+                    Readings& readings, ImportReport& report);
+
+}  // namespace kestrel

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "import/ImportReport.h"
+#include "import/Station.h"
+
+namespace kestrel {
+
+/// The files that an import replaces, and no others, by name: 118 station files, "StationsCall.DAT" and
+/// "Stations.txt".
+using StationSet = std::map<std::string, std::string>;
+
+/// The names of those files.
+const std::vector<std::string>& StationSetNames();
+
+/// The files for these stations, sorted by channel. `stationsLine` is the line of "Stations.txt". Counts
+/// stations and records in `report` and remarks on names that did not fit.
+StationSet MakeStationSet(const std::vector<Station>& stations, std::string_view stationsLine,
+                          ImportReport& report);
+
+/// The lines of "StationsCall.DAT": one for each call sign, channel and site, sorted by call sign; at most
+/// MaxCalls, the most powerful first chosen, within the limits that a home may have. CR LF behind each.
+std::string CallIndexText(const std::vector<Station>& stations);
+
+/// The sites of the stations: antennas of one call sign, channel and position count once.
+int SiteCount(const std::vector<Station>& stations);
+
+}  // namespace kestrel

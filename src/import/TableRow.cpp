@@ -1,0 +1,87 @@
+#include "import/TableRow.h"
+
+#include "core/Text.h"
+#include "import/RowFields.h"
+
+namespace kestrel {
+namespace {
+
+constexpr std::string_view kEndMark = "|^|";
+
+}  // namespace
+
+TableRow::TableRow(LineStream& lines, int file, const TableLayout& layout, ImportReport& report)
+    : lines_(lines), file_(file), layout_(layout), report_(report) {
+  for (std::size_t i = 0; i < layout.columns.size(); ++i) columns_.emplace(layout.columns[i], i);
+}
+
+bool TableRow::Next() {
+  fault_.clear();
+  while (const auto next = lines_.Next()) {
+    std::string_view line = *next;
+    if (layout_.header && lines_.LineNumber() == 1) continue;
+    if (Trim(line).empty()) continue;
+    report_.Read(Place());
+    if (lines_.WasCut()) {
+      LeaveOut(Finding::WrongForm, "the row is longer than 64 KB");
+      continue;
+    }
+    if (line.ends_with(kEndMark)) {
+      line.remove_suffix(kEndMark.size());
+    } else if (layout_.endMarks) {
+      LeaveOut(Finding::WrongForm, "the row does not end in |^|");
+      continue;
+    }
+    SplitTableRow(line, fields_, unescaped_);
+    if (fields_.size() == layout_.columns.size()) return true;
+    LeaveOut(Finding::WrongForm, std::to_string(fields_.size()) + " columns, " +
+                                     std::to_string(layout_.columns.size()) + " expected");
+  }
+  return false;
+}
+
+std::string_view TableRow::Text(std::string_view column) const {
+  const auto at = columns_.find(column);
+  return at == columns_.end() ? std::string_view{} : fields_[at->second];
+}
+
+std::string TableRow::Key(std::string_view column) {
+  const std::string_view text = Text(column);
+  if (text.empty()) Fail(column);
+  return std::string(text);
+}
+
+std::optional<double> TableRow::Number(std::string_view column, double least, double most) {
+  const std::string_view text = Text(column);
+  if (text.empty()) return std::nullopt;
+  const std::optional<double> number = WholeNumber(text);
+  if (number && *number >= least && *number <= most) return number;
+  Fail(column);
+  return std::nullopt;
+}
+
+char TableRow::Letter(std::string_view column) const {
+  const std::string_view text = Text(column);
+  return text.empty() ? '\0' : text.front();
+}
+
+SitePosition TableRow::Position() {
+  const Result<SitePosition> position =
+      ReadSitePosition({Text("lat_dir"), Text("lat_deg"), Text("lat_min"), Text("lat_sec")},
+                       {Text("lon_dir"), Text("lon_deg"), Text("lon_min"), Text("lon_sec")});
+  if (position) return *position;
+  if (fault_.empty()) fault_ = position.error().text;
+  return {};
+}
+
+void TableRow::Fail(std::string_view column) {
+  if (fault_.empty()) fault_ = std::string(column) + " \"" + std::string(Text(column)) + '"';
+}
+
+bool TableRow::Faulty() {
+  if (fault_.empty()) return false;
+  LeaveOut(Finding::BadField, fault_);
+  return true;
+}
+
+}  // namespace kestrel

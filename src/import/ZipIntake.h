@@ -1,0 +1,10 @@
+#pragma once
+
+#include "import/Intake.h"
+
+namespace kestrel {
+
+/// A zip's entries as parts; folders are none. `name` is what reports call the zip. Errors as OpenIntake's.
+Result<std::unique_ptr<Intake>> OpenZip(const QString& path, const std::string& name, std::uint64_t largest);
+
+}  // namespace kestrel
