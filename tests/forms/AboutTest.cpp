@@ -1,1 +1,90 @@
+#include <QDir>
 
+#include "forms/FormFixture.h"
+#include "forms/frmAbout.h"
+#include "ui/SystemInformation.h"
+
+namespace kestrel {
+namespace {
+
+class AboutTest : public FormTest {
+ protected:
+  void WriteProgram(const QString& path) {
+    ASSERT_TRUE(QDir(folder_.path()).mkpath(QFileInfo(path).path()));
+    Write(path, "#!/bin/sh\n");
+    QFile::setPermissions(folder_.filePath(path), QFile::ReadOwner | QFile::ExeOwner);
+  }
+
+  std::optional<ProgramCall> Tool() const {
+    return FindDesktopTool({folder_.filePath("first"), folder_.filePath("second")},
+                           {folder_.filePath("programs")});
+  }
+
+  ProgramCall Call(const char* program, const QStringList& arguments = {}) const {
+    return {folder_.filePath(QString("programs/") + program), arguments};
+  }
+};
+
+TEST_F(AboutTest, TextsAndTheInformationTool) {
+  Write("Stations.txt", "Test stations of 1 May\r\n");
+  frmAbout form(Everything);
+  Use(form, [&] {
+    EXPECT_EQ(Shown(form, "lblTitle"), "KestrelII");
+    EXPECT_EQ(Shown(form, "lblVersion"), "Version 3.06");
+    const std::string text = Shown(form, "lblDescription");
+    for (const char* part :
+         {"Copyright 2026 The KestrelII authors", "Test stations of 1 May", "GeoNames", "CC BY 4.0",
+          "Natural Earth", "US Census Bureau", "WITHOUT WARRANTY OF ANY KIND"})
+      EXPECT_NE(text.find(part), std::string::npos) << part;
+
+    Press(form, "cmdSysInfo");
+    EXPECT_EQ(System.Messages, QStringList{"System Information Is Unavailable At This Time"});
+    System.HasSystemInformation = true;
+    Press(form, "cmdSysInfo");
+    EXPECT_EQ(System.SystemInformationStarts, 1);
+    EXPECT_EQ(System.Messages.size(), 1);
+    Press(form, "cmdExit");
+  });
+}
+
+TEST_F(AboutTest, ToolsAreFoundByEntryThenByProgram) {
+  for (const char* folder : {"first", "second", "programs"}) QDir(folder_.path()).mkdir(folder);
+  EXPECT_FALSE(Tool());
+
+  WriteProgram("programs/hardinfo");
+  WriteProgram("programs/plasma-systemmonitor");
+  EXPECT_EQ(Tool(), Call("hardinfo"));
+
+  // An entry wins over a program, but only when its own program is there.
+  Write("first/gnome-about-panel.desktop", "[Desktop Entry]\nExec=gnome-control-center info-overview\n");
+  EXPECT_EQ(Tool(), Call("hardinfo"));
+  WriteProgram("programs/gnome-control-center");
+  EXPECT_EQ(Tool(), Call("gnome-control-center", {"info-overview"}));
+
+  Write("second/org.kde.kinfocenter.desktop",
+        "# made by hand\nExec=no\n[Desktop Action x]\nExec=other\n[Desktop Entry]\nName=Info\n"
+        "Exec = \"kinfo center\" %U --caption \"100%% all\" %i\n");
+  WriteProgram("programs/kinfo center");
+  EXPECT_EQ(Tool(), Call("kinfo center", {"--caption", "100% all"}));
+}
+
+TEST_F(AboutTest, TheRegistryRoute) {
+  QMap<QString, QString> values;
+  const RegistryText registry = [&](const QString& key, const QString& value) {
+    return values.value(key + ':' + value);
+  };
+  QStringList files;
+  const auto find = [&] {
+    return FindRegisteredTool(registry, [&](const QString& path) { return files.contains(path); });
+  };
+  EXPECT_FALSE(find());
+  values["SOFTWARE\\Microsoft\\Shared Tools Location:MSINFO"] = "C:\\Tools";
+  EXPECT_FALSE(find());  // the folder is known, the program is not in it
+  files << "C:\\Tools\\MSINFO32.EXE";
+  EXPECT_EQ(find(), (ProgramCall{"C:\\Tools\\MSINFO32.EXE", {}}));
+  values["SOFTWARE\\Microsoft\\Shared Tools\\MSINFO:PATH"] = "D:\\msinfo32.exe";
+  EXPECT_EQ(find(), (ProgramCall{"D:\\msinfo32.exe", {}}));
+}
+
+}  // namespace
+}  // namespace kestrel

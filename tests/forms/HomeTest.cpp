@@ -1,1 +1,241 @@
+#include <cmath>
 
+#include "core/Lines.h"
+#include "forms/FormFixture.h"
+#include "forms/frmGetHome.h"
+#include "map/RecordingCanvas.h"
+#include "map/StatesMap.h"
+#include "ui/MapSurface.h"
+
+namespace kestrel {
+namespace {
+
+class HomeTest : public FormTest {
+ protected:
+  void SetUp() override {
+    State.CityList = {CityLine("Abilene  TX", "32.4487", "99.7331"), CityLine("Alert  NU", "89.5", "-62.3"),
+                      CityLine("Ponta Delgada  Azores", "37.7412", "25.6756"),
+                      CityLine("Port of Spain  Trinidad", "10.6662", "61.5166")};
+    State.CallList = {CallLine("QAAA", "Plano  TX", "33.0198", "96.6989"),
+                      CallLine("QBBB", "Port Arthur  TX", "29.8850", "93.9399"),
+                      CallLine("QPRT", "Abilene  KS", "-95.5", "175.25")};
+  }
+
+  std::string Home() const {
+    return std::string(Trim(State.HomeName)) + " " + std::to_string(State.HomeLatitude) + " " +
+           std::to_string(State.HomeLongitude);
+  }
+
+  /// Opens the states map from the form and works on it there.
+  void OnMap(QWidget& form, const std::function<void(QDialog&, MapSurface&)>& use) {
+    bool used = false;
+    QTimer::singleShot(0, &form, [&] {
+      auto* map = dynamic_cast<QDialog*>(QApplication::activeModalWidget());
+      ASSERT_TRUE(map && map->objectName() == "frmPlotStates");
+      ASSERT_TRUE(QTest::qWaitForWindowExposed(map));
+      auto* surface = dynamic_cast<MapSurface*>(map->findChild<QWidget*>("Map"));
+      use(*map, *surface);
+      used = true;
+      if (map->isVisible()) map->reject();
+    });
+    Press(form, "cmdGetMap");
+    EXPECT_TRUE(used);
+  }
+};
+
+TEST_F(HomeTest, ARowTakenCountsAtOnceAndSurvivesLeaving) {
+  frmGetHome form(Everything);
+  EXPECT_EQ(Shown(form, "txtLatitude"), "33.243");
+  EXPECT_EQ(Shown(form, "txtLongitude"), "96.541");
+  Use(form, [&] {
+    ClickRow(form, "lstCities", 0);
+    EXPECT_EQ(State.HomeName, PadTo("Abilene  TX", 26));
+    EXPECT_EQ(Shown(form, "txtLatitude"), "32.4487");
+    EXPECT_EQ(Home(), "Abilene  TX 32.448700 99.733101");
+
+    ClickRow(form, "lstCities", 1);  // beyond the limit in the north, the sign of the longitude dropped
+    EXPECT_EQ(Shown(form, "txtLongitude"), "62.3");
+    EXPECT_EQ(Home(), "Alert  NU 88.000000 62.299999");
+    ClickRow(form, "lstCities", 2);
+    EXPECT_EQ(Home(), "Ponta Delgada  Azores 37.741199 30.000000");
+
+    ClickRow(form, "lstCalls", 2);
+    EXPECT_EQ(State.HomeName, PadTo("Abilene  KS", 25));
+    EXPECT_EQ(Shown(form, "txtLatitude"), "-95.5");
+    EXPECT_EQ(Home(), "Abilene  KS -88.000000 170.000000");
+
+    ClickRow(form, "lstCalls", 0);
+    Type(form, "txtLatitude", "12");
+    Press(form, "cmdQuickExit");
+  });
+  EXPECT_EQ(Home(), "Plano  TX 33.019798 96.698898");
+}
+
+TEST_F(HomeTest, TypedCoordinatesAreReadLimitedAndNameless) {
+  const struct {
+    const char* latitude;
+    const char* longitude;
+    float homeLatitude;
+    float homeLongitude;
+  } rows[] = {
+      {"45,5", "-96.5", 45.5F, 96.5F}, {"95", "10", 88, 30},
+      {"-95", "175", -88, 170},        {"4.5e1", ".1k", 45, 100},
+      {"0.04k", "96540m", 40, 96.54F},
+  };
+  for (const auto& row : rows) {
+    State.HomeName = "Plano   TX";
+    frmGetHome form(Everything);
+    const int result = Use(form, [&] {
+      Type(form, "txtLatitude", row.latitude);
+      Type(form, "txtLongitude", row.longitude);
+      QTest::keyClick(Find<QLineEdit>(form, "txtLongitude"), Qt::Key_Return);
+    });
+    EXPECT_EQ(result, QDialog::Accepted);
+    EXPECT_EQ(State.HomeLatitude, row.homeLatitude) << row.latitude;
+    EXPECT_FLOAT_EQ(State.HomeLongitude, row.homeLongitude) << row.longitude;
+    EXPECT_EQ(State.HomeName, "");
+  }
+}
+
+TEST_F(HomeTest, WhatNobodyChangedStaysExact) {
+  const SessionState before = State;
+  frmGetHome untouched(Everything);
+  Use(untouched, [&] { Press(untouched, "cmdExit"); });
+  EXPECT_EQ(State.HomeLatitude, before.HomeLatitude);
+  EXPECT_EQ(State.HomeLongitude, before.HomeLongitude);
+  EXPECT_EQ(State.HomeName, before.HomeName);
+
+  frmGetHome left(Everything);
+  Use(left, [&] {
+    Type(left, "txtLatitude", "12");
+    QTest::keyClick(&left, Qt::Key_Escape);
+  });
+  EXPECT_EQ(State.HomeLatitude, before.HomeLatitude);
+  EXPECT_EQ(State.HomeName, before.HomeName);
+
+  frmGetHome oneBox(Everything);
+  Use(oneBox, [&] {
+    Type(oneBox, "txtLatitude", "12");
+    Press(oneBox, "cmdExit");
+  });
+  EXPECT_EQ(State.HomeLatitude, 12);
+  EXPECT_EQ(State.HomeLongitude, before.HomeLongitude);  // not the 96.541 of its box
+
+  frmGetHome corrected(Everything);
+  Use(corrected, [&] {
+    ClickRow(corrected, "lstCities", 0);
+    Type(corrected, "txtLatitude", "32.5");
+    Press(corrected, "cmdExit");
+  });
+  EXPECT_EQ(Home(), "Abilene  TX 32.500000 99.733101");
+}
+
+TEST_F(HomeTest, SearchingMovesTheListAndEnterTakes) {
+  frmGetHome form(Everything);
+  const std::string before = Home();
+  const auto current = [&](const char* list) {
+    return Find<QAbstractItemView>(form, list)->currentIndex().row();
+  };
+  Use(form, [&] {
+    Type(form, "txtFindCity", "port");
+    EXPECT_EQ(current("lstCities"), 3);
+    Type(form, "txtFindCity", "pon");
+    EXPECT_EQ(current("lstCities"), 2);
+    Type(form, "txtFindCity", "zz");
+    EXPECT_EQ(current("lstCities"), -1);
+    QTest::keyClick(Find<QLineEdit>(form, "txtFindCity"), Qt::Key_Return);
+    Type(form, "txtFindCall", "abi");
+    EXPECT_EQ(current("lstCalls"), 2);
+    Type(form, "txtFindCall", "qbb");
+    EXPECT_EQ(current("lstCalls"), 1);
+    QTest::keyClick(Find<QLineEdit>(form, "txtFindCall"), Qt::Key_Up);
+    EXPECT_EQ(current("lstCalls"), 0);
+    EXPECT_EQ(Home(), before);
+
+    QTest::keyClick(Find<QLineEdit>(form, "txtFindCall"), Qt::Key_Return);
+    EXPECT_EQ(Home(), "Plano  TX 33.019798 96.698898");
+    EXPECT_TRUE(form.isVisible());
+
+    auto* list = Find<QAbstractItemView>(form, "lstCities");
+    list->setFocus();
+    QTest::keyClick(list, 'p');  // letters are looked for wherever they are typed
+    QTest::keyClicks(QApplication::focusWidget(), "on");
+    QTest::keyClick(Find<QLineEdit>(form, "txtFindCity"), Qt::Key_Enter);
+    EXPECT_EQ(Home(), "Ponta Delgada  Azores 37.741199 30.000000");
+    Press(form, "cmdExit");
+  });
+}
+
+TEST_F(HomeTest, TheMapIsLeftWithOrWithoutAPoint) {
+  frmGetHome form(Everything);
+  const std::string before = Home();
+  const int result = Use(form, [&] {
+    OnMap(form, [&](QDialog& map, MapSurface& surface) {
+      EXPECT_EQ(State.HomeName, "");
+      QTest::mouseClick(&surface, Qt::MiddleButton);
+      EXPECT_TRUE(map.isVisible());
+      Press(map, "cmdExit");
+    });
+    EXPECT_EQ(Home(), before);
+    EXPECT_TRUE(form.isVisible());
+
+    OnMap(form, [&](QDialog& map, MapSurface& surface) {
+      // Ten twips a pixel, so that a pixel's place on the sheet is exact.
+      for (int round = 0; round < 3; ++round) {
+        map.resize(map.size() + QSize(1440, 1000) - surface.size());
+        QApplication::processEvents();
+      }
+      ASSERT_EQ(surface.size(), QSize(1440, 1000));
+      QTest::mouseClick(&surface, Qt::RightButton, {}, QPoint(110, 50));
+    });
+    EXPECT_FALSE(form.isVisible());
+  });
+  EXPECT_EQ(result, QDialog::Accepted);
+  EXPECT_EQ(State.HomeLatitude, 57.5F);  // x = 0, y = 0
+  EXPECT_EQ(State.HomeLongitude, 133);
+  EXPECT_EQ(State.HomeName, "");
+}
+
+TEST_F(HomeTest, PositionsOfTheMap) {
+  const struct {
+    Point at;
+    Position clicked;
+    Position pointed;
+  } rows[] = {
+      {{0, 0}, {57.5F, 133}, {57.5F, 133}},      {{20000, 4000}, {37.5F, 30}, {37.5F, 30}},
+      {{-9000, 11600}, {0, 170}, {10, 170}},     {{6000, 9800}, {8.5F, 95.5F}, {10, 95.5F}},
+      {{6000, -6000}, {80, 95.5F}, {70, 95.5F}}, {{1.3F, 1.9F}, {57.49F, 132.991F}, {57.4905F, 132.991875F}},
+  };
+  for (const auto& row : rows) {
+    EXPECT_EQ(ClickedPosition(row.at), row.clicked) << row.at.x;
+    EXPECT_EQ(PointedPosition(row.at), row.pointed) << row.at.x;
+  }
+  // What the map draws at x = 0 lies an eighth of a degree farther west.
+  EXPECT_EQ(PlaceOnStatesMap(57.5F, 226.875F), (Point{0, 0}));
+}
+
+TEST_F(HomeTest, TheMapsFigureAndItsReadout) {
+  Write("REGION2.dat",
+        "> a coast\r\n50 230\r\n49 231\r\n-100 -100\r\n30 260\r\n30 273\r\n31 274\r\n-2000\r\n1 1\r\n");
+  Write("STATES.dat", "'borders\r\n40 250\r\n40 251\r\n");
+  RecordingCanvas map;
+  DrawStatesMap(map, Folder);
+  const std::vector<Drawn> strokes = map.All("Polyline");
+  ASSERT_EQ(strokes.size(), 3U);  // 13 degrees are 2080 twips: too far to be joined
+  EXPECT_EQ(strokes[0].Points, (std::vector<Point>{{500, 1500}, {660, 1700}}));
+  EXPECT_EQ(strokes[1].Points, (std::vector<Point>{{7380, 5500}, {7540, 5300}}));
+  EXPECT_EQ(strokes[2].Points, (std::vector<Point>{{3700, 3500}, {3860, 3500}}));
+  const std::vector<Drawn> grid = map.All("Line");
+  EXPECT_EQ(grid.front().Points.front().x, -1100);  // 140 W
+  EXPECT_EQ(std::count(map.List.begin(), map.List.end(), grid.front()), 1);
+
+  State.HomeLatitude = -33.45679F;
+  RecordingCanvas strip;
+  DrawStatesReadout(strip, Point{20000, 9800}, State);
+  EXPECT_EQ(strip.Texts(), (std::vector<std::string>{"Mouse latitude: 10", "Longitude: 30",
+                                                     "Current home latitude: -33.456", "Longitude: 96.541"}));
+  EXPECT_EQ(strip.All("Text").back().Color, 0xFFFFFF);
+}
+
+}  // namespace
+}  // namespace kestrel
