@@ -16,5 +16,6 @@ void AddDistanceCommand(CLI::App& app, Request& request);
 void AddMapCommand(CLI::App& app, Request& request);
 void AddScanCommand(CLI::App& app, Request& request);
 void AddSessionCommand(CLI::App& app, Request& request);
+void AddImportCommand(CLI::App& app, Request& request);
 
 }  // namespace kestrel::cli

@@ -7,6 +7,7 @@
 #include "core/SessionFile.h"
 #include "data/FileIo.h"
 #include "data/StationFile.h"
+#include "import/DataSwap.h"
 
 namespace kestrel::cli {
 namespace {
@@ -48,6 +49,9 @@ DataFolder DataFor(const Request& request) {
   const Result<DataFolder> folder = LocateDataFolder(QString::fromStdString(request.Data.value_or("")));
   if (!folder)
     Fail(folder.error().file, folder.error(), "name the folder that holds the station files with --data");
+  if (const Result<Done> recovered = RecoverImport(*folder); !recovered)
+    Fail(recovered.error().file, recovered.error(),
+         "an import into " + folder->Path().toStdString() + " was interrupted and cannot be finished");
   return *folder;
 }
 

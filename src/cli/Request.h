@@ -34,8 +34,8 @@ enum class MissingSession { Fails, IsFirstStart };
 /// in place of its values. Throws Failure when the file cannot be read.
 SessionState SessionFor(const Request& request, MissingSession missing = MissingSession::Fails);
 
-/// The folder to read from, by the same rule as the program's. Throws Failure. REQUIRES: the platform is
-/// started.
+/// The folder to read from, by the same rule as the program's; an interrupted import into it is finished or
+/// taken back. Throws Failure. REQUIRES: the platform is started.
 DataFolder DataFor(const Request& request);
 
 /// The bytes of the channel's station file. Throws Failure when there are none.

@@ -16,7 +16,7 @@ void Describe(CLI::App& app, Request& request) {
       ->type_name("DIR");
   AddFileName(app, "--session", request.SessionFile, "take home, channel and view from a last-session file");
   for (const auto add : {AddStationsCommand, AddPatternCommand, AddHetsCommand, AddDistanceCommand,
-                         AddMapCommand, AddScanCommand, AddSessionCommand})
+                         AddMapCommand, AddScanCommand, AddSessionCommand, AddImportCommand})
     add(app, request);
 }
 

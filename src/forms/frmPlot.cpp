@@ -1,46 +1,48 @@
 #include "forms/frmPlot.h"
 
 #include <QCloseEvent>
-#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QSettings>
 #include <QShortcut>
+#include <QToolTip>
 #include <algorithm>
+#include <tuple>
+#include <utility>
 
 #include "core/ChannelChoice.h"
 #include "data/StationFile.h"
 #include "forms/CommandIcons.h"
+#include "forms/frmAbout.h"
+#include "forms/frmAspect.h"
+#include "forms/frmGetDistance.h"
 #include "forms/frmGetFrequency.h"
+#include "forms/frmGetHome.h"
+#include "forms/frmGetStationData.h"
+#include "forms/frmOptions.h"
+#include "forms/frmShowHets.h"
 #include "forms/frmShowStations.h"
 #include "map/BandScan.h"
 #include "map/Compass.h"
 #include "map/Outlines.h"
+#include "map/StationTip.h"
 #include "map/View.h"
+#include "ui/CommandColumn.h"
 #include "ui/MapSurface.h"
+#include "ui/PrintCommands.h"
 
 namespace kestrel {
 namespace {
 
 const QString kPlaceSetting = "frmPlot/place";
 
-/// A column of the commands that scrolls where the window is too low for it.
-QScrollArea* ScrollableColumn(QWidget* column) {
-  auto* area = new QScrollArea;
-  area->setWidget(column);
-  area->setWidgetResizable(true);
-  area->setFrameShape(QFrame::NoFrame);
-  area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  area->setFocusPolicy(Qt::NoFocus);
-  return area;
-}
-
-QString FrequencyText(float channel) {
-  return QString::number(static_cast<int>(channel)) + " kHz";
+/// What the map is drawn from of the places and colours that windows change.
+auto DrawnSettings(const SessionState& state) {
+  return std::tuple(state.HomeName, state.HomeLatitude, state.HomeLongitude, state.DayColor, state.NightColor,
+                    state.UnlimitedColor, state.CriticalColor, state.AdjacentColor);
 }
 
 }  // namespace
@@ -52,25 +54,21 @@ frmPlot::frmPlot(const Workspace& workspace) : workspace_(workspace) {
   surface_ = new MapSurface(this);
   surface_->setObjectName("Map");
   surface_->WheelTurned = [this](int steps) {
-    for (int i = 0; i < std::abs(steps) && !scanning_; ++i) steps > 0 ? ZoomInStep() : ZoomOutStep();
+    for (int i = 0; i < std::abs(steps); ++i) Button(steps > 0 ? "cmdIn" : "cmdOut")->click();
+  };
+  surface_->TipWanted = [this](Point place) { return TipAt(place); };
+  surface_->MousePressed = [this](Point place, Qt::MouseButton button) {
+    if (button == Qt::LeftButton && !scanning_) ClickAt(place);
   };
 
-  auto* column = new QWidget;
-  commands_ = new QGridLayout(column);
-  commands_->setSpacing(3);
-  progress_ = new QProgressBar;
-  progress_->setObjectName("prgChannel");
-  progress_->setRange(static_cast<int>(LowestChannel), static_cast<int>(HighestChannel));
-  AddCommands();
-  commands_->setRowStretch(commands_->rowCount(), 1);
-  QScrollArea* scrolling = ScrollableColumn(column);
-  scrolling->setFixedWidth(column->sizeHint().width() + scrolling->verticalScrollBar()->sizeHint().width());
-
+  auto* column = new CommandColumn(this);
+  AddCommands(*column);
+  column->Finish();
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
   layout->addWidget(surface_, 1);
-  layout->addWidget(scrolling);
+  layout->addWidget(column);
 
   savedNotice_ = new QLabel("Session data has been saved", surface_);
   savedNotice_->setObjectName("Label1");
@@ -78,79 +76,88 @@ frmPlot::frmPlot(const Workspace& workspace) : workspace_(workspace) {
   savedNotice_->setStyleSheet("background: #eeffff; color: #0000ff; font-weight: bold");
   savedNotice_->hide();
 
-  setTabOrder(findChild<QPushButton*>("cmdFreq"), findChild<QPushButton*>("cmdData"));
   ShowScanControls(false);
-  RestorePlace();
+  resize(screen()->availableSize() * 0.75);
+  restoreGeometry(QSettings().value(kPlaceSetting).toByteArray());
   Redraw();
 }
 
-QPushButton* frmPlot::AddCommand(const char* name, const QString& caption, const QString& tip,
-                                 const QList<QKeySequence>& shortcuts, void (frmPlot::*action)()) {
-  auto* button = new QPushButton(caption);
-  button->setObjectName(name);
-  QStringList keys;
-  for (const QKeySequence& keySequence : shortcuts) {
-    auto* shortcut = new QShortcut(keySequence, this);
-    connect(shortcut, &QShortcut::activated, button, &QPushButton::click);
-    keys += keySequence.toString(QKeySequence::NativeText);
-  }
-  button->setToolTip(keys.isEmpty() ? tip : tip + " (" + keys.front() + ')');
-  if (action) connect(button, &QPushButton::clicked, this, action);
-  button->setEnabled(action != nullptr);
-  commands_->addWidget(button, commands_->rowCount(), 0);
-  return button;
+QPushButton* frmPlot::Button(const char* name) const {
+  return findChild<QPushButton*>(name);
 }
 
-void frmPlot::AddCommands() {
-  const QColor ink = palette().color(QPalette::ButtonText);
-  AddCommand("cmdFreq", "&Frequency", "Chooses the channel", {Qt::Key_F}, &frmPlot::ChooseFrequency);
-  AddCommand("cmdData", "Station da&ta", "Looks a station up: its data and its pattern", {Qt::Key_S},
-             nullptr);
-  AddCommand("cmdHome", "&Home", "Chooses the home around which the map is drawn", {Qt::Key_M}, nullptr);
-  AddCommand("cmdAll", "&All", "Shows where the stations of all channels are", {Qt::Key_A},
-             &frmPlot::ChooseScan);
-  AddCommand("cmdHours", "Hour&s", "Shows all patterns, those of the day, those of the night", {Qt::Key_H},
-             &frmPlot::NextHoursFilter);
-  AddCommand("cmdHets", "H&ets", "Lists the beat notes on the channel", {Qt::Key_B}, nullptr);
-  AddCommand("cmdCompass", "&Compass", "Lays bearings from home over the map", {Qt::Key_C},
-             &frmPlot::ToggleCompass);
-  AddCommand("cmdDistance", "&Distance", "Distance and bearing from home to a place", {Qt::Key_D}, nullptr);
-  AddCommand("cmdOptions", "&Options", "Colours, map language, aspect", {Qt::Key_O}, nullptr);
-  AddCommand("cmdIn", "&In", "Zooms in", {Qt::Key_Plus, Qt::Key_Equal}, &frmPlot::ZoomInStep)
-      ->setIcon(ZoomIcon(true, ink));
-  AddCommand("cmdOut", "O&ut", "Zooms out", {Qt::Key_Minus}, &frmPlot::ZoomOutStep)
-      ->setIcon(ZoomIcon(false, ink));
-  AddCommand("cmdLarger", "&Larger", "Draws the patterns larger", {Qt::SHIFT | Qt::Key_Up}, &frmPlot::Larger)
-      ->setIcon(PatternIcon(true, ink));
-  AddCommand("cmdSmaller", "Smalle&r", "Draws the patterns smaller", {Qt::SHIFT | Qt::Key_Down},
-             &frmPlot::Smaller)
-      ->setIcon(PatternIcon(false, ink));
-  AddCommand("cmdPrint", "&Print", "Prints the map", {QKeySequence::Print}, nullptr);
-  AddCommand("cmdAbout", "A&bout", "Version, licence, where the data come from", {Qt::Key_F1}, nullptr);
-  AddCommand("cmdExit", "E&xit", "Saves the session and ends the program", {Qt::CTRL | Qt::Key_Q},
-             &frmPlot::Exit);
-  AddCommand("cmdStop", "&Stop", "Ends the plot of all stations before its next channel", {Qt::Key_Escape},
-             &frmPlot::StopScan);
-  commands_->addWidget(progress_, commands_->rowCount(), 0);
+void frmPlot::AddCommands(CommandColumn& column) {
+  SessionState& state = workspace_.State;
+  column.AddCommand("cmdFreq", "&Frequency", "Chooses the channel", {Qt::Key_F},
+                    [this] { ChooseFrequency(); });
+  column.AddCommand("cmdData", "Station da&ta", "Looks a station up: its data and its pattern", {Qt::Key_S},
+                    [this] { LookUp({}); });
+  column.AddCommand("cmdHome", "&Home", "Chooses the home around which the map is drawn", {Qt::Key_M},
+                    [this] { ChooseHome(); });
+  column.AddCommand("cmdAll", "&All", "Shows where the stations of all channels are", {Qt::Key_A},
+                    [this] { ChooseScan(); });
+  AddViewCommands(column);
+  column.AddCommand("cmdHets", "H&ets", "Lists the beat notes on the channel", {Qt::Key_B},
+                    [this] { frmShowHets(workspace_, this).exec(); });
+  column.AddCommand("cmdDistance", "&Distance", "Distance and bearing from home to a place", {Qt::Key_D},
+                    [this] { frmGetDistance(workspace_, this).exec(); });
+  column.AddCommand("cmdOptions", "&Options", "Colours, map language, aspect", {Qt::Key_O},
+                    [this] { ChooseOptions(); });
+  column.AddCommand("cmdPrint", "&Print", "Prints the map", {QKeySequence::Print}, [this] {
+    PrintMap(workspace_.System, workspace_.Folder, workspace_.State, surface_->Drawing(), this);
+  });
+  column.AddCommand("cmdAbout", "A&bout", "Version, licence, where the data come from", {Qt::Key_F1},
+                    [this] { frmAbout(workspace_, this).exec(); });
+  column.AddGap();
+  column.AddCommand("cmdExit", "E&xit", "Saves the session and ends the program", {Qt::CTRL | Qt::Key_Q},
+                    [this] { close(); });
+  column.AddCommand("cmdStop", "&Stop", "Ends the plot of all stations before its next channel",
+                    {Qt::Key_Escape}, [&state] { state.StopRequested = true; });
+  progress_ = new QProgressBar;
+  progress_->setObjectName("prgChannel");
+  progress_->setRange(static_cast<int>(LowestChannel), static_cast<int>(HighestChannel));
+  column.AddWidget(progress_);
 
-  connect(new QShortcut(Qt::Key_PageUp, this), &QShortcut::activated, this, [this] {
-    if (!scanning_) ChannelUp();
-  });
-  connect(new QShortcut(Qt::Key_PageDown, this), &QShortcut::activated, this, [this] {
-    if (!scanning_) ChannelDown();
-  });
+  const auto addStep = [this](Qt::Key key, std::optional<std::string> (*step)(SessionState&)) {
+    connect(new QShortcut(key, this), &QShortcut::activated, this, [this, step] { StepChannel(step); });
+  };
+  addStep(Qt::Key_PageUp, StepUp);
+  addStep(Qt::Key_PageDown, StepDown);
+}
+
+void frmPlot::AddViewCommands(CommandColumn& column) {
+  const QColor ink = palette().color(QPalette::ButtonText);
+  const auto view = [this](void (*change)(SessionState&)) { return [this, change] { ChangeView(change); }; };
+  column.AddGap();
+  column.AddCommand("cmdHours", "Hour&s", "Shows all patterns, those of the day, those of the night",
+                    {Qt::Key_H}, [this] { NextHoursFilter(); });
+  column.AddCommand("cmdCompass", "&Compass", "Lays bearings from home over the map", {Qt::Key_C},
+                    [this] { ToggleCompass(); });
+  column.AddCommand("cmdIn", "&In", "Zooms in", {Qt::Key_Plus, Qt::Key_Equal}, view(ZoomIn))
+      ->setIcon(ZoomIcon(true, ink));
+  column.AddCommand("cmdOut", "O&ut", "Zooms out", {Qt::Key_Minus}, view(ZoomOut))
+      ->setIcon(ZoomIcon(false, ink));
+  column
+      .AddCommand("cmdLarger", "&Larger", "Draws the patterns larger", {Qt::SHIFT | Qt::Key_Up},
+                  view(EnlargePatterns))
+      ->setIcon(PatternIcon(true, ink));
+  column
+      .AddCommand("cmdSmaller", "Smalle&r", "Draws the patterns smaller", {Qt::SHIFT | Qt::Key_Down},
+                  view(ShrinkPatterns))
+      ->setIcon(PatternIcon(false, ink));
+  column.AddGap();
 }
 
 void frmPlot::Redraw(MapGround ground) {
   if (ground == MapGround::Empty) surface_->Drawing().Clear();
   DrawMainMap(surface_->Drawing(), workspace_.Folder, workspace_.State, ground);
   ground == MapGround::Empty ? surface_->ShowDrawing() : surface_->ShowAdditions();
-  UpdateCommands();
+  UpdateZoomCommands();
 }
 
-void frmPlot::UpdateCommands() {
-  findChild<QPushButton*>("cmdIn")->setEnabled(!scanning_ && CanZoomIn(workspace_.State));
-  findChild<QPushButton*>("cmdOut")->setEnabled(!scanning_ && CanZoomOut(workspace_.State));
+void frmPlot::UpdateZoomCommands() {
+  Button("cmdIn")->setEnabled(!scanning_ && CanZoomIn(workspace_.State));
+  Button("cmdOut")->setEnabled(!scanning_ && CanZoomOut(workspace_.State));
 }
 
 void frmPlot::ChooseFrequency() {
@@ -161,18 +168,45 @@ void frmPlot::ChooseFrequency() {
   Redraw(form.Choice() == frmGetFrequency::Plot::OnTop ? MapGround::AsDrawn : MapGround::Empty);
 }
 
-void frmPlot::ChannelUp() {
-  if (const auto message = StepUp(workspace_.State))
+void frmPlot::StepChannel(std::optional<std::string> (*step)(SessionState&)) {
+  if (scanning_) return;
+  if (const auto message = step(workspace_.State))
     workspace_.System.ShowMessage(this, QString::fromStdString(*message));
   workspace_.State.SelectedFrequency = workspace_.State.CurrentFrequency;
   Redraw();
 }
 
-void frmPlot::ChannelDown() {
-  if (const auto message = StepDown(workspace_.State))
-    workspace_.System.ShowMessage(this, QString::fromStdString(*message));
-  workspace_.State.SelectedFrequency = workspace_.State.CurrentFrequency;
-  Redraw();
+void frmPlot::LookUp(const QString& callSign) {
+  frmGetStationData(workspace_, this, callSign).exec();
+}
+
+void frmPlot::ChooseHome() {
+  const auto before = DrawnSettings(workspace_.State);
+  frmGetHome(workspace_, this).exec();
+  if (DrawnSettings(workspace_.State) != before) Redraw();
+}
+
+void frmPlot::ChooseOptions() {
+  const auto before = DrawnSettings(workspace_.State);
+  frmOptions form(workspace_, this);
+  form.OpenAspect = [this] { AdjustAspect(); };
+  form.exec();
+  if (DrawnSettings(workspace_.State) != before) Redraw();
+}
+
+void frmPlot::AdjustAspect() {
+  auto* form = new frmAspect(workspace_, this);
+  form->setAttribute(Qt::WA_DeleteOnClose);
+  form->RedrawAll = [this] {
+    if (!scanning_) Redraw();
+  };
+  form->RedrawChannel = [this] {
+    if (scanning_) return;
+    const std::int16_t adjacents = std::exchange(workspace_.State.AdjacentsShown, std::int16_t{0});
+    Redraw();
+    workspace_.State.AdjacentsShown = adjacents;
+  };
+  form->show();
 }
 
 void frmPlot::NextHoursFilter() {
@@ -194,86 +228,78 @@ void frmPlot::ChangeView(void (*change)(SessionState&)) {
   Redraw();
 }
 
-void frmPlot::ZoomInStep() {
-  ChangeView(ZoomIn);
-}
-void frmPlot::ZoomOutStep() {
-  ChangeView(ZoomOut);
-}
-void frmPlot::Larger() {
-  ChangeView(EnlargePatterns);
-}
-void frmPlot::Smaller() {
-  ChangeView(ShrinkPatterns);
-}
-
 void frmPlot::ChooseScan() {
   frmShowStations(workspace_, this).exec();
   if (workspace_.State.PlotAllStations != 1) return;
-  if (scanning_) {
-    // The scan that runs ends before its next channel, then the new one begins.
-    scanAgain_ = true;
-    StopScan();
-  } else {
-    Scan();
-  }
-}
-
-void frmPlot::StopScan() {
+  if (!scanning_) return Scan();
+  // The scan that runs ends before its next channel, then the new one begins.
+  scanAgain_ = true;
   workspace_.State.StopRequested = true;
 }
 
 void frmPlot::Scan() {
-  SessionState& state = workspace_.State;
+  ShowScanControls(true);
   do {
     scanAgain_ = false;
-    state.StopRequested = false;
-    ShowScanControls(true);
-    surface_->Drawing().Clear();
-    const MapProjection projection(state.HomeLatitude, state.HomeLongitude, state.ScaleFactor);
-    DrawOutlineFiles(surface_->Drawing(), workspace_.Folder, projection);
-    surface_->ShowDrawing();
-    for (float channel = LowestChannel; channel <= HighestChannel && !state.StopRequested;
-         channel += ChannelStep) {
-      progress_->setValue(static_cast<int>(channel));
-      progress_->setFormat(FrequencyText(channel));
-      static_cast<void>(DrawScannedChannel(surface_->Drawing(), workspace_.Folder, projection, channel));
-      surface_->ShowAdditions();
-      workspace_.System.ProcessEvents();
-    }
-    state.StopRequested = true;
-    ShowScanControls(false);
+    ScanOnce();
   } while (scanAgain_ && !closeAsked_);
+  ShowScanControls(false);
   workspace_.System.Beep();
   if (closeAsked_) close();
+}
+
+void frmPlot::ScanOnce() {
+  SessionState& state = workspace_.State;
+  state.StopRequested = false;
+  surface_->Drawing().Clear();
+  const MapProjection projection(state.HomeLatitude, state.HomeLongitude, state.ScaleFactor);
+  DrawOutlineFiles(surface_->Drawing(), workspace_.Folder, projection);
+  surface_->ShowDrawing();
+  for (float channel = LowestChannel; channel <= HighestChannel && !state.StopRequested;
+       channel += ChannelStep) {
+    progress_->setValue(static_cast<int>(channel));
+    progress_->setFormat(QString::number(static_cast<int>(channel)) + " kHz");
+    // A channel without a file has no stations.
+    static_cast<void>(DrawScannedChannel(surface_->Drawing(), workspace_.Folder, projection, channel));
+    surface_->ShowAdditions();
+    workspace_.System.ProcessEvents();
+  }
+  state.StopRequested = true;
 }
 
 void frmPlot::ShowScanControls(bool running) {
   scanning_ = running;
   for (QPushButton* button : findChildren<QPushButton*>()) {
     const QString name = button->objectName();
-    const bool staysOn = name == "cmdStop" || name == "cmdAll" || name == "cmdExit";
-    if (running) {
-      button->setProperty("enabledBefore", button->isEnabled());
-      if (!staysOn) button->setEnabled(false);
-    } else if (const QVariant before = button->property("enabledBefore"); before.isValid()) {
-      button->setEnabled(before.toBool());
-    }
+    button->setEnabled(!running || name == "cmdStop" || name == "cmdAll" || name == "cmdExit");
   }
-  findChild<QPushButton*>("cmdStop")->setVisible(running);
-  findChild<QPushButton*>("cmdStop")->setEnabled(running);
+  Button("cmdStop")->setVisible(running);
+  Button("cmdStop")->setEnabled(running);
   progress_->setVisible(running);
-  UpdateCommands();
+  UpdateZoomCommands();
 }
 
-void frmPlot::Exit() {
-  close();
+const StationMark* frmPlot::MarkAt(Point place) const {
+  return NearestStation(surface_->Drawing().Stations(), place, TipReach * surface_->TwipsPerPixel());
+}
+
+QString frmPlot::TipAt(Point place) const {
+  const StationMark* mark = MarkAt(place);
+  if (!mark) return {};
+  return QString::fromStdString(StationTip(workspace_.Folder, workspace_.State, *mark).value_or(""));
+}
+
+void frmPlot::ClickAt(Point place) {
+  const StationMark* mark = MarkAt(place);
+  if (!mark) return;
+  if (OpensLookup(*mark, workspace_.State)) return LookUp(QString::fromStdString(mark->CallSign));
+  QToolTip::showText(QCursor::pos(), TipAt(place), surface_);
 }
 
 void frmPlot::closeEvent(QCloseEvent* event) {
   if (scanning_) {
     closeAsked_ = true;
-    StopScan();
+    workspace_.State.StopRequested = true;
     event->ignore();
     return;
   }
@@ -290,17 +316,12 @@ void frmPlot::SaveSessionOnce() {
     workspace_.System.ShowMessage(this, "The KestrelII last-session file was not written correctly.");
     return;
   }
-  const QRectF place(surface_->FromSheet({0, 3000}), surface_->FromSheet({SheetWidth, 3400}));
-  savedNotice_->setGeometry(place.toAlignedRect());
+  savedNotice_->setGeometry(
+      QRectF(surface_->FromSheet({0, 3000}), surface_->FromSheet({SheetWidth, 3400})).toAlignedRect());
   savedNotice_->show();
   savedNotice_->repaint();
   workspace_.System.Pause(1);
   savedNotice_->hide();
-}
-
-void frmPlot::RestorePlace() {
-  resize(screen()->availableSize() * 0.75);
-  restoreGeometry(QSettings().value(kPlaceSetting).toByteArray());
 }
 
 }  // namespace kestrel

@@ -1,18 +1,19 @@
 #pragma once
 
 #include <QWidget>
-#include <functional>
+#include <optional>
+#include <string>
 
 #include "forms/Workspace.h"
 #include "map/MainMap.h"
 
-class QGridLayout;
 class QLabel;
 class QProgressBar;
 class QPushButton;
 
 namespace kestrel {
 
+class CommandColumn;
 class MapSurface;
 
 /// The main window: the map around home and the column of commands. Every command works on the session and
@@ -30,34 +31,34 @@ class frmPlot final : public QWidget {
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  QPushButton* AddCommand(const char* name, const QString& caption, const QString& tip,
-                          const QList<QKeySequence>& shortcuts, void (frmPlot::*action)());
-  void AddCommands();
+  void AddCommands(CommandColumn& column);
+  void AddViewCommands(CommandColumn& column);
 
-  // The commands.
   void ChooseFrequency();
-  void ChannelUp();
-  void ChannelDown();
+  void StepChannel(std::optional<std::string> (*step)(SessionState&));
+  void LookUp(const QString& callSign);
+  void ChooseHome();
+  void ChooseOptions();
+  void AdjustAspect();
   void NextHoursFilter();
   void ToggleCompass();
   void ChangeView(void (*change)(SessionState&));
-  void ZoomInStep();
-  void ZoomOutStep();
-  void Larger();
-  void Smaller();
-  void ChooseScan();
-  void StopScan();
-  void Exit();
 
+  void ChooseScan();
   void Scan();
+  void ScanOnce();
   void ShowScanControls(bool running);
-  void UpdateCommands();
+
+  QString TipAt(Point place) const;
+  void ClickAt(Point place);
+  const StationMark* MarkAt(Point place) const;
+
+  QPushButton* Button(const char* name) const;
+  void UpdateZoomCommands();
   void SaveSessionOnce();
-  void RestorePlace();
 
   Workspace workspace_;
   MapSurface* surface_;
-  QGridLayout* commands_;
   QProgressBar* progress_;
   QLabel* savedNotice_;
   bool scanning_ = false;

@@ -69,9 +69,9 @@ bool SamePattern(const StationRecord& a, const StationRecord& b) {
   return std::equal(seenA.begin(), seenA.end(), seenB.begin(), seenB.end(), near);
 }
 
-std::string Towers(int count) {
+std::string Towers(float count) {
   if (count == 0) return "not known";
-  return std::to_string(count) + (count == 1 ? " tower" : " towers");
+  return DecimalText(count, 0) + (count == 1 ? " tower" : " towers");
 }
 
 /// The two sides, and which antennas of each have found their counterpart.
@@ -145,25 +145,37 @@ std::vector<ListedAntenna> ReadAntennas(int channel, const std::string& fileName
   return antennas;
 }
 
+std::string ChangeDetail(const Change& change) {
+  switch (change.kind) {
+    case ChangeKind::Moved:
+      return DecimalText(change.after, 1) + " km";
+    case ChangeKind::Power:
+      return DecimalText(change.before, 4) + " kW -> " + DecimalText(change.after, 4) + " kW";
+    case ChangeKind::Pattern:
+      return change.before == change.after ? Towers(change.after)
+                                           : Towers(change.before) + " -> " + Towers(change.after);
+    case ChangeKind::CallSign:
+      return "was " + change.formerCallSign;
+    default:
+      return {};
+  }
+}
+
 std::vector<Change> CompareChannel(const std::vector<ListedAntenna>& before,
                                    const std::vector<ListedAntenna>& after) {
   std::vector<Change> changes;
-  const auto add = [&](ChangeKind kind, const ListedAntenna& antenna, std::string detail) {
+  const auto add = [&](ChangeKind kind, const ListedAntenna& antenna, std::string formerCallSign, float was,
+                       float is) {
     const StationRecord& r = antenna.record;
     changes.push_back({kind, antenna.channel, r.CallSign, r.HoursCode,
-                       r.City + ", " + r.State + ", " + r.Country, std::move(detail)});
+                       r.City + ", " + r.State + ", " + r.Country, std::move(formerCallSign), was, is});
   };
   const auto compare = [&](const ListedAntenna& old, const ListedAntenna& now, double distance) {
-    if (distance > kSamePlace) add(ChangeKind::Moved, now, DecimalText(distance, 1) + " km");
+    if (distance > kSamePlace) add(ChangeKind::Moved, now, {}, 0, static_cast<float>(distance));
     if (old.record.PowerKW != now.record.PowerKW)
-      add(ChangeKind::Power, now,
-          DecimalText(old.record.PowerKW, 4) + " kW -> " + DecimalText(now.record.PowerKW, 4) + " kW");
-    if (!SamePattern(old.record, now.record)) {
-      const int oldCount = old.record.TowerCount;
-      const int count = now.record.TowerCount;
-      add(ChangeKind::Pattern, now,
-          oldCount == count ? Towers(count) : Towers(oldCount) + " -> " + Towers(count));
-    }
+      add(ChangeKind::Power, now, {}, old.record.PowerKW, now.record.PowerKW);
+    if (!SamePattern(old.record, now.record))
+      add(ChangeKind::Pattern, now, {}, old.record.TowerCount, now.record.TowerCount);
   };
 
   Comparison comparison(before, after);
@@ -171,10 +183,11 @@ std::vector<Change> CompareChannel(const std::vector<ListedAntenna>& before,
   comparison.Pair([](const StationRecord& r) { return r.CallSign + '|' + r.HoursCode; }, kAnywhere, compare);
   comparison.Pair([](const StationRecord& r) { return r.HoursCode; }, kSamePlace,
                   [&](const ListedAntenna& old, const ListedAntenna& now, double distance) {
-                    add(ChangeKind::CallSign, now, "was " + old.record.CallSign);
+                    add(ChangeKind::CallSign, now, old.record.CallSign, 0, 0);
                     compare(old, now, distance);
                   });
-  comparison.ForLeftOver([&](ChangeKind kind, const ListedAntenna& antenna) { add(kind, antenna, {}); });
+  comparison.ForLeftOver(
+      [&](ChangeKind kind, const ListedAntenna& antenna) { add(kind, antenna, {}, 0, 0); });
   std::stable_sort(changes.begin(), changes.end(), [](const Change& a, const Change& b) {
     return std::tie(a.kind, a.callSign, a.hours) < std::tie(b.kind, b.callSign, b.hours);
   });
@@ -195,7 +208,8 @@ std::string ChangesText(const std::vector<Change>& changes, std::size_t most) {
       ++shown;
       text += "  " + std::to_string(change.channel) + ' ' + change.callSign + ' ' + change.hours + ", " +
               change.place;
-      text += change.detail.empty() ? "\n" : ": " + change.detail + '\n';
+      const std::string detail = ChangeDetail(change);
+      text += detail.empty() ? "\n" : ": " + detail + '\n';
     }
     if (shown < count) text += "  and " + std::to_string(count - shown) + " more\n";
   }

@@ -26,9 +26,10 @@ struct Change {
   int channel = 0;
   std::string callSign;  ///< the new one
   std::string hours;
-  std::string place;  ///< "SPRINGFIELD, IL, United States"
-  std::string
-      detail;  ///< "12.3 km", "5 kW -> 10 kW", "2 towers -> 3 towers", "was KABC"; empty for new and gone
+  std::string place;           ///< "SPRINGFIELD, IL, United States"
+  std::string formerCallSign;  ///< of a changed call sign
+  float before = 0;            ///< kW or towers; 0 towers: not known
+  float after = 0;             ///< kW, towers, or the km moved
 };
 
 /// The antennas of a station file.
@@ -40,6 +41,9 @@ std::vector<ListedAntenna> ReadAntennas(int channel, const std::string& fileName
 /// changes of their own. Sorted by kind, call sign and hours.
 std::vector<Change> CompareChannel(const std::vector<ListedAntenna>& before,
                                    const std::vector<ListedAntenna>& after);
+
+/// "12.3 km", "5 kW -> 10 kW", "2 towers -> 3 towers", "was KABC"; empty for new and gone.
+std::string ChangeDetail(const Change& change);
 
 /// For people: counts by kind, then a line for each change, at most `most` of a kind (0: all).
 std::string ChangesText(const std::vector<Change>& changes, std::size_t most);

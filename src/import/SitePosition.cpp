@@ -44,8 +44,7 @@ Result<SitePosition> ReadSitePosition(const SexagesimalText& latitude, const Sex
 }
 
 bool IsInAmericas(const SitePosition& position) {
-  return position.latitude >= -60 && position.latitude <= 85 && position.longitude >= 20 &&
-         position.longitude <= 180;
+  return position.longitude >= 20 && position.longitude <= 180;
 }
 
 double SiteDistance(const SitePosition& a, const SitePosition& b) {

@@ -23,7 +23,7 @@ struct SexagesimalText {
 /// wrong, kind Malformed, without file and line.
 Result<SitePosition> ReadSitePosition(const SexagesimalText& latitude, const SexagesimalText& longitude);
 
-/// Whether the site lies in the Americas: 60 south to 85 north, 20 to 180 west.
+/// Whether the site lies in the Americas, their Antarctic bases among them: 20 to 180 west.
 bool IsInAmericas(const SitePosition& position);
 
 /// Great-circle distance in km, exact for neighbours too.

@@ -37,9 +37,8 @@ bool IsLetterOf(std::string_view text, std::string_view letters) {
 
 /// Whether the text may stand in the column; columns that tell nothing accept all.
 bool Fits(std::string_view column, std::string_view text) {
-  if (column == "ant_sys_id" || column == "application_id" || column == "tower_num" || column == "aug_id")
-    return IsIdentifier(text);
-  if (column == "facility_id") return text.empty() || IsIdentifier(text);
+  for (const std::string_view key : {"ant_sys_id", "application_id", "facility_id", "tower_num", "aug_id"})
+    if (column == key) return IsIdentifier(text);
   if (column == "lat_dir") return IsLetterOf(text, "NS");
   if (column == "lon_dir") return IsLetterOf(text, "EW");
   if (column == "hours_operation") return IsLetterOf(text, "UDNCRPX");

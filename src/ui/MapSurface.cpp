@@ -2,6 +2,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
 #include <algorithm>
 
 #include "draw/PainterCanvas.h"
@@ -72,6 +73,13 @@ void MapSurface::mouseMoveEvent(QMouseEvent* event) {
 
 void MapSurface::mousePressEvent(QMouseEvent* event) {
   if (MousePressed) MousePressed(ToSheet(event->position()), event->button());
+}
+
+bool MapSurface::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip || !TipWanted) return QWidget::event(event);
+  const auto* help = static_cast<QHelpEvent*>(event);
+  QToolTip::showText(help->globalPos(), TipWanted(ToSheet(help->pos())), this);
+  return true;
 }
 
 void MapSurface::wheelEvent(QWheelEvent* event) {

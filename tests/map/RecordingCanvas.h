@@ -8,13 +8,13 @@
 
 namespace kestrel {
 
-/// Every character is 100 twips wide and 240 high, in any font.
+/// At 10 points every character is 100 twips wide and 240 high, in other sizes in proportion.
 class FixedMeasure final : public TextMeasure {
  public:
-  float TextWidth(const Font&, std::string_view text) const override {
-    return 100 * static_cast<float>(text.size());
+  float TextWidth(const Font& font, std::string_view text) const override {
+    return 10 * font.Points * static_cast<float>(text.size());
   }
-  float TextHeight(const Font&) const override { return 240; }
+  float TextHeight(const Font& font) const override { return 24 * font.Points; }
 };
 
 /// One figure on the canvas, with the colour and font it was drawn in.

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "map/Sheet.h"
-
 namespace kestrel {
 namespace {
 
@@ -30,19 +28,6 @@ TEST(ViewTest, StepsOfTheSquareRootOfTwoWithinLimits) {
   state.PatternSize = 0.025F;
   ShrinkPatterns(state);
   EXPECT_EQ(state.PatternSize, 0.02F);
-}
-
-TEST(SheetTest, FitsASurfaceOfAnyShape) {
-  for (const auto& [width, height] : {std::pair{800.0F, 600.0F}, {1200.0F, 200.0F}, {100.0F, 900.0F}}) {
-    const SheetFit fit = FitSheet(width, height);
-    const Point middle = fit.ToSurface({SheetWidth / 2, SheetHeight / 2});
-    EXPECT_NEAR(middle.x, width / 2, 1e-3);
-    EXPECT_NEAR(middle.y, height / 2, 1e-3);
-    EXPECT_NEAR(std::min(width - SheetWidth * fit.Scale, height - SheetHeight * fit.Scale), 0, 1e-3);
-    const Point back = fit.ToSheet(fit.ToSurface({123, 4567}));
-    EXPECT_NEAR(back.x, 123, 0.01);
-    EXPECT_NEAR(back.y, 4567, 0.01);
-  }
 }
 
 }  // namespace

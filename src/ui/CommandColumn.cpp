@@ -1,0 +1,46 @@
+#include "ui/CommandColumn.h"
+
+#include <QPushButton>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+namespace kestrel {
+
+CommandColumn::CommandColumn(QWidget* parent) : QScrollArea(parent), column_(new QWidget) {
+  layout_ = new QVBoxLayout(column_);
+  layout_->setSpacing(3);
+  setWidget(column_);
+  setWidgetResizable(true);
+  setFrameShape(QFrame::NoFrame);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setFocusPolicy(Qt::NoFocus);
+}
+
+QPushButton* CommandColumn::AddCommand(const char* name, const QString& caption, const QString& tip,
+                                       const QList<QKeySequence>& shortcuts, std::function<void()> action) {
+  auto* button = new QPushButton(caption);
+  button->setObjectName(name);
+  for (const QKeySequence& keys : shortcuts)
+    connect(new QShortcut(keys, window()), &QShortcut::activated, button, &QPushButton::click);
+  button->setToolTip(
+      shortcuts.isEmpty() ? tip : tip + " (" + shortcuts.front().toString(QKeySequence::NativeText) + ')');
+  connect(button, &QPushButton::clicked, this, std::move(action));
+  layout_->addWidget(button);
+  return button;
+}
+
+void CommandColumn::AddGap() {
+  layout_->addSpacing(fontMetrics().height() / 2);
+}
+
+void CommandColumn::AddWidget(QWidget* widget) {
+  layout_->addWidget(widget);
+}
+
+void CommandColumn::Finish() {
+  layout_->addStretch();
+  setFixedWidth(column_->sizeHint().width() + verticalScrollBar()->sizeHint().width());
+}
+
+}  // namespace kestrel

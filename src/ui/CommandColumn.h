@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QKeySequence>
+#include <QList>
+#include <QScrollArea>
+#include <functional>
+
+class QPushButton;
+class QVBoxLayout;
+
+namespace kestrel {
+
+/// A column of command buttons, top to bottom. It scrolls where the window is too low for it.
+class CommandColumn final : public QScrollArea {
+ public:
+  explicit CommandColumn(QWidget* parent = nullptr);
+
+  /// Adds a button. Its shortcuts work in the whole window while the button is enabled, and stand in its tip.
+  QPushButton* AddCommand(const char* name, const QString& caption, const QString& tip,
+                          const QList<QKeySequence>& shortcuts, std::function<void()> action);
+
+  /// Leaves some room before the next command.
+  void AddGap();
+
+  /// Adds something that is no command.
+  void AddWidget(QWidget* widget);
+
+  /// Call when everything has been added: fixes the width.
+  void Finish();
+
+ private:
+  QWidget* column_;
+  QVBoxLayout* layout_;
+};
+
+}  // namespace kestrel

@@ -1,0 +1,197 @@
+#include "forms/frmPlot.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <set>
+
+#include "forms/Folder.h"
+#include "forms/StandInPlatform.h"
+#include "ui/MapSurface.h"
+
+namespace kestrel {
+namespace {
+
+class frmPlotTest : public ::testing::Test {
+ protected:
+  void Open() {
+    plot_ = std::make_unique<frmPlot>(workspace_);
+    plot_->show();
+  }
+
+  QPushButton* Button(const char* name) { return plot_->findChild<QPushButton*>(name); }
+  void Press(const char* name) { QTest::mouseClick(Button(name), Qt::LeftButton); }
+
+  /// Presses a command that opens a modal window, and in that window a button.
+  void PressInForm(const char* command, const QString& entry, const char* button) {
+    QTimer::singleShot(0, [entry, button] {
+      QWidget* form = QApplication::activeModalWidget();
+      ASSERT_NE(form, nullptr);
+      if (!entry.isEmpty()) form->findChild<QLineEdit*>()->setText(entry);
+      QTest::mouseClick(form->findChild<QPushButton*>(button), Qt::LeftButton);
+    });
+    Press(command);
+  }
+
+  /// "QDN620 D" for every record drawn.
+  std::set<std::string> Drawn() {
+    std::set<std::string> drawn;
+    for (const StationMark& mark : plot_->Surface().Drawing().Stations())
+      drawn.insert(mark.CallSign + ' ' + mark.HoursCode);
+    return drawn;
+  }
+
+  std::set<int> ChannelsDrawn() {
+    std::set<int> channels;
+    for (const StationMark& mark : plot_->Surface().Drawing().Stations()) channels.insert(mark.Channel);
+    return channels;
+  }
+
+  Folder folder_;
+  const DataFolder data_ = folder_.Data();
+  SessionState state_;
+  StandInPlatform platform_;
+  const Workspace workspace_{state_, data_, platform_};
+  std::unique_ptr<frmPlot> plot_;
+};
+
+using Names = std::set<std::string>;
+
+TEST_F(frmPlotTest, ExitSavesOnceAndSaysSo) {
+  Open();
+  PressInForm("cmdFreq", "1230", "cmdErasePlot");
+  Press("cmdIn");
+  Press("cmdExit");
+  EXPECT_FALSE(plot_->isVisible());
+  EXPECT_EQ(platform_.PausedSeconds, 1);
+  EXPECT_TRUE(platform_.Messages.isEmpty());
+  const std::string saved = folder_.Text("Kestrel.CFG");
+  EXPECT_NE(saved.find("Frequency displayed: 1230\r\n"), std::string::npos) << saved;
+  EXPECT_NE(saved.find("Scale factor: 282.84271\r\n"), std::string::npos) << saved;
+
+  folder_.Remove("Kestrel.CFG");
+  plot_->close();
+  EXPECT_EQ(folder_.Text("Kestrel.CFG"), "") << "saved a second time";
+}
+
+TEST_F(frmPlotTest, FailedSaveIsSaidAndTheProgramGoesOn) {
+  QDir().mkpath(folder_.Path("Kestrel.CFG"));
+  Open();
+  plot_->close();
+  EXPECT_EQ(platform_.Messages, QStringList("The KestrelII last-session file was not written correctly."));
+  EXPECT_EQ(platform_.Beeps, 1);
+  EXPECT_EQ(platform_.PausedSeconds, 0);
+  EXPECT_FALSE(plot_->isVisible());
+}
+
+TEST_F(frmPlotTest, ThreePressesOfHoursReturnToAll) {
+  Open();
+  const Names all = {"QDN620 D", "QDN620 N", "QU620 U"};
+  EXPECT_EQ(Drawn(), all);
+  Press("cmdHours");
+  EXPECT_EQ(Drawn(), (Names{"QDN620 D", "QU620 U"}));
+  Press("cmdHours");
+  EXPECT_EQ(Drawn(), (Names{"QDN620 N", "QU620 U"}));
+  QTest::keyClick(plot_.get(), Qt::Key_H);
+  EXPECT_EQ(Drawn(), all);
+}
+
+TEST_F(frmPlotTest, ZoomStopsAtBothLimits) {
+  Open();
+  for (int i = 0; i < 20; ++i) Press("cmdIn");
+  EXPECT_EQ(state_.ScaleFactor, 10000);
+  EXPECT_FALSE(Button("cmdIn")->isEnabled());
+  EXPECT_TRUE(Button("cmdOut")->isEnabled());
+  for (int i = 0; i < 20; ++i) Press("cmdOut");
+  EXPECT_EQ(state_.ScaleFactor, 50);
+  EXPECT_FALSE(Button("cmdOut")->isEnabled());
+  for (int i = 0; i < 20; ++i) Press("cmdSmaller");
+  EXPECT_FLOAT_EQ(state_.PatternSize, 0.02F);
+  for (int i = 0; i < 20; ++i) Press("cmdLarger");
+  EXPECT_EQ(state_.PatternSize, 2);
+}
+
+TEST_F(frmPlotTest, AddPlotKeepsTheFirstChannelAndEraseDoesNot) {
+  Open();
+  PressInForm("cmdFreq", "1230", "cmdExit");
+  EXPECT_EQ(ChannelsDrawn(), (std::set<int>{620, 1230}));
+  PressInForm("cmdFreq", "620", "cmdErasePlot");
+  EXPECT_EQ(ChannelsDrawn(), (std::set<int>{620}));
+  PressInForm("cmdFreq", "", "cmdAdd1st");
+  EXPECT_EQ(ChannelsDrawn(), (std::set<int>{620, 630}));
+  Press("cmdIn");
+  EXPECT_EQ(ChannelsDrawn(), (std::set<int>{620, 630})) << "adjacents stay through a zoom";
+  QTest::keyClick(plot_.get(), Qt::Key_PageUp);
+  EXPECT_EQ(ChannelsDrawn(), (std::set<int>{630}));
+  state_.CurrentFrequency = 1700;
+  QTest::keyClick(plot_.get(), Qt::Key_PageUp);
+  EXPECT_EQ(platform_.Messages, QStringList("Frequency over 1700 reset to 1700"));
+}
+
+TEST_F(frmPlotTest, CompassIsLaidOverAndTakenAway) {
+  Open();
+  PressInForm("cmdFreq", "1230", "cmdExit");
+  const std::size_t without = plot_->Surface().Drawing().Length();
+  Press("cmdCompass");
+  EXPECT_GT(plot_->Surface().Drawing().Length(), without + 36);
+  EXPECT_EQ(ChannelsDrawn(), (std::set<int>{620, 1230})) << "laid over what is there";
+  Press("cmdCompass");
+  EXPECT_EQ(ChannelsDrawn(), (std::set<int>{1230})) << "cleared and drawn anew";
+}
+
+TEST_F(frmPlotTest, ScanDrawsEveryChannelUntilStopped) {
+  Open();
+  EXPECT_FALSE(Button("cmdStop")->isVisible());
+  PressInForm("cmdAll", "", "cmdPlotNo");
+  EXPECT_EQ(platform_.EventRounds, 0);
+
+  PressInForm("cmdAll", "", "cmdAlterNo");
+  EXPECT_EQ(platform_.EventRounds, 118);
+  EXPECT_EQ(ChannelsDrawn(), (std::set<int>{620, 630, 1230}));
+  EXPECT_EQ(platform_.Beeps, 1);
+  EXPECT_TRUE(state_.StopRequested);
+
+  platform_.OnEvents = [this](int round) {
+    if (round != 118 + 10) return;
+    EXPECT_TRUE(Button("cmdStop")->isVisible());
+    EXPECT_FALSE(Button("cmdFreq")->isEnabled());
+    Press("cmdStop");
+  };
+  PressInForm("cmdAll", "", "cmdAlterYes");
+  EXPECT_EQ(platform_.EventRounds, 118 + 10);
+  EXPECT_EQ(ChannelsDrawn(), (std::set<int>{620}));
+  EXPECT_EQ(state_.ScaleFactor, 10000);
+  EXPECT_FALSE(Button("cmdIn")->isEnabled());
+  EXPECT_TRUE(Button("cmdFreq")->isEnabled());
+}
+
+TEST_F(frmPlotTest, WindowMayBeClosedWhileTheScanRuns) {
+  Open();
+  platform_.OnEvents = [this](int round) {
+    if (round == 3) plot_->close();
+  };
+  PressInForm("cmdAll", "", "cmdAlterNo");
+  EXPECT_EQ(platform_.EventRounds, 3);
+  EXPECT_FALSE(plot_->isVisible());
+  EXPECT_NE(folder_.Text("Kestrel.CFG"), "");
+}
+
+TEST_F(frmPlotTest, MissingAndBrokenFilesLeaveTheRest) {
+  folder_.Remove("STATES.dat");
+  folder_.Remove("620x.dat");
+  Open();
+  EXPECT_TRUE(Drawn().empty());
+  EXPECT_FALSE(plot_->Surface().Drawing().IsEmpty());
+  EXPECT_TRUE(platform_.Messages.isEmpty());
+  folder_.Write("1230x.dat", "junk\n\n1230,QX,T,S,C,D,33,97,1,-,-,99\n" + Folder::Channel("1230"));
+  PressInForm("cmdFreq", "1230", "cmdErasePlot");
+  EXPECT_EQ(Drawn(), (Names{"QDN1230 D", "QDN1230 N", "QU1230 U"}));
+}
+
+}  // namespace
+}  // namespace kestrel
