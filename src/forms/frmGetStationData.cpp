@@ -15,6 +15,7 @@
 #include "forms/frmShowContext.h"
 #include "forms/frmShowTowers.h"
 #include "map/StationPlot.h"
+#include "ui/Controls.h"
 #include "ui/MapSurface.h"
 #include "ui/PrintCommands.h"
 
@@ -27,12 +28,6 @@ constexpr double kListOfWindow = 0.3;  // the list takes no more of the height
 
 QString Text(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-QLabel* NamedLabel(const char* name, const QString& caption) {
-  auto* label = new QLabel(caption);
-  label->setObjectName(name);
-  return label;
 }
 
 }  // namespace
@@ -58,26 +53,21 @@ frmGetStationData::frmGetStationData(const Workspace& workspace, QWidget* parent
 
 QPushButton* frmGetStationData::AddButton(const char* name, const QString& caption, const QString& tip,
                                           auto action) {
-  auto* button = new QPushButton(caption);
-  button->setObjectName(name);
-  button->setToolTip(tip);
+  QPushButton* button = MakeButton(name, caption, tip);
   connect(button, &QPushButton::clicked, this, action);
   commands_.push_back(button);
   return button;
 }
 
 void frmGetStationData::LayOutEntry(QVBoxLayout* rows) {
-  QLabel* label1 = NamedLabel("Label1", "&Look for");
-  txtGetData_ = new QLineEdit;
-  txtGetData_->setObjectName("txtGetData");
-  txtGetData_->setToolTip("The call sign of a station on this channel");
-  label1->setBuddy(txtGetData_);
-  QLabel* label2 = NamedLabel("Label2", "in file");
+  txtGetData_ = MakeBox("txtGetData", "The call sign of a station on this channel");
+  QLabel* label1 = MakeLabel("Label1", "&Look for", txtGetData_);
+  QLabel* label2 = MakeLabel("Label2", "in file");
   if (const auto channel = ChannelLabel(workspace_.State.CurrentFrequency)) label2->setText(Text(*channel));
   QPushButton* search = AddButton("cmdGetData", "Get &data", "Lists the records of this call sign (Enter)",
                                   [this] { Search(); });
   search->setDefault(true);
-  label4_ = NamedLabel("Label4", "Click on a line in the list to see that station's pattern ");
+  label4_ = MakeLabel("Label4", "Click on a line in the list to see that station's pattern ");
   label4_->hide();
 
   auto* grid = new QGridLayout;
@@ -98,8 +88,7 @@ void frmGetStationData::LayOutList(QVBoxLayout* rows) {
   lstGetData_->setObjectName("lstGetData");
   lstGetData_->setAccessibleName("Stations found");
   lstGetData_->setFont(courier);
-  QLabel* label3 = NamedLabel("Label3", Text(ListHeads()));
-  label3->setTextFormat(Qt::PlainText);
+  QLabel* label3 = MakeLabel("Label3", Text(ListHeads()));
   label3->setFont(courier);
   // The heads begin where the list's text does.
   label3->setIndent(lstGetData_->frameWidth() + style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
@@ -118,7 +107,7 @@ void frmGetStationData::LayOutPlot(QVBoxLayout* rows) {
   plot_ = new MapSurface(this, StationPlotArea);
   plot_->setObjectName("Plot");
   plot_->setAccessibleName("Pattern and towers");
-  label5_ = NamedLabel("Label5", "Patterns are individually resized to fill the plotting area");
+  label5_ = MakeLabel("Label5", "Patterns are individually resized to fill the plotting area");
   label5_->hide();
 
   auto* column = new QVBoxLayout;

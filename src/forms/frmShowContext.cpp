@@ -5,6 +5,7 @@
 #include <QScreen>
 #include <QShortcut>
 
+#include "ui/Controls.h"
 #include "ui/MapSurface.h"
 
 namespace kestrel {
@@ -49,9 +50,7 @@ frmShowContext::frmShowContext(const Workspace& workspace, QWidget* parent, cons
 
 QPushButton* frmShowContext::AddButton(const char* name, const QString& caption, const QString& tip,
                                        auto action) {
-  auto* button = new QPushButton(caption);
-  button->setObjectName(name);
-  button->setToolTip(tip);
+  QPushButton* button = MakeButton(name, caption, tip);
   connect(button, &QPushButton::clicked, this, action);
   return button;
 }

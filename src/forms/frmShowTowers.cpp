@@ -2,12 +2,13 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "map/TowerSheet.h"
+#include "ui/Controls.h"
 #include "ui/MapSurface.h"
 
 namespace kestrel {
@@ -29,27 +30,31 @@ frmShowTowers::frmShowTowers(const Workspace& workspace, QWidget* parent, const 
   for (const StationRecord& record :
        LoadRecords(workspace.Folder, workspace.State.CurrentFrequency, selection))
     rows = TowerTable(record);
-  const QString text = QString::fromStdString(TowerTableText(rows));
+  text_ = QString::fromStdString(TowerTableText(rows));
 
   auto* table = new MapSurface(this, TowerSheetArea(twips));
   table->setObjectName("Table");
   table->setAccessibleName("Towers");
-  table->setAccessibleDescription(text);
+  table->setAccessibleDescription(text_);
   table->setToolTip("Ctrl+C copies the table");
   DrawTowerSheet(table->Drawing(), twips, rows);
   table->ShowDrawing();
 
-  auto* close = new QPushButton("&Close");
-  close->setObjectName("cmdExit");
+  QPushButton* close = MakeButton("cmdExit", "&Close", "Back to the station's data (Escape)");
   close->setDefault(true);
   connect(close, &QPushButton::clicked, this, &QDialog::accept);
-  connect(new QShortcut(QKeySequence::Copy, this), &QShortcut::activated, this,
-          [text] { QGuiApplication::clipboard()->setText(text); });
 
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(table, 1);
   layout->addWidget(close, 0, Qt::AlignLeft);
   resize(screenSize / 2);
+}
+
+void frmShowTowers::keyPressEvent(QKeyEvent* event) {
+  if (event->matches(QKeySequence::Copy))
+    QGuiApplication::clipboard()->setText(text_);
+  else
+    QDialog::keyPressEvent(event);
 }
 
 }  // namespace kestrel

@@ -11,6 +11,13 @@ namespace kestrel {
 class frmShowTowers final : public QDialog {
  public:
   frmShowTowers(const Workspace& workspace, QWidget* parent, const StationSelection& selection);
+
+ protected:
+  /// Ctrl+C copies the table.
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  QString text_;  // the table, for the clipboard
 };
 
 }  // namespace kestrel

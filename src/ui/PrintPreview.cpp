@@ -14,6 +14,7 @@
 #include <QScreen>
 
 #include "draw/PagePainter.h"
+#include "ui/Controls.h"
 
 namespace kestrel {
 namespace {
@@ -66,8 +67,7 @@ class PrintPreview final : public QDialog {
       printer_.setPageOrientation(index == 1 ? QPageLayout::Landscape : QPageLayout::Portrait);
       view_->updatePreview();
     });
-    auto* setup = new QPushButton("Page &setup...");
-    setup->setObjectName("cmdPageSetup");
+    QPushButton* setup = MakeButton("cmdPageSetup", "Page &setup...", "Paper, orientation and margins");
     setup->setAutoDefault(false);
     connect(setup, &QPushButton::clicked, this, [this, orientation] {
       QPageSetupDialog dialog(&printer_, this);
@@ -90,15 +90,13 @@ class PrintPreview final : public QDialog {
 
   QHBoxLayout* MakeButtons() {
     auto* row = new QHBoxLayout;
-    auto* print = new QPushButton("&Print...");
-    print->setObjectName("cmdPrint");
+    QPushButton* print = MakeButton("cmdPrint", "&Print...", "Chooses the printer and prints");
     print->setDefault(true);
     connect(print, &QPushButton::clicked, this, [this] {
       QPrintDialog dialog(&printer_, this);
       if (dialog.exec() == QDialog::Accepted) accept();
     });
-    auto* close = new QPushButton("&Close");
-    close->setObjectName("cmdClose");
+    QPushButton* close = MakeButton("cmdClose", "&Close", "Prints nothing");
     close->setAutoDefault(false);
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
     row->addStretch();

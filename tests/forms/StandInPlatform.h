@@ -19,6 +19,7 @@ class StandInPlatform final : public Platform {
   // What it answers.
   std::optional<ColorValue> NextColor;  ///< nothing: the colour dialog is cancelled
   bool HasSystemInformation = false;
+  std::function<std::optional<PrintOrder>(const PrintOffer&)> NextPrint;  ///< none: printing is cancelled
 
   // What it was asked.
   QStringList Messages;
@@ -40,6 +41,9 @@ class StandInPlatform final : public Platform {
     return HasSystemInformation;
   }
   void Pause(double seconds) override { PausedSeconds += seconds; }
+  std::optional<PrintOrder> OfferPrinting(QWidget*, const PrintOffer& offer) override {
+    return NextPrint ? NextPrint(offer) : std::nullopt;
+  }
   void ProcessEvents() override {
     ++EventRounds;
     if (OnEvents) OnEvents(EventRounds);
