@@ -129,7 +129,7 @@ void AddPicture(CLI::App& command, Request& request) {
     if (!NamesPicture(given)) Refuse("-o", given, "a file name that ends in .png, .svg or .pdf");
     request.Output = given;
   };
-  command.add_option_function<std::string>("-o,--output", storeOutput, "the picture's file")
+  command.add_option_function<std::string>("-o", storeOutput, "the picture's file")
       ->type_name("FILE")
       ->required();
 }

@@ -9,6 +9,9 @@ namespace kestrel::cli {
 
 void Table::AddRow(std::vector<std::string> cells) {
   assert(cells.size() == columns_.size());
+  for (std::string& cell : cells)
+    std::replace_if(
+        cell.begin(), cell.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; }, ' ');
   rows_.push_back(std::move(cells));
 }
 

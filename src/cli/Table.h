@@ -17,7 +17,7 @@ class Table {
 
   explicit Table(std::vector<Column> columns) : columns_(std::move(columns)) {}
 
-  /// REQUIRES: as many cells as there are columns.
+  /// Control characters become blanks. REQUIRES: as many cells as there are columns.
   void AddRow(std::vector<std::string> cells);
 
   /// The titles, unless all are empty, and the rows, one line each, without blanks at their ends.

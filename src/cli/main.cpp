@@ -27,8 +27,13 @@ ExitStatus Answer(const CLI::App& app, const CLI::ParseError& thrown) {
     return Succeeded;
   }
   const auto chosen = app.get_subcommands();
-  const std::string command = chosen.empty() ? "" : chosen.front()->get_name() + ' ';
-  Say(std::string(thrown.what()) + "; kestrel-cli " + command + "--help tells more");
+  const auto unknown = app.remaining();
+  if (chosen.empty() && !unknown.empty())
+    Say(unknown.front() + ": there is no such command; kestrel-cli --help lists them");
+  else if (chosen.empty())
+    Say("a command is missing; kestrel-cli --help lists them");
+  else
+    Say(std::string(thrown.what()) + "; kestrel-cli " + chosen.front()->get_name() + " --help tells more");
   return WronglyUsed;
 }
 

@@ -4,9 +4,11 @@ namespace kestrel {
 namespace {
 
 constexpr std::string_view kAttributions =
-    "City names and positions: GeoNames (geonames.org), under the licence CC BY 4.0.\n"
-    "Coasts, national borders, lakes and provinces: Natural Earth, public domain.\n"
-    "Borders of the states: US Census Bureau, public domain.";
+    "Names and positions of cities: GeoNames (https://www.geonames.org), licensed under CC BY 4.0 "
+    "(https://creativecommons.org/licenses/by/4.0/). Changes: a selection, in plain letters, some names "
+    "shortened or replaced, positions rounded.\n\n"
+    "Coasts, national borders, lakes and provinces: Natural Earth, public domain. Borders of the states: US "
+    "Census Bureau, public domain.";
 
 constexpr std::string_view kLicence =
     "MIT License\n\n"

@@ -27,19 +27,24 @@ SurfaceRules RulesFor(QSizeF size, double pixelSize = 1) {
 }
 
 QByteArray PngBytes(const DisplayList& drawing, QSize size) {
-  constexpr int kMostPixels = 4 << 20;  // drawn at a time, 16 MB
+  constexpr int kMostPixels = 16 << 20;  // drawn at a time, 64 MB
+  constexpr int kSeam =
+      8;  // rows drawn beyond each end: where a painter clips a line, it smooths it otherwise
   const int most = std::max(1, kMostPixels / size.width());
   PngFile file(size);
   for (int top = 0; top < size.height(); top += most) {
-    QImage band(size.width(), std::min(most, size.height() - top), QImage::Format_RGB32);
+    const int rows = std::min(most, size.height() - top);
+    const int above = std::min(kSeam, top);
+    const int below = std::min(kSeam, size.height() - top - rows);
+    QImage band(size.width(), above + rows + below, QImage::Format_RGB32);
     if (band.isNull()) throw std::bad_alloc();
     band.fill(Qt::white);
     QPainter painter(&band);
-    painter.translate(0, -top);
+    painter.translate(0, above - top);
     PainterCanvas canvas(painter, RulesFor(size));
     drawing.Play(canvas);
     painter.end();
-    file.AddRows(band);
+    file.AddRows(band, above, rows);
   }
   return file.Finish();
 }

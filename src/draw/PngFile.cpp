@@ -58,13 +58,13 @@ void PngFile::Compress(const QByteArray& bytes, int flush) {
   } while (stream_->avail_out == 0);
 }
 
-void PngFile::AddRows(const QImage& rows) {
-  row_.resize(1 + 3 * rows.width());
-  for (int y = 0; y < rows.height(); ++y) {
-    const auto* pixels = reinterpret_cast<const QRgb*>(rows.constScanLine(y));
+void PngFile::AddRows(const QImage& image, int first, int count) {
+  row_.resize(1 + 3 * image.width());
+  for (int y = first; y < first + count; ++y) {
+    const auto* pixels = reinterpret_cast<const QRgb*>(image.constScanLine(y));
     char* byte = row_.data();
     *byte++ = 0;  // no filter
-    for (int x = 0; x < rows.width(); ++x) {
+    for (int x = 0; x < image.width(); ++x) {
       *byte++ = static_cast<char>(qRed(pixels[x]));
       *byte++ = static_cast<char>(qGreen(pixels[x]));
       *byte++ = static_cast<char>(qBlue(pixels[x]));

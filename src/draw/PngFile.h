@@ -16,8 +16,9 @@ class PngFile {
   explicit PngFile(QSize size);
   ~PngFile();
 
-  /// The next rows, top to bottom. REQUIRES: as wide as the picture, Format_RGB32.
-  void AddRows(const QImage& rows);
+  /// The next `count` rows of the picture, top to bottom, from row `first` of the image on.
+  /// REQUIRES: the image is as wide as the picture, Format_RGB32.
+  void AddRows(const QImage& image, int first, int count);
 
   /// The whole file. Call once, after the last row.
   QByteArray Finish();

@@ -187,13 +187,13 @@ QString SvgCanvas::UniqueId(const StationMark& mark) {
 }
 
 void SvgCanvas::BeginStation(const StationMark& mark) {
-  pending_ = &mark;
+  pending_ = mark;
 }
 
 void SvgCanvas::EndStation() {
   if (groupOpen_) xml_.writeEndElement();
   groupOpen_ = false;
-  pending_ = nullptr;
+  pending_.reset();
 }
 
 void SvgCanvas::Clear() {}

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QXmlStreamWriter>
 #include <map>
+#include <optional>
 #include <set>
 
 #include "draw/Fonts.h"
@@ -54,7 +55,7 @@ class SvgCanvas final : public Canvas {
   double lineWidth_ = 1;
   QByteArray document_;
   QXmlStreamWriter xml_;
-  const StationMark* pending_ = nullptr;  // a station whose group is opened with its first visible element
+  std::optional<StationMark> pending_;  // a station whose group is opened with its first visible element
   bool groupOpen_ = false;
   std::set<QString> ids_;
   std::map<QString, int> numbers_;  // the last one added to an id

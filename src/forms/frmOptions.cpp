@@ -69,8 +69,9 @@ void frmOptions::AddColor(QGridLayout* grid, ColorValue& color, const ColorNames
 
   // On white, like the map.
   auto* paper = new QFrame;
-  paper->setObjectName("paper");
-  paper->setStyleSheet("#paper { background: white; border: 1px solid #aaaaaa }");
+  paper->setFrameShape(QFrame::Box);
+  paper->setAutoFillBackground(true);
+  paper->setPalette(QPalette(Qt::gray, Qt::white));
   QLabel* label = MakeLabel(names.Label, names.Text);
   QFont bold = label->font();
   bold.setBold(true);

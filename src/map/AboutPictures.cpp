@@ -87,14 +87,14 @@ void DrawSampleOutline(Canvas& canvas, ColorValue color) {
 
 void DrawArrayPicture(Canvas& canvas) {
   DrawNightSky(canvas, ArrayPictureArea);
-  constexpr Point kCenter = {2000, 2250};
+  constexpr Point kCenter = {2000, 2180};
   canvas.SetLineWidth(1);
   canvas.SetColor(Rgb(44, 62, 110));
-  for (float radius = 450; radius <= 1800; radius += 450) canvas.Circle(kCenter, radius);
+  for (float radius = 430; radius <= 1720; radius += 430) canvas.Circle(kCenter, radius);
   for (int bearing = 0; bearing < 180; bearing += 30) {
     const double angle = bearing * 3.14159265 / 180;
-    const Point spoke = {static_cast<float>(1800 * std::sin(angle)),
-                         static_cast<float>(1800 * std::cos(angle))};
+    const Point spoke = {static_cast<float>(1720 * std::sin(angle)),
+                         static_cast<float>(1720 * std::cos(angle))};
     canvas.Line({kCenter.x - spoke.x, kCenter.y + spoke.y}, {kCenter.x + spoke.x, kCenter.y - spoke.y});
   }
 
@@ -103,7 +103,7 @@ void DrawArrayPicture(Canvas& canvas) {
   const std::array<std::pair<float, ColorValue>, 3> cool = {
       {{6, Rgb(24, 62, 100)}, {3, Rgb(40, 122, 158)}, {1.2F, Rgb(150, 232, 240)}}};
   DrawGlowing(canvas, kCenter, 1150, PatternOf({2, 90, 205, 90}), cool);
-  DrawGlowing(canvas, kCenter, 2000, PatternOf({4, 90, 25, -75}), warm);
+  DrawGlowing(canvas, kCenter, 1950, PatternOf({4, 90, 25, -75}), warm);
 
   for (int tower = 0; tower < 4; ++tower) {
     const float along = (static_cast<float>(tower) - 1.5F) * 170;

@@ -160,7 +160,7 @@ bool PlacePicker::eventFilter(QObject* watched, QEvent* event) {
 
 PlaceListLook CityColumns() {
   PlaceListLook look;
-  look.Columns = {{"City", 20},
+  look.Columns = {{"City", 25},
                   {"State or country", 12},
                   {"Latitude", 9, Qt::AlignRight},
                   {"Longitude", 9, Qt::AlignRight}};

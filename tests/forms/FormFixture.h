@@ -5,11 +5,9 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QDialog>
-#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <functional>
@@ -17,23 +15,17 @@
 #include "core/Text.h"
 #include "forms/StandInPlatform.h"
 #include "forms/Workspace.h"
+#include "map/TestFolder.h"
 
 namespace kestrel {
 
 /// A form's surroundings: a session of its own, a platform that answers at once, an empty data folder.
 class FormTest : public ::testing::Test {
  protected:
-  void Write(const QString& name, const QByteArray& bytes) {
-    QFile file(folder_.filePath(name));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    ASSERT_EQ(file.write(bytes), bytes.size());
-  }
-
-  QTemporaryDir folder_{QDir::tempPath() + "/kestrel forms XXXXXX"};
-  DataFolder Folder{folder_.path()};
+  TestFolder Files;
   SessionState State;
   StandInPlatform System;
-  Workspace Everything{State, Folder, System};
+  Workspace Everything{State, Files.Folder(), System};
 };
 
 /// The control of that object name.

@@ -9,24 +9,25 @@ namespace {
 
 class AboutTest : public FormTest {
  protected:
+  QString Path(const QString& name = {}) const { return Files.Folder().Path() + '/' + name; }
+
   void WriteProgram(const QString& path) {
-    ASSERT_TRUE(QDir(folder_.path()).mkpath(QFileInfo(path).path()));
-    Write(path, "#!/bin/sh\n");
-    QFile::setPermissions(folder_.filePath(path), QFile::ReadOwner | QFile::ExeOwner);
+    ASSERT_TRUE(QDir(Path()).mkpath(QFileInfo(path).path()));
+    Files.Put(path, "#!/bin/sh\n");
+    QFile::setPermissions(Path(path), QFile::ReadOwner | QFile::ExeOwner);
   }
 
   std::optional<ProgramCall> Tool() const {
-    return FindDesktopTool({folder_.filePath("first"), folder_.filePath("second")},
-                           {folder_.filePath("programs")});
+    return FindDesktopTool({Path("first"), Path("second")}, {Path("programs")});
   }
 
   ProgramCall Call(const char* program, const QStringList& arguments = {}) const {
-    return {folder_.filePath(QString("programs/") + program), arguments};
+    return {Path(QString("programs/") + program), arguments};
   }
 };
 
 TEST_F(AboutTest, TextsAndTheInformationTool) {
-  Write("Stations.txt", "Test stations of 1 May\r\n");
+  Files.Put("Stations.txt", "Test stations of 1 May\r\n");
   frmAbout form(Everything);
   Use(form, [&] {
     EXPECT_EQ(Shown(form, "lblTitle"), "KestrelII");
@@ -48,7 +49,7 @@ TEST_F(AboutTest, TextsAndTheInformationTool) {
 }
 
 TEST_F(AboutTest, ToolsAreFoundByEntryThenByProgram) {
-  for (const char* folder : {"first", "second", "programs"}) QDir(folder_.path()).mkdir(folder);
+  for (const char* folder : {"first", "second", "programs"}) QDir(Path()).mkdir(folder);
   EXPECT_FALSE(Tool());
 
   WriteProgram("programs/hardinfo");
@@ -56,14 +57,14 @@ TEST_F(AboutTest, ToolsAreFoundByEntryThenByProgram) {
   EXPECT_EQ(Tool(), Call("hardinfo"));
 
   // An entry wins over a program, but only when its own program is there.
-  Write("first/gnome-about-panel.desktop", "[Desktop Entry]\nExec=gnome-control-center info-overview\n");
+  Files.Put("first/gnome-about-panel.desktop", "[Desktop Entry]\nExec=gnome-control-center info-overview\n");
   EXPECT_EQ(Tool(), Call("hardinfo"));
   WriteProgram("programs/gnome-control-center");
   EXPECT_EQ(Tool(), Call("gnome-control-center", {"info-overview"}));
 
-  Write("second/org.kde.kinfocenter.desktop",
-        "# made by hand\nExec=no\n[Desktop Action x]\nExec=other\n[Desktop Entry]\nName=Info\n"
-        "Exec = \"kinfo center\" %U --caption \"100%% all\" %i\n");
+  Files.Put("second/org.kde.kinfocenter.desktop",
+            "# made by hand\nExec=no\n[Desktop Action x]\nExec=other\n[Desktop Entry]\nName=Info\n"
+            "Exec = \"kinfo center\" %U --caption \"100%% all\" %i\n");
   WriteProgram("programs/kinfo center");
   EXPECT_EQ(Tool(), Call("kinfo center", {"--caption", "100% all"}));
 }

@@ -1,0 +1,58 @@
+#include "cli/Companion.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+
+namespace kestrel::cli {
+
+void PrintTo(const Answer& answer, std::ostream* out) {
+  *out << "status " << answer.Status << "\n--- out\n" << answer.Out << "--- err\n" << answer.Err << "---";
+}
+
+Folder::Folder() : dir_(QDir::tempPath() + "/kestrel data XXXXXX") {}
+
+void Folder::Write(const QString& name, std::string_view bytes) const {
+  QFile file(File(name));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(bytes.data(), static_cast<qint64>(bytes.size()));
+}
+
+std::string Folder::Read(const QString& name) const {
+  QFile file(File(name));
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  return file.readAll().toStdString();
+}
+
+Answer Folder::Run(QStringList arguments) const {
+  return RunIn(Path(), QStringList{"--data", Path()} + arguments);
+}
+
+Answer RunIn(const QString& folder, const QStringList& arguments, const QString& locale,
+             const QString& output) {
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "XDG_RUNTIME_DIR", "QT_QPA_PLATFORM", "LANG"})
+    environment.remove(name);
+  environment.insert("HOME", folder);
+  environment.insert("XDG_DATA_HOME", folder + "/share");
+  environment.insert("LC_ALL", locale);
+  environment.insert("QT_QPA_PLATFORMTHEME", "gtk3");
+  environment.insert("QT_FONT_DPI", "200");
+
+  QProcess process;
+  process.setProcessEnvironment(environment);
+  process.setWorkingDirectory(folder);
+  if (!output.isEmpty()) process.setStandardOutputFile(output);
+  process.start(KESTREL_CLI, arguments);
+  constexpr int kMilliseconds = 60000;
+  Answer answer;
+  if (process.waitForFinished(kMilliseconds) && process.exitStatus() == QProcess::NormalExit)
+    answer.Status = process.exitCode();
+  answer.Out = process.readAllStandardOutput().toStdString();
+  answer.Err = process.readAllStandardError().toStdString();
+  return answer;
+}
+
+}  // namespace kestrel::cli

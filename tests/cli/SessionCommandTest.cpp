@@ -1,0 +1,89 @@
+#include <gtest/gtest.h>
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include "cli/Companion.h"
+
+namespace kestrel::cli {
+namespace {
+
+QJsonObject Values(const Answer& answer) {
+  EXPECT_EQ(answer.Status, 0) << answer.Err;
+  EXPECT_EQ(answer.Err, "");
+  return QJsonDocument::fromJson(QByteArray::fromStdString(answer.Out)).object();
+}
+
+TEST(SessionCommandTest, AMissingFileIsAFirstStart) {
+  const Folder folder;
+  const Answer answer = folder.Run({"session", "nothing.cfg", "--json"});
+  const std::string wanted =
+      "{\n"
+      "  \"CurrentFrequency\": 620,\n"
+      "  \"HomeName\": \"Plano   TX\",\n"
+      "  \"HomeLatitude\": 33.24278,\n"
+      "  \"HomeLongitude\": 96.54139,\n"
+      "  \"PatternSize\": 0.5,\n"
+      "  \"ScaleFactor\": 200,\n"
+      "  \"DistanceUnit\": 0,\n"
+      "  \"DayColor\": 65280,\n"
+      "  \"NightColor\": 0,\n"
+      "  \"UnlimitedColor\": 255,\n"
+      "  \"CriticalColor\": 16776960,\n"
+      "  \"AdjacentColor\": 208931,\n"
+      "  \"MapLanguage\": \"\",\n"
+      "  \"AspectRatio\": 1,\n";
+  EXPECT_EQ(answer.Out.substr(0, wanted.size()), wanted);
+  EXPECT_EQ(answer.Status, 0);
+  EXPECT_EQ(Values(answer), Values(folder.Run({"session", "--json"})));
+  EXPECT_EQ(Values(answer)["DataFolder"].toString(), folder.Path());
+}
+
+TEST(SessionCommandTest, AnUnreadableOrMissingOneThatACommandNeedsIsStatusOne) {
+  const Folder folder;
+  folder.Write("620x.dat", "");
+  EXPECT_EQ(folder.Run({"session", "."}).Status, 1);
+  EXPECT_EQ(folder.Run({"--session", "nothing.cfg", "stations"}),
+            (Answer{1, "",
+                    "kestrel-cli: nothing.cfg: there is no such file; name a last-session file that can be "
+                    "read, or leave it out for a first start\n"}));
+}
+
+TEST(SessionCommandTest, WhatIsWrittenReadsBackTheSame) {
+  const Folder folder;
+  const std::string file =
+      "* comment\r\n\r\nFrequency displayed: 1.23K\r\nHome: \"Là-bas\"  QC\r\n-45,5\r\nx: -73.25\r\n"
+      ".0625\r\n1414.2135\r\nunit: 1\r\n1\r\n2\r\n3\r\n4\r\n16777215\r\nfr\r\n .75 \r\n";
+  folder.Write("last.cfg", file);
+  const QJsonObject read = Values(folder.Run({"session", "last.cfg", "--write", "new.cfg", "--json"}));
+  EXPECT_EQ(read["CurrentFrequency"].toDouble(), 1230);
+  EXPECT_EQ(read["HomeName"].toString(), "\"Là-bas\"  QC");
+  EXPECT_EQ(read["HomeLatitude"].toDouble(), -45.5);
+  EXPECT_EQ(read["HomeLongitude"].toDouble(), -73.25);
+  EXPECT_EQ(read["ScaleFactor"].toDouble(), 1414.2135);
+  EXPECT_EQ(read["AdjacentColor"].toDouble(), 16777215);
+  EXPECT_EQ(read["AspectRatio"].toDouble(), .75);
+  EXPECT_EQ(Values(folder.Run({"session", "new.cfg", "--json"})), read);
+
+  const std::string written = folder.Read("new.cfg");
+  const std::size_t date = written.find("\r\n* ") + 4;
+  EXPECT_EQ(written.substr(0, date), "* Kestrel last-session file\r\n* ");
+  EXPECT_EQ(
+      written.substr(written.find("\r\n", date)),
+      "\r\n\r\nFrequency displayed: 1230\r\nHome: \"Là-bas\"  QC\r\nHome latitude: -45.5\r\n"
+      "Home longitude: -73.25\r\nRelative size of pattern: .0625\r\nScale factor: 1414.2135\r\n"
+      "Distance km or miles: 1\r\nDaytime pattern color: 1\r\nNighttime pattern color: 2\r\n"
+      "Unlimited-hours pattern color: 3\r\nCritical-hours pattern color: 4\r\n"
+      "Adjacent channel pattern color: 16777215\r\nGoogle Maps Language: fr\r\nAspect ratio:  .75 \r\n");
+}
+
+TEST(SessionCommandTest, AFailedWriteIsStatusOneAndLeavesNothing) {
+  const Folder folder;
+  EXPECT_EQ(folder.Run({"session", "--write", "no/such/last.cfg"}),
+            (Answer{1, "",
+                    "kestrel-cli: no/such/last.cfg: No such file or directory; the last-session file was not "
+                    "written\n"}));
+}
+
+}  // namespace
+}  // namespace kestrel::cli

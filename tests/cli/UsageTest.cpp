@@ -1,0 +1,97 @@
+#include <gtest/gtest.h>
+
+#include "cli/Companion.h"
+
+namespace kestrel::cli {
+namespace {
+
+TEST(UsageTest, WrongUseIsStatusTwoWithOneLineThatSaysWhatToDo) {
+  const Folder folder;
+  const QStringList map = {"map", "-o", "x.png"};
+  const struct {
+    QStringList arguments;
+    std::string message;
+  } rows[] = {
+      {{}, "a command is missing; kestrel-cli --help lists them"},
+      {{"plot"}, "plot: there is no such command; kestrel-cli --help lists them"},
+      {{"hets", "--frequency", "529.9"}, "--frequency 529.9: give a number from 530 to 1700"},
+      {{"hets", "--frequency", "1701"}, "--frequency 1701: give a number from 530 to 1700"},
+      {{"hets", "--frequency", "620kHz"}, "--frequency 620kHz: give a number from 530 to 1700"},
+      {{"hets", "--frequency", "nan"}, "--frequency nan: give a number from 530 to 1700"},
+      {{"hets", "--frequency", ""}, "--frequency : give a number from 530 to 1700"},
+      {{"stations", "--scale", "49"}, "--scale 49: give a number from 50 to 10000"},
+      {map + QStringList{"--pattern-size", ".01"}, "--pattern-size .01: give a number from 0.02 to 2"},
+      {map + QStringList{"--aspect", "0"}, "--aspect 0: give a number above 0, at most 10"},
+      {map + QStringList{"--aspect", "-1"}, "--aspect -1: give a number above 0, at most 10"},
+      {map + QStringList{"--hours", "D"}, "--hours D: give all, day or night"},
+      {map + QStringList{"--size", "63x64"}, "--size 63x64: give WIDTHxHEIGHT in pixels, 64 to 16384 each"},
+      {map + QStringList{"--size", "64x16385"},
+       "--size 64x16385: give WIDTHxHEIGHT in pixels, 64 to 16384 each"},
+      {map + QStringList{"--size", "64"}, "--size 64: give WIDTHxHEIGHT in pixels, 64 to 16384 each"},
+      {{"map", "-o", "map.gif"}, "-o map.gif: give a file name that ends in .png, .svg or .pdf"},
+      {{"pattern", "--call", "QAAA", "--hours", "d"}, "--hours d: give D, N, C or U"},
+      {{"session", ""}, "file: give a name, it is empty"},
+      {{"hets", "--unknown"},
+       "The following argument was not expected: --unknown; kestrel-cli hets --help tells more"},
+      {{"map"}, "-o is required; kestrel-cli map --help tells more"},
+      {{"pattern"}, "--call is required; kestrel-cli pattern --help tells more"},
+      {{"distance"}, "--to is required; kestrel-cli distance --help tells more"},
+  };
+  for (const auto& row : rows) {
+    const Answer wanted{2, "", "kestrel-cli: " + row.message + '\n'};
+    EXPECT_EQ(folder.Run(row.arguments), wanted) << row.arguments.join(' ').toStdString();
+  }
+  EXPECT_EQ(folder.Read("x.png"), "");
+}
+
+TEST(UsageTest, PositionsOutsideTheEarthAreRefused) {
+  const Folder folder;
+  for (const QString position :
+       {"90.1,0", "-91,0", "0,180.5", "0,-181", "40", "40,", "40;75", "40,75,1", ""}) {
+    const Answer answer = folder.Run({"distance", "--to", position});
+    EXPECT_EQ(answer.Status, 2) << position.toStdString();
+    EXPECT_EQ(answer.Err.find("kestrel-cli: --to " + position.toStdString() + ": give LAT,LON"), 0U);
+  }
+}
+
+TEST(UsageTest, HelpIsAnAnswerAndNamesEveryCommand) {
+  const Folder folder;
+  const Answer answer = folder.Run({"--help"});
+  EXPECT_EQ(answer.Status, 0);
+  EXPECT_EQ(answer.Err, "");
+  for (const char* command : {"stations", "pattern", "hets", "distance", "map", "scan", "session"})
+    EXPECT_NE(answer.Out.find(command), std::string::npos) << command;
+}
+
+TEST(UsageTest, ADataFolderThatIsNotThereIsStatusOne) {
+  const Folder folder;
+  const Answer wanted{1, "",
+                      "kestrel-cli: nowhere: there is no such folder; name the folder that holds the station "
+                      "files with --data\n"};
+  EXPECT_EQ(RunIn(folder.Path(), {"--data", "nowhere", "stations"}), wanted);
+}
+
+TEST(UsageTest, TheCurrentFolderServesWhenItHoldsTheOutlines) {
+  const Folder folder;
+  folder.Write("region2.DAT", "-2000\n");
+  folder.Write("Stations.txt", "Stations of a test\r\nmore\r\n");
+  const Answer answer = RunIn(folder.Path(), {"session", "--json"});
+  EXPECT_NE(answer.Out.find("\"DataFolder\": \"" + folder.Path().toStdString() + "\",\n"), std::string::npos);
+  EXPECT_NE(answer.Out.find("\"Stations\": \"Stations of a test\"\n"), std::string::npos);
+}
+
+TEST(UsageTest, ElseTheUsersFolderIsFilledOnce) {
+  const Folder folder;
+  const Answer first = RunIn(folder.Path(), {"session", "--json"});
+  EXPECT_EQ(first.Status, 0) << first.Err;
+  EXPECT_EQ(first.Err, "");
+  EXPECT_NE(first.Out.find("\"DataFolder\": \"" + folder.Path().toStdString() + "/share/kestrel\""),
+            std::string::npos);
+  EXPECT_NE(folder.Read("share/kestrel/REGION2.dat"), "");
+  folder.Write("share/kestrel/620x.dat", "620,QOWN,Home,ST,Land,U,33,96,1,-,-,0\n");
+  const Answer second = RunIn(folder.Path(), {"pattern", "--call", "QOWN", "--json"});
+  EXPECT_NE(second.Out.find("QOWN"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace kestrel::cli

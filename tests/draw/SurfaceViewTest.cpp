@@ -1,0 +1,131 @@
+#include "draw/SurfaceView.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <random>
+
+#include "draw/Fonts.h"
+
+namespace kestrel {
+namespace {
+
+using Stroke = std::vector<QPointF>;
+
+SurfaceRules RulesFor(double width, double height) {
+  SurfaceRules rules;
+  rules.Fit = FitSheet(static_cast<float>(width), static_cast<float>(height));
+  rules.Area = QRectF(0, 0, width, height);
+  return rules;
+}
+
+std::vector<Stroke> StrokesOf(SurfaceView& view, const std::vector<Point>& points) {
+  std::vector<Stroke> runs;
+  view.ForEachRun(points, [&](std::span<const QPointF> run) { runs.emplace_back(run.begin(), run.end()); });
+  return runs;
+}
+
+double DistanceTo(QPointF a, QPointF b, QPointF point) {
+  const QPointF along = b - a;
+  const double length = QPointF::dotProduct(along, along);
+  const double share = length > 0 ? std::clamp(QPointF::dotProduct(point - a, along) / length, 0.0, 1.0) : 0;
+  const QPointF off = point - (a + share * along);
+  return std::hypot(off.x(), off.y());
+}
+
+double DistanceTo(const std::vector<Stroke>& runs, QPointF point) {
+  double least = 1e9;
+  for (const Stroke& run : runs)
+    for (std::size_t i = 1; i < run.size(); ++i)
+      least = std::min(least, DistanceTo(run[i - 1], run[i], point));
+  return least;
+}
+
+/// A walk whose steps are now short, now long, in and out of the surface.
+std::vector<Point> RandomWalk(std::mt19937& random) {
+  std::uniform_real_distribution<float> unit(-1, 1);
+  std::vector<Point> points = {{6000 + 7000 * unit(random), 4500 + 7000 * unit(random)}};
+  for (int i = 0; i < 60; ++i) {
+    const float reach = i % 20 < 12 ? 6 : i % 20 < 17 ? 300 : 12000;
+    Point next = points.back();
+    next.x = std::clamp(next.x + reach * unit(random), -CoordinateLimit, CoordinateLimit);
+    next.y = std::clamp(next.y + reach * unit(random), -CoordinateLimit, CoordinateLimit);
+    points.push_back(next);
+  }
+  return points;
+}
+
+TEST(SurfaceViewTest, CullingAndThinningLoseNothingThatShows) {
+  std::mt19937 random(20261121);
+  const SurfaceRules rules = RulesFor(640, 480);
+  SurfaceView view(rules);
+  int shown = 0;
+  for (int round = 0; round < 200; ++round) {
+    const std::vector<Point> points = RandomWalk(random);
+    const std::vector<Stroke> runs = StrokesOf(view, points);
+    Stroke plain;
+    for (const Point& point : points) plain.emplace_back(view.At(point).x, view.At(point).y);
+    for (std::size_t i = 1; i < plain.size(); ++i) {
+      for (double share = 0; share <= 1; share += 1.0 / 16) {
+        const QPointF point = plain[i - 1] + share * (plain[i] - plain[i - 1]);
+        if (!rules.Area.contains(point)) continue;
+        ++shown;
+        ASSERT_LE(DistanceTo(runs, point), rules.Thinning + 1e-6) << "round " << round << ", segment " << i;
+      }
+    }
+    for (const Stroke& run : runs)
+      for (const QPointF& point : run)
+        ASSERT_NE(std::find(plain.begin(), plain.end(), point), plain.end()) << "round " << round;
+  }
+  EXPECT_GT(shown, 10000);
+}
+
+TEST(SurfaceViewTest, ThinningShortensCrowdedLinesAndKeepsTheSmallestShape) {
+  SurfaceView view(RulesFor(1200, 950));  // ten twips to the pixel
+  std::vector<Point> crowded;
+  for (int i = 0; i <= 1000; ++i) crowded.push_back({1000 + static_cast<float>(i), 1000});
+  const std::vector<Stroke> runs = StrokesOf(view, crowded);
+  ASSERT_EQ(runs.size(), 1U);
+  EXPECT_LE(runs[0].size(), 202U);
+  EXPECT_EQ(runs[0].front(), QPointF(100, 100));
+  EXPECT_EQ(runs[0].back(), QPointF(200, 100));
+
+  EXPECT_EQ(StrokesOf(view, {{50, 50}, {51, 51}, {50, 51}, {50, 50}}).size(), 1U);
+  EXPECT_EQ(StrokesOf(view, {{-3000, 50}, {-2000, 9000}, {-50, -3000}, {20000, -100}}).size(), 0U);
+  EXPECT_EQ(StrokesOf(view, {{-1000, 4500}, {13000, 4500}}).size(), 1U);
+}
+
+TEST(SurfaceViewTest, APanelGrowsAsOnePieceFromItsAnchorUntilItsTextCanBeRead) {
+  const Font legend{FontFace::Sans, 10};
+  const Font label{FontFace::Sans, 8};
+  SurfaceView small(RulesFor(320, 253));
+  const Point anchor{200, 9400};
+  const Point corner{1900, 6800};
+  const Point before = small.At(corner);
+  small.BeginPanel(anchor, legend);
+  EXPECT_EQ(small.At(anchor), RulesFor(320, 253).Fit.ToSurface(anchor));
+  EXPECT_NEAR(small.FontSize(legend) * XHeightShare(FontFace::Sans), 7, 1e-3);
+  const double growth = small.Length(100) / (100 * RulesFor(320, 253).Fit.Scale);
+  EXPECT_GT(growth, 2);
+  EXPECT_NEAR(small.At(corner).x - small.At(anchor).x, growth * (before.x - small.At(anchor).x), 1e-3);
+  small.EndPanel();
+  EXPECT_EQ(small.At(corner), before);
+  EXPECT_NEAR(small.FontSize(label) * XHeightShare(FontFace::Sans), 7, 1e-3);
+
+  SurfaceView large(RulesFor(4800, 3800));
+  large.BeginPanel(anchor, legend);
+  EXPECT_NEAR(large.FontSize(legend), 80, 1e-3);  // 200 twips at 0.4 pixels
+}
+
+TEST(SurfaceViewTest, BoxesThatShareAnEdgeShareItOnTheSurface) {
+  SurfaceView view(RulesFor(777, 555));
+  const QRectF upper = view.Filled({200, 6800}, {1900, 8080});
+  const QRectF lower = view.Filled({200, 8080}, {4500, 8800});
+  EXPECT_EQ(upper.bottom(), lower.top());
+  EXPECT_EQ(upper.bottom(), std::round(upper.bottom()));
+  EXPECT_EQ(view.Outlined({1900, 8080}, {200, 6800}), upper.adjusted(.5, .5, -.5, -.5));
+}
+
+}  // namespace
+}  // namespace kestrel
