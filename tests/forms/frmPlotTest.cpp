@@ -22,10 +22,14 @@ class frmPlotTest : public ::testing::Test {
   void Open() {
     plot_ = std::make_unique<frmPlot>(workspace_);
     plot_->show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(plot_.get()));  // shortcuts work in the active window
   }
 
   QPushButton* Button(const char* name) { return plot_->findChild<QPushButton*>(name); }
+  void PressKey(Qt::Key key) {
+    plot_->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(plot_.get()));  // shortcuts work in the active window
+    QTest::keyClick(plot_.get(), key);
+  }
   void Press(const char* name) { QTest::mouseClick(Button(name), Qt::LeftButton); }
 
   /// Presses a command that opens a modal window, and in that window a button.
@@ -98,7 +102,7 @@ TEST_F(frmPlotTest, ThreePressesOfHoursReturnToAll) {
   EXPECT_EQ(Drawn(), (Names{"QDN620 D", "QU620 U"}));
   Press("cmdHours");
   EXPECT_EQ(Drawn(), (Names{"QDN620 N", "QU620 U"}));
-  QTest::keyClick(plot_.get(), Qt::Key_H);
+  PressKey(Qt::Key_H);
   EXPECT_EQ(Drawn(), all);
 }
 
@@ -127,10 +131,10 @@ TEST_F(frmPlotTest, AddPlotKeepsTheFirstChannelAndEraseDoesNot) {
   EXPECT_EQ(ChannelsDrawn(), (std::set<int>{620, 630}));
   Press("cmdIn");
   EXPECT_EQ(ChannelsDrawn(), (std::set<int>{620, 630})) << "adjacents stay through a zoom";
-  QTest::keyClick(plot_.get(), Qt::Key_PageUp);
+  PressKey(Qt::Key_PageUp);
   EXPECT_EQ(ChannelsDrawn(), (std::set<int>{630}));
   state_.CurrentFrequency = 1700;
-  QTest::keyClick(plot_.get(), Qt::Key_PageUp);
+  PressKey(Qt::Key_PageUp);
   EXPECT_EQ(platform_.Messages, QStringList("Frequency over 1700 reset to 1700"));
 }
 
