@@ -5,6 +5,7 @@
 #include "forms/CommandIcons.h"
 #include "forms/frmOpening.h"
 #include "forms/frmPlot.h"
+#include "import/DataSwap.h"
 
 int main(int argc, char** argv) {
   using namespace kestrel;
@@ -19,6 +20,8 @@ int main(int argc, char** argv) {
     platform.ShowMessage(nullptr, QString::fromStdString(folder.error().Message()));
     return 1;
   }
+  if (const Result<Done> recovered = RecoverImport(*folder); !recovered)
+    platform.ShowMessage(nullptr, QString::fromStdString(recovered.error().Message()));
   SessionState state;
   const Workspace workspace{state, *folder, platform};
 

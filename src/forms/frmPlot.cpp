@@ -22,6 +22,7 @@
 #include "forms/frmGetFrequency.h"
 #include "forms/frmGetHome.h"
 #include "forms/frmGetStationData.h"
+#include "forms/frmImport.h"
 #include "forms/frmOptions.h"
 #include "forms/frmShowHets.h"
 #include "forms/frmShowStations.h"
@@ -106,6 +107,8 @@ void frmPlot::AddCommands(CommandColumn& column) {
   column.AddCommand("cmdPrint", "&Print", "Prints the map", {QKeySequence::Print}, [this] {
     PrintMap(workspace_.System, workspace_.Folder, workspace_.State, surface_->Drawing(), this);
   });
+  column.AddCommand("cmdImport", "I&mport", "Makes the station files from the FCC's files", {Qt::Key_I},
+                    [this] { ImportStations(); });
   column.AddCommand("cmdAbout", "A&bout", "Version, licence, where the data come from", {Qt::Key_F1},
                     [this] { frmAbout(workspace_, this).exec(); });
   column.AddGap();
@@ -192,6 +195,16 @@ void frmPlot::ChooseOptions() {
   form.OpenAspect = [this] { AdjustAspect(); };
   form.exec();
   if (DrawnSettings(workspace_.State) != before) Redraw();
+}
+
+void frmPlot::ImportStations() {
+  frmImport form(workspace_, this);
+  form.exec();
+  if (!form.DataChanged()) return;
+  // The lists are those of the opening screen; a list that cannot be read leaves the map as it is.
+  if (!LoadPlaceLists(workspace_.Folder, workspace_.State))
+    workspace_.System.ShowMessage(this, "We have had a data-file reading error");
+  Redraw();
 }
 
 void frmPlot::AdjustAspect() {

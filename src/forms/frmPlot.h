@@ -39,6 +39,7 @@ class frmPlot final : public QWidget {
   void LookUp(const QString& callSign);
   void ChooseHome();
   void ChooseOptions();
+  void ImportStations();
   void AdjustAspect();
   void NextHoursFilter();
   void ToggleCompass();

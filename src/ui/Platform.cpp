@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QDesktopServices>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QProcess>
 #include <QThread>
@@ -14,6 +15,10 @@
 #include "ui/SystemInformation.h"
 
 namespace kestrel {
+
+QStringList Platform::ChooseFiles(QWidget*, const QString&) {
+  return {};
+}
 
 std::optional<PrintOrder> Platform::OfferPrinting(QWidget*, const PrintOffer&) {
   return std::nullopt;
@@ -34,6 +39,10 @@ std::optional<ColorValue> DesktopPlatform::ChooseColor(QWidget* parent, const QS
   const QColor color = QColorDialog::getColor(PlatformColor(current), parent, title);
   if (!color.isValid()) return std::nullopt;
   return color.red() | color.green() << 8 | color.blue() << 16;
+}
+
+QStringList DesktopPlatform::ChooseFiles(QWidget* parent, const QString& title) {
+  return QFileDialog::getOpenFileNames(parent, title);
 }
 
 void DesktopPlatform::OpenAddress(const QString& address) {
