@@ -15,6 +15,7 @@
 #include <QTableView>
 #include <QUrl>
 
+#include "data/FileIo.h"
 #include "import/DataSwap.h"
 #include "ui/Controls.h"
 #include "ui/RowsModel.h"
@@ -22,7 +23,8 @@
 namespace kestrel {
 namespace {
 
-constexpr std::size_t kShownChanges = 0;  // all of them: the list beside the report shows them one by one
+constexpr std::size_t kShownChanges =
+    20;  // of a kind; the list beside the report and a saved report have all
 
 QString Text(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
@@ -77,7 +79,7 @@ QWidget* frmImport::MakeChoices() {
       "lblFiles",
       "&Files of the FCC, zipped or not; the last one counts most. Drop them here or add them:", lstFiles_);
   grid->addWidget(label, 0, 0);
-  grid->addWidget(lstFiles_, 1, 0, 7, 1);
+  grid->addWidget(lstFiles_, 1, 0, 8, 1);
 
   int row = 1;
   const auto addButton = [&](const char* name, const QString& caption, const QString& tip, auto action) {
@@ -100,6 +102,8 @@ QWidget* frmImport::MakeChoices() {
   addButton("cmdUndo", "&Undo import",
             "Brings back the stations that the last import replaced; once more, the import",
             [this] { Undo(); });
+  addButton("cmdSave", "Sa&ve report...", "Writes the whole report and every change to a file",
+            [this] { SaveReport(); });
   addButton("cmdExit", "C&lose", "Back to the map", [this] { reject(); });
 
   auto* options = new QHBoxLayout;
@@ -110,7 +114,7 @@ QWidget* frmImport::MakeChoices() {
       MakeCheckBox("chkDryRun", "&Only show what would change", "Reads and compares, and writes nothing");
   for (QCheckBox* box : {chkSilent_, chkPermits_, chkDryRun_}) options->addWidget(box);
   options->addStretch();
-  grid->addLayout(options, 8, 0, 1, 2);
+  grid->addLayout(options, 9, 0, 1, 2);
   return choices;
 }
 
@@ -161,9 +165,10 @@ void frmImport::Import() {
 }
 
 void frmImport::ShowOutcome(const ImportOutcome& outcome) {
-  QString text = Text(OutcomeText(outcome, kShownChanges));
-  if (outcome.failure) text.prepend("Nothing was written: " + Text(outcome.failure->Message()) + "\n\n");
-  txtReport_->setPlainText(text);
+  const std::string heading =
+      outcome.failure ? "Nothing was written: " + outcome.failure->Message() + "\n\n" : std::string();
+  txtReport_->setPlainText(Text(heading + OutcomeText(outcome, kShownChanges)));
+  wholeReport_ = heading + OutcomeText(outcome, 0);
   ShowChanges(outcome.changes);
   results_->setCurrentWidget(txtReport_);
 }
@@ -183,11 +188,21 @@ void frmImport::ShowChanges(std::vector<Change> changes) {
   results_->setTabText(1, "Changes (" + QString::number(changes_.size()) + ')');
 }
 
+void frmImport::SaveReport() {
+  const QString path =
+      workspace_.System.ChooseFileToWrite(this, "Save the report", "kestrel-import-report.txt");
+  if (path.isEmpty()) return;
+  if (const Result<Done> written = WriteFile(path, wholeReport_); !written)
+    workspace_.System.ShowMessage(this, Text(written.error().Message()));
+}
+
 void frmImport::Undo() {
   if (const Result<Done> undone = UndoImport(workspace_.Folder); !undone)
     return workspace_.System.ShowMessage(this, Text(undone.error().Message()));
   dataChanged_ = true;
   ShowChanges({});
+  wholeReport_.clear();
+  UpdateCommands();
   txtReport_->setPlainText("The stations of before are back: " + Text(workspace_.Folder.StationsLine()));
 }
 
@@ -209,6 +224,7 @@ void frmImport::UpdateCommands() {
   enable("cmdImport", !running_ && lstFiles_->count() > 0);
   enable("cmdCancel", running_);
   enable("cmdUndo", !running_);
+  enable("cmdSave", !running_ && !wholeReport_.empty());
   enable("cmdExit", !running_);
 }
 

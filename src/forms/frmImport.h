@@ -38,6 +38,7 @@ class frmImport final : public QDialog {
   QWidget* MakeChoices();
   QWidget* MakeResults();
   void Import();
+  void SaveReport();
   void Undo();
   void ShowOutcome(const ImportOutcome& outcome);
   void ShowChanges(std::vector<Change> changes);
@@ -54,6 +55,7 @@ class frmImport final : public QDialog {
   QPlainTextEdit* txtReport_;
   QTableView* lstChanges_;
   std::vector<Change> changes_;
+  std::string wholeReport_;
   bool running_ = false;
   bool cancelled_ = false;
   bool dataChanged_ = false;

@@ -20,6 +20,10 @@ QStringList Platform::ChooseFiles(QWidget*, const QString&) {
   return {};
 }
 
+QString Platform::ChooseFileToWrite(QWidget*, const QString&, const QString&) {
+  return {};
+}
+
 std::optional<PrintOrder> Platform::OfferPrinting(QWidget*, const PrintOffer&) {
   return std::nullopt;
 }
@@ -43,6 +47,10 @@ std::optional<ColorValue> DesktopPlatform::ChooseColor(QWidget* parent, const QS
 
 QStringList DesktopPlatform::ChooseFiles(QWidget* parent, const QString& title) {
   return QFileDialog::getOpenFileNames(parent, title);
+}
+
+QString DesktopPlatform::ChooseFileToWrite(QWidget* parent, const QString& title, const QString& offered) {
+  return QFileDialog::getSaveFileName(parent, title, offered);
 }
 
 void DesktopPlatform::OpenAddress(const QString& address) {

@@ -28,6 +28,10 @@ class Platform {
   /// The platform's dialog for choosing files; none when it is cancelled, and on a platform that has none.
   virtual QStringList ChooseFiles(QWidget* parent, const QString& title);
 
+  /// The platform's dialog for the name of a file to write; empty when it is cancelled, and on a platform
+  /// that has none.
+  virtual QString ChooseFileToWrite(QWidget* parent, const QString& title, const QString& offered);
+
   /// Lets the platform open a web address; failures are silent.
   virtual void OpenAddress(const QString& address) = 0;
 
@@ -52,6 +56,7 @@ class DesktopPlatform final : public Platform {
   void Beep() override;
   std::optional<ColorValue> ChooseColor(QWidget* parent, const QString& title, ColorValue current) override;
   QStringList ChooseFiles(QWidget* parent, const QString& title) override;
+  QString ChooseFileToWrite(QWidget* parent, const QString& title, const QString& offered) override;
   void OpenAddress(const QString& address) override;
   bool StartSystemInformation() override;
   void Pause(double seconds) override;
