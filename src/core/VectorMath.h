@@ -47,14 +47,16 @@ static inline SineCosine OfQuadrant(double r, double shifted) {
                (0.04166666666666468 + z * (-0.0013888888887276698 +
                                            z * (2.480158521036455e-05 +
                                                 z * (-2.755636950618061e-07 + z * 2.0700582941271302e-09)))));
-  // In odd quadrants the two change places; bit 1 of the quadrant, or of the next one, is the sign.
+  // In odd quadrants the two change places. Bit 1 of the quadrant is the sign of the sine; that of the cosine
+  // differs from it in odd ones.
   const auto n = std::bit_cast<std::uint64_t>(shifted);
   const std::uint64_t odd = 0 - (n & 1);
+  const std::uint64_t minus = (n & 2) << 62;
   const auto sine = std::bit_cast<std::uint64_t>(s);
   const auto cosine = std::bit_cast<std::uint64_t>(c);
   const std::uint64_t exchange = (sine ^ cosine) & odd;
-  return {std::bit_cast<double>(sine ^ exchange ^ (n & 2) << 62),
-          std::bit_cast<double>(cosine ^ exchange ^ ((n + 1) & 2) << 62)};
+  return {std::bit_cast<double>(sine ^ exchange ^ minus),
+          std::bit_cast<double>(cosine ^ exchange ^ minus ^ n << 63)};
 }
 
 /// Of an angle in radians, |angle| below 1e6: pi / 2 is taken off in two parts, the first (33 bits) short
@@ -70,6 +72,33 @@ static inline SineCosine OfRadians(double angle) {
 static inline SineCosine OfDegrees(double angle) {
   const double shifted = angle * (1.0 / 90) + RoundingShift;
   return OfQuadrant((angle - (shifted - RoundingShift) * 90) * 0.017453292519943295, shifted);
+}
+
+/// Arc tangent of y / x in the upper half plane, 0 to pi. REQUIRES: y >= 0 and not both 0.
+///
+/// Both reductions, to the first octant and by tan(pi / 8) to half of it, are made before the one division;
+/// then a Chebyshev fit of (atan t / t - 1) / t^2 in t^2, good to 8.7e-16.
+static inline double ArcTangent(double y, double x) {
+  constexpr double kPi = 3.14159265358979324;
+  const double along = x < 0 ? -x : x;
+  const double low = y < along ? y : along;
+  const double high = y < along ? along : y;
+  const bool upper = low > 0.41421356237309503 * high;
+  const double t = (upper ? low - high : low) / (upper ? low + high : high);
+  const double z = t * t;
+  const double p =
+      -0.3333333333333325 +
+      z * (0.19999999999898324 +
+           z * (-0.1428571426608229 +
+                z * (0.11111109635603796 +
+                     z * (-0.09090852527088297 +
+                          z * (0.07691054614825647 +
+                               z * (-0.06649607953399717 +
+                                    z * (0.057362969593526145 +
+                                         z * (-0.04483218628995374 + z * 0.022748939747779046))))))));
+  const double octant = t + t * z * p + (upper ? kPi / 4 : 0);
+  const double quadrant = y < along ? octant : kPi / 2 - octant;
+  return x < 0 ? kPi - quadrant : quadrant;
 }
 
 }  // namespace kestrel::KESTREL_KERNELS

@@ -90,10 +90,14 @@ bool ComputePattern(StationRecord& record, PatternValues& values) {
   PatternValues swept;
   swept.fill(-1);
   if (CanSweep(towers.All.data(), towers.Count)) {
-    if (towers.Count == 1)
-      swept.fill(record.Fields[1]);  // whatever psi, and the roundings cancel: F is a single
-    else
-      SweepPattern(towers.All.data(), towers.Count, swept.data());
+    if (towers.Count == 1) {
+      values.fill(record.Fields[1]);  // whatever psi is: the roundings cancel, for F is a single
+      return true;
+    }
+    if (SweepPattern(towers.All.data(), towers.Count, swept.data())) {
+      values = swept;
+      return true;
+    }
   }
   for (std::size_t azimuth = 0; azimuth < values.size(); ++azimuth) {
     const float magnitude = swept[azimuth] >= 0 ? swept[azimuth] : StraightMagnitude(towers, azimuth);

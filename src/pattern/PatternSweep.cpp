@@ -48,13 +48,17 @@ KESTREL_CLONES void AddTower(const SweepTower& tower, double sine, double cosine
   }
 }
 
-KESTREL_CLONES void StoreMagnitudes(const Sums& sums, double bound, float* magnitudes) {
+KESTREL_CLONES bool StoreMagnitudes(const Sums& sums, double bound, float* magnitudes) {
+  int doubtful = 0;
   for (int a = 0; a < PatternAzimuths; ++a) {
     const double magnitude = std::sqrt(sums.Cosine[a] * sums.Cosine[a] + sums.Sine[a] * sums.Sine[a]);
     const auto low = static_cast<float>(magnitude - bound);
     const auto high = static_cast<float>(magnitude + bound);
-    magnitudes[a] = high - low + sums.Doubt[a] == 0 ? low : -1;
+    const bool certain = high - low + sums.Doubt[a] == 0;
+    magnitudes[a] = certain ? low : -1;
+    doubtful += certain ? 0 : 1;
   }
+  return doubtful == 0;
 }
 
 }  // namespace
@@ -67,7 +71,7 @@ bool CanSweep(const SweepTower* towers, int count) {
   return can;
 }
 
-void SweepPattern(const SweepTower* towers, int count, float* magnitudes) {
+bool SweepPattern(const SweepTower* towers, int count, float* magnitudes) {
   static const Azimuths azimuths;
   Sums sums = {};
   double fields = 0;
@@ -75,7 +79,7 @@ void SweepPattern(const SweepTower* towers, int count, float* magnitudes) {
     AddTower(towers[i], std::sin(towers[i].Bearing), std::cos(towers[i].Bearing), azimuths, sums);
     fields += std::abs(towers[i].Field);
   }
-  StoreMagnitudes(sums, 5e-14 * fields, magnitudes);
+  return StoreMagnitudes(sums, 5e-14 * fields, magnitudes);
 }
 
 }  // namespace kestrel::KESTREL_KERNELS
