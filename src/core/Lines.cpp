@@ -23,6 +23,7 @@ bool IsPlainAscii(std::string_view line) {
 
 LineReader::LineReader(std::string_view bytes) : bytes_(bytes) {
   if (bytes_.starts_with("\xEF\xBB\xBF")) bytes_.remove_prefix(3);
+  plain_ = IsPlainAscii(bytes_);
   nextLineFeed_ = Find(bytes_, '\n', 0);
   nextCarriageReturn_ = Find(bytes_, '\r', 0);
 }
@@ -42,7 +43,7 @@ std::optional<std::string_view> LineReader::NextBytes() {
 
 std::optional<std::string_view> LineReader::Next() {
   const std::optional<std::string_view> line = NextBytes();
-  if (!line || IsPlainAscii(*line)) return line;
+  if (plain_ || !line || IsPlainAscii(*line)) return line;
   mended_ = IsUtf8(*line) ? std::string(*line) : FromLatin1(*line);
   std::replace(mended_.begin(), mended_.end(), '\0', ' ');
   return mended_;
