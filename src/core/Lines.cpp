@@ -14,9 +14,12 @@ std::size_t Find(std::string_view bytes, char wanted, std::size_t from) {
   return found ? static_cast<std::size_t>(static_cast<const char*>(found) - bytes.data()) : bytes.size();
 }
 
-bool IsPlainAscii(std::string_view line) {
-  return std::all_of(line.begin(), line.end(),
-                     [](char c) { return c != 0 && static_cast<unsigned char>(c) < 0x80; });
+bool IsPlainAscii(std::string_view bytes) {
+  // Bit 7 of c or of c - 1 is set for what is not ASCII and for 0. Without an early end, so that many bytes are
+  // looked at together.
+  unsigned char bits = 0;
+  for (const char c : bytes) bits |= static_cast<unsigned char>(c | (c - 1));
+  return bits < 0x80;
 }
 
 }  // namespace

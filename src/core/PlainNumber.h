@@ -33,8 +33,8 @@ inline const char* ReadPlainNumber(const char* at, const char* end, double& valu
     count += decimals;
   }
   if (count == 0 || count > kMostDigits) return nullptr;
-  const double magnitude = static_cast<double>(static_cast<std::int64_t>(digits)) /
-                           PowersOfTen[static_cast<std::size_t>(decimals)];
+  auto magnitude = static_cast<double>(static_cast<std::int64_t>(digits));
+  if (decimals > 0) magnitude /= PowersOfTen[static_cast<std::size_t>(decimals)];
   value = negative ? -magnitude : magnitude;
   return at;
 }
