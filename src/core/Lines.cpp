@@ -14,15 +14,19 @@ std::size_t Find(std::string_view bytes, char wanted, std::size_t from) {
   return found ? static_cast<std::size_t>(static_cast<const char*>(found) - bytes.data()) : bytes.size();
 }
 
-bool IsPlainAscii(std::string_view line) {
-  return std::all_of(line.begin(), line.end(),
-                     [](char c) { return c != 0 && static_cast<unsigned char>(c) < 0x80; });
+bool IsPlainAscii(std::string_view bytes) {
+  // Bit 7 of c or of c - 1 is set for what is not ASCII and for 0. Without an early end, so that many bytes are
+  // looked at together.
+  unsigned char bits = 0;
+  for (const char c : bytes) bits |= static_cast<unsigned char>(c | (c - 1));
+  return bits < 0x80;
 }
 
 }  // namespace
 
 LineReader::LineReader(std::string_view bytes) : bytes_(bytes) {
   if (bytes_.starts_with("\xEF\xBB\xBF")) bytes_.remove_prefix(3);
+  plain_ = IsPlainAscii(bytes_);
   nextLineFeed_ = Find(bytes_, '\n', 0);
   nextCarriageReturn_ = Find(bytes_, '\r', 0);
 }
@@ -42,7 +46,7 @@ std::optional<std::string_view> LineReader::NextBytes() {
 
 std::optional<std::string_view> LineReader::Next() {
   const std::optional<std::string_view> line = NextBytes();
-  if (!line || IsPlainAscii(*line)) return line;
+  if (plain_ || !line || IsPlainAscii(*line)) return line;
   mended_ = IsUtf8(*line) ? std::string(*line) : FromLatin1(*line);
   std::replace(mended_.begin(), mended_.end(), '\0', ' ');
   return mended_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -23,6 +24,15 @@ class LineReader {
   /// The next line as it stands, for readers that look at ASCII only.
   std::optional<std::string_view> NextBytes();
 
+  /// What has not been read, for readers that know a line's end before it is looked for.
+  std::string_view Rest() const { return bytes_.substr(std::min(position_, bytes_.size())); }
+
+  /// Passes over the line of `length` bytes at the front of Rest(), its end included.
+  void SkipLine(std::size_t length) {
+    position_ += length;
+    ++lineNumber_;
+  }
+
   bool AtEnd() const { return position_ >= bytes_.size(); }
 
   /// Number of the line read last, counted from 1; 0 before the first.
@@ -30,6 +40,7 @@ class LineReader {
 
  private:
   std::string_view bytes_;
+  bool plain_ = false;  // no byte needs mending
   std::size_t position_ = 0;
   std::size_t nextLineFeed_ = 0;        // at or behind position_, bytes_.size() when there is no more
   std::size_t nextCarriageReturn_ = 0;  // likewise

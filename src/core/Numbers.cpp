@@ -6,6 +6,7 @@
 #include <cmath>
 #include <limits>
 
+#include "core/PlainNumber.h"
 #include "core/Text.h"
 
 namespace kestrel {
@@ -67,18 +68,14 @@ Decimal ReadDecimal(std::string_view text) {
   return decimal;
 }
 
-constexpr std::array<double, 23> kPowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                                 1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
-                                                 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
-
 /// Correctly rounded; limited to the largest single.
 double Magnitude(const Decimal& decimal) {
   if (decimal.digits == 0) return 0;
   // Up to 15 digits and a power of ten up to 22 are both exact in a double, so one operation rounds once.
   if (decimal.significant <= 15 && decimal.exponent >= -22 && decimal.exponent <= 22) {
     const auto digits = static_cast<double>(decimal.digits);
-    return decimal.exponent < 0 ? digits / kPowersOfTen[static_cast<std::size_t>(-decimal.exponent)]
-                                : digits * kPowersOfTen[static_cast<std::size_t>(decimal.exponent)];
+    return decimal.exponent < 0 ? digits / PowersOfTen[static_cast<std::size_t>(-decimal.exponent)]
+                                : digits * PowersOfTen[static_cast<std::size_t>(decimal.exponent)];
   }
   double value = 0;
   const auto [end, error] =
@@ -117,13 +114,20 @@ double SuffixMultiplier(char c) {
 
 /// Halves away from zero, then read back as a single: trailing zeros vanish.
 std::string RoundedText(double value, int decimals) {
-  const double scale = kPowersOfTen[static_cast<std::size_t>(decimals)];
+  const double scale = PowersOfTen[static_cast<std::size_t>(decimals)];
   return NumberText(static_cast<float>(std::round(value * scale) / scale));
 }
 
 }  // namespace
 
 double LeadingNumber(std::string_view text) {
+  const char* begin = text.data();
+  const char* const end = begin + text.size();
+  while (begin != end && *begin == ' ') ++begin;
+  double plain = 0;
+  const char* const behind = ReadPlainNumber(begin, end, plain);
+  if (behind && (behind == end || (*behind != 'E' && *behind != 'e'))) return plain;
+
   const Decimal decimal = ReadDecimal(text);
   const double magnitude = std::min<double>(Magnitude(decimal), std::numeric_limits<float>::max());
   return decimal.negative ? -magnitude : magnitude;

@@ -41,9 +41,9 @@ std::size_t Advance(std::string_view text, std::size_t from, std::size_t count) 
 }  // namespace
 
 std::string_view Trim(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
+  while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
+  return text;
 }
 
 bool IsUtf8(std::string_view bytes) {

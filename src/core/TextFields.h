@@ -11,13 +11,36 @@
 
 namespace kestrel {
 
-/// Cuts the next comma-separated field off `line`. Nothing, and an empty line, when only commas are left.
-std::optional<std::string_view> NextField(std::string_view& line);
+/// Cuts the next field off `line`. Nothing, and an empty line, when only separators are left. Fields are a few
+/// characters long, so looking at one after the other is quicker than searching.
+inline std::optional<std::string_view> CutField(std::string_view& line, char separator) {
+  const char* at = line.data();
+  const char* const end = at + line.size();
+  const auto skipSeparators = [&] {
+    while (at != end && *at == separator) ++at;
+  };
+  skipSeparators();
+  const char* const begin = at;
+  while (at != end && *at != separator) ++at;
+  const std::string_view field(begin, static_cast<std::size_t>(at - begin));
+  skipSeparators();
+  line = at == end ? std::string_view{} : std::string_view(at, static_cast<std::size_t>(end - at));
+  return field.empty() ? std::nullopt : std::optional(field);
+}
 
-/// Cuts the next blank-separated field off `line`, in the same way. Used by the states map.
-std::optional<std::string_view> NextWord(std::string_view& line);
+/// Cuts the next comma-separated field off `line`.
+inline std::optional<std::string_view> NextField(std::string_view& line) {
+  return CutField(line, ',');
+}
 
-/// Cuts the next blank-separated field off `line`, in the same way. Used by the outline files.
-std::optional<std::string_view> NextBlankField(std::string_view& line);
+/// Cuts the next blank-separated field off `line`. Used by the states map.
+inline std::optional<std::string_view> NextWord(std::string_view& line) {
+  return CutField(line, ' ');
+}
+
+/// Cuts the next blank-separated field off `line`. Used by the outline files.
+inline std::optional<std::string_view> NextBlankField(std::string_view& line) {
+  return CutField(line, ' ');
+}
 
 }  // namespace kestrel

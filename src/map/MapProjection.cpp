@@ -14,21 +14,27 @@ constexpr double kKilometresPerScale = 75;
 
 }  // namespace
 
-MapProjection::MapProjection(float homeLatitude, float homeLongitude, float scaleFactor)
-    : sinLatitude_(std::sin(homeLatitude * kRadian)),
-      cosLatitude_(std::cos(homeLatitude * kRadian)),
-      longitudeEast_(-double{homeLongitude}),
-      twipsPerRadian_(KilometresPerDegree / kRadian * scaleFactor / kKilometresPerScale) {}
+MapProjection::MapProjection(float homeLatitude, float homeLongitude, float scaleFactor) {
+  const auto [sine, cosine] = VertexAngle(homeLatitude);
+  center_ = {sine, cosine, -double{homeLongitude},
+             KilometresPerDegree / kRadian * scaleFactor / kKilometresPerScale};
+  onEarth_ = std::abs(homeLatitude) <= 90 && std::abs(homeLongitude) <= 360;
+  if (onEarth_) return;
+  center_.SinLatitude = std::sin(homeLatitude * kRadian);
+  center_.CosLatitude = std::cos(homeLatitude * kRadian);
+}
 
-Point MapProjection::Place(double latitude, double longitudeEast) const {
+Point MapProjection::StraightPlace(double latitude, double longitudeEast) const {
+  const double sinHome = center_.SinLatitude;
+  const double cosHome = center_.CosLatitude;
   const double phi = latitude * kRadian;
-  const double lambda = (longitudeEast - longitudeEast_) * kRadian;
+  const double lambda = (longitudeEast - center_.LongitudeEast) * kRadian;
   // The place as a unit vector along east, north and up at home.
   const double east = std::cos(phi) * std::sin(lambda);
-  const double north = std::sin(phi) * cosLatitude_ - std::cos(phi) * sinLatitude_ * std::cos(lambda);
-  const double up = std::sin(phi) * sinLatitude_ + std::cos(phi) * cosLatitude_ * std::cos(lambda);
+  const double north = std::sin(phi) * cosHome - std::cos(phi) * sinHome * std::cos(lambda);
+  const double up = std::sin(phi) * sinHome + std::cos(phi) * cosHome * std::cos(lambda);
   const double level = std::sqrt(east * east + north * north);
-  const double radius = std::atan2(level, up) * twipsPerRadian_;
+  const double radius = std::atan2(level, up) * center_.TwipsPerRadian;
   // Straight below or above there is no course; the place itself is home's.
   const double eastShare = level > 0 ? east / level : 1;
   const double northShare = level > 0 ? north / level : 0;
@@ -37,22 +43,25 @@ Point MapProjection::Place(double latitude, double longitudeEast) const {
 }
 
 std::optional<Point> MapProjection::Station(float latitude, float longitude) const {
-  const Point place = Place(latitude, -double{longitude});
+  const float longitudeEast = -longitude;
+  Point place;
+  Vertices({&latitude, 1}, {&longitudeEast, 1}, {&place, 1});
   if (!std::isfinite(place.x) || !std::isfinite(place.y)) return std::nullopt;
   return Clamped(place);
 }
 
 void MapProjection::Vertices(std::span<const float> latitudes, std::span<const float> longitudes,
                              std::span<Point> points) const {
+  static_assert(sizeof(Point) == 2 * sizeof(float));
+  if (points.empty()) return;
+  if (onEarth_) PlaceVertices(center_, latitudes.data(), longitudes.data(), &points[0].x, points.size());
   for (std::size_t i = 0; i < points.size(); ++i)
-    points[i] = Place(latitudes[i], BringIntoRange(longitudes[i]));
+    if (!onEarth_ || std::isnan(points[i].x))
+      points[i] = StraightPlace(latitudes[i], BringIntoRange(longitudes[i]));
 }
 
 float BringIntoRange(float longitudeEast) {
-  if (longitudeEast > 180) longitudeEast -= 360;
-  if (longitudeEast > 180) longitudeEast -= 360;
-  if (longitudeEast < -180) longitudeEast += 360;
-  return longitudeEast;
+  return LongitudeInRange(longitudeEast);
 }
 
 }  // namespace kestrel

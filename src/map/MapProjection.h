@@ -4,6 +4,7 @@
 #include <span>
 
 #include "map/Sheet.h"
+#include "map/VertexPlaces.h"
 
 namespace kestrel {
 
@@ -29,11 +30,10 @@ class MapProjection {
                 std::span<Point> points) const;
 
  private:
-  Point Place(double latitude, double longitudeEast) const;
+  Point StraightPlace(double latitude, double longitudeEast) const;
 
-  double sinLatitude_, cosLatitude_;  // of home
-  double longitudeEast_;              // of home, degrees
-  double twipsPerRadian_;             // of arc
+  ProjectionCenter center_;
+  bool onEarth_ = false;  // whether home is a place that PlaceVertices knows
 };
 
 /// An outline file's longitude in -180 to 180: above 180, 360 is taken off, at most twice; then below -180,

@@ -5,6 +5,7 @@
 #include <span>
 
 #include "core/Geodesy.h"
+#include "pattern/PatternSweep.h"
 
 namespace kestrel {
 namespace {
@@ -52,23 +53,54 @@ void ResolvePositions(StationRecord& record) {
   }
 }
 
+/// The towers in radians; every angle is converted with the one stored constant.
+struct Towers {
+  std::array<SweepTower, MaxTowers> All;
+  int Count = 0;
+};
+
+Towers InRadians(const StationRecord& record) {
+  const double perRadian = DegreesPerRadian;
+  Towers towers;
+  for (std::size_t i = 1; i <= static_cast<std::size_t>(record.TowerCount); ++i)
+    towers.All[static_cast<std::size_t>(towers.Count++)] = {record.Fields[i], record.Spacings[i] / perRadian,
+                                                            record.Bearings[i] / perRadian,
+                                                            record.Phases[i] / perRadian};
+  return towers;
+}
+
+float StraightMagnitude(const Towers& towers, std::size_t azimuth) {
+  const double bearing = static_cast<double>(azimuth) / DegreesPerRadian;
+  double sines = 0;
+  double cosines = 0;
+  for (const SweepTower& tower : std::span(towers.All).first(static_cast<std::size_t>(towers.Count))) {
+    const double psi = static_cast<float>(tower.Spacing * std::cos(tower.Bearing - bearing) + tower.Phase);
+    sines += tower.Field * std::sin(psi);
+    cosines += tower.Field * std::cos(psi);
+  }
+  return static_cast<float>(std::sqrt(cosines * cosines + sines * sines));
+}
+
 }  // namespace
 
 bool ComputePattern(StationRecord& record, PatternValues& values) {
   if (!ScaleFields(record)) return false;
   ResolvePositions(record);
-  const double perRadian = DegreesPerRadian;
-  for (std::size_t azimuth = 0; azimuth < values.size(); ++azimuth) {
-    double sines = 0;
-    double cosines = 0;
-    for (std::size_t i = 1; i <= static_cast<std::size_t>(record.TowerCount); ++i) {
-      const double turn = record.Bearings[i] / perRadian - static_cast<double>(azimuth) / perRadian;
-      const double psi =
-          static_cast<float>(record.Spacings[i] / perRadian * std::cos(turn) + record.Phases[i] / perRadian);
-      sines += record.Fields[i] * std::sin(psi);
-      cosines += record.Fields[i] * std::cos(psi);
+  const Towers towers = InRadians(record);
+  PatternValues swept;
+  swept.fill(-1);
+  if (CanSweep(towers.All.data(), towers.Count)) {
+    if (towers.Count == 1) {
+      values.fill(record.Fields[1]);  // whatever psi is: the roundings cancel, for F is a single
+      return true;
     }
-    const auto magnitude = static_cast<float>(std::sqrt(cosines * cosines + sines * sines));
+    if (SweepPattern(towers.All.data(), towers.Count, swept.data())) {
+      values = swept;
+      return true;
+    }
+  }
+  for (std::size_t azimuth = 0; azimuth < values.size(); ++azimuth) {
+    const float magnitude = swept[azimuth] >= 0 ? swept[azimuth] : StraightMagnitude(towers, azimuth);
     if (!std::isfinite(magnitude)) return false;
     values[azimuth] = magnitude;
   }

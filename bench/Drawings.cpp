@@ -1,0 +1,77 @@
+#include <QImage>
+
+#include "Rows.h"
+#include "Table.h"
+#include "draw/Fonts.h"
+#include "draw/Picture.h"
+#include "map/BandScan.h"
+#include "map/MainMap.h"
+#include "map/Outlines.h"
+#include "straight/Drawing.h"
+
+namespace kestrel::bench {
+namespace {
+
+constexpr QSize kSize(1600, 1200);
+
+SessionState Session(float channel, bool adjacents) {
+  SessionState state;
+  state.CurrentFrequency = state.SelectedFrequency = channel;
+  state.AdjacentsShown = adjacents ? 1 : 0;
+  return state;
+}
+
+/// What a map surface keeps between drawings: the list's memory and the image.
+struct Surface {
+  PlatformTextMeasure Measure;
+  DisplayList List{Measure};
+  QImage Image{kSize, QImage::Format_RGB32};
+
+  void Show() {
+    Image = RenderImage(List, kSize);
+    Keep(Image.constBits());
+  }
+};
+
+Surface& TheSurface() {
+  static Surface surface;
+  return surface;
+}
+
+void Redraw(const Band& band, const SessionState& state) {
+  Surface& surface = TheSurface();
+  surface.List.Clear();
+  DrawMainMap(surface.List, DataFolder(QString::fromStdString(band.Folder)), state);
+  surface.Show();
+}
+
+void Scan(const Band& band, const SessionState& state) {
+  Surface& surface = TheSurface();
+  surface.List.Clear();
+  const DataFolder folder(QString::fromStdString(band.Folder));
+  const MapProjection projection(state.HomeLatitude, state.HomeLongitude, state.ScaleFactor);
+  DrawOutlineFiles(surface.List, folder, projection);
+  for (const float channel : Channels())
+    static_cast<void>(DrawScannedChannel(surface.List, folder, projection, channel));
+  surface.Show();
+}
+
+void AddRedrawRow(const std::string& work, const Band& band, const SessionState& state, const Asked& asked) {
+  AddRow(
+      "whole redraw, " + work + " at " + std::to_string(static_cast<int>(state.CurrentFrequency)) + " kHz, " +
+          band.Name,
+      "straight code", asked, [=] { Redraw(band, state); },
+      [=] { straight::DrawMainMap(TheSurface().Image, band.Folder, state); });
+}
+
+}  // namespace
+
+void AddDrawingRows(const Band& band) {
+  AddRedrawRow("400 records", band, Session(ChannelOf(band, 400, false), false), {15, 16.7});
+  AddRedrawRow("with both adjacents", band, Session(ChannelOf(band, 1000, true), true), {8, 33});
+  AddRow(
+      "whole-band scan, " + band.Name, "straight code", {8, 45}, [=] { Scan(band, Session(1230, false)); },
+      [=] { straight::DrawScan(TheSurface().Image, band.Folder, Session(1230, false)); });
+}
+
+}  // namespace kestrel::bench

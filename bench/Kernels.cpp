@@ -1,0 +1,103 @@
+#include <proj.h>
+
+#include <random>
+
+#include "Rows.h"
+#include "Table.h"
+#include "core/Geodesy.h"
+#include "straight/Formulas.h"
+#include "straight/Reading.h"
+
+namespace kestrel::bench {
+namespace {
+
+constexpr float kHomeLatitude = 33.24278F;
+constexpr float kHomeLongitude = 96.54139F;
+constexpr float kScale = 200;
+
+StationRecord TwelveTowers() {
+  std::mt19937 random(12);
+  std::uniform_real_distribution<float> share(0, 1);
+  StationRecord record;
+  record.HoursCode = "N";
+  record.PowerKW = 5;
+  record.TowerCount = MaxTowers;
+  for (std::size_t i = 1; i <= MaxTowers; ++i) {
+    record.Switch[i] = "0";
+    record.Fields[i] = 0.2F + share(random);
+    record.Phases[i] = 360 * share(random) - 180;
+    record.Spacings[i] = 600 * share(random);
+    record.Bearings[i] = 360 * share(random);
+  }
+  return record;
+}
+
+/// The sweep rewrites its record, so both ways work on a copy.
+template <typename Compute>
+auto Sweeping(std::vector<StationRecord> records, Compute compute) {
+  return [records, compute] {
+    PatternValues values;
+    for (const StationRecord& original : records) {
+      StationRecord record = original;
+      compute(record, values);
+      Keep(&values);
+    }
+  };
+}
+
+void AddSweepRow(const std::string& work, const std::vector<StationRecord>& records) {
+  AddRow("pattern sweep, " + work, "scalar formula", {12, 0}, Sweeping(records, kestrel::ComputePattern),
+         Sweeping(records, straight::ComputePattern));
+}
+
+/// All vertices through PROJ's azimuthal equidistant projection on a sphere.
+class ProjPlot {
+ public:
+  explicit ProjPlot(const Outline& outline) : outline_(outline), coordinates_(outline.Latitude.size()) {
+    const std::string text = "+proj=aeqd +lat_0=" + std::to_string(kHomeLatitude) +
+                             " +lon_0=" + std::to_string(-kHomeLongitude) + " +R=1";
+    projection_ = proj_create(nullptr, text.c_str());
+  }
+
+  void Run() {
+    for (std::size_t i = 0; i < coordinates_.size(); ++i)
+      coordinates_[i] = proj_coord(proj_torad(BringIntoRange(outline_.Longitude[i])),
+                                   proj_torad(outline_.Latitude[i]), 0, 0);
+    proj_trans_array(projection_, PJ_FWD, coordinates_.size(), coordinates_.data());
+    Keep(coordinates_.data());
+  }
+
+ private:
+  const Outline& outline_;
+  std::vector<PJ_COORD> coordinates_;
+  PJ* projection_;
+};
+
+}  // namespace
+
+void AddSweepRow() {
+  AddSweepRow("one 12-tower record", {TwelveTowers()});
+}
+
+void AddSweepRow(const Band& band) {
+  AddSweepRow("400-record channel, " + band.Name, ReadChannel(band, ChannelOf(band, 400, false)));
+}
+
+void AddProjectionRows() {
+  static const Outline outline = straight::ReadOutline(std::string(KESTREL_SHARE_DIR) + "/REGION2.dat");
+  static std::vector<Point> points(outline.Latitude.size());
+  static ProjPlot proj(outline);
+  const auto fast = [] {
+    MapProjection(kHomeLatitude, kHomeLongitude, kScale)
+        .Vertices(outline.Latitude, outline.Longitude, points);
+    Keep(points.data());
+  };
+  AddRow("projection of REGION2.dat", "GreatCircle for each vertex", {14, 0}, fast, [] {
+    straight::PlaceByGreatCircle(kHomeLatitude, kHomeLongitude, kScale, outline.Latitude, outline.Longitude,
+                                 points);
+    Keep(points.data());
+  });
+  AddRow("projection of REGION2.dat", "PROJ aeqd on a sphere", {8, 0}, fast, [] { proj.Run(); });
+}
+
+}  // namespace kestrel::bench

@@ -1,0 +1,8 @@
+#include "Rows.h"
+#include "Table.h"
+
+namespace kestrel::bench {
+
+void PrintProcessRows(const Band&) {}
+
+}  // namespace kestrel::bench

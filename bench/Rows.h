@@ -1,0 +1,17 @@
+#pragma once
+
+#include "Bands.h"
+
+// The rows of the table, by what is measured.
+
+namespace kestrel::bench {
+
+void AddSweepRow();
+void AddProjectionRows();
+void AddSweepRow(const Band& band);
+void AddOutlineReaderRow();
+void AddStationReaderRow(const Band& band);
+void AddDrawingRows(const Band& band);    ///< whole redraws and the scan
+void PrintProcessRows(const Band& band);  ///< programs from start to end, and their memory
+
+}  // namespace kestrel::bench

@@ -1,0 +1,21 @@
+#include <QGuiApplication>
+
+#include "Rows.h"
+#include "Table.h"
+
+int main(int argc, char** argv) {
+  using namespace kestrel::bench;
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  int qtArguments = 1;
+  const QGuiApplication app(qtArguments, argv);
+  AddSweepRow();
+  AddProjectionRows();
+  AddOutlineReaderRow();
+  for (const Band& band : Bands()) {
+    AddSweepRow(band);
+    AddStationReaderRow(band);
+    AddDrawingRows(band);
+  }
+  MeasureAndPrint(argc, argv);
+  PrintProcessRows(Bands().front());
+}

@@ -1,0 +1,104 @@
+#pragma once
+
+#include <bit>
+#include <cstdint>
+
+// Sine, cosine and arc tangent without a branch or a call, so that a loop over them becomes vector code. Only
+// the files with the loops ("kernels") include this; they are compiled with optimisation for loops and
+// without errno and traps, which alone keep the compiler from it. No step depends on the width of the
+// vectors, and contraction into fused operations is off, so every vector level gives the same bytes.
+
+// The kernels live in a namespace that a test replaces to compile them again, each vector level by itself.
+#ifndef KESTREL_KERNELS
+#define KESTREL_KERNELS kernels
+// One function compiled for several levels, the best one chosen when the program starts.
+#if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__)
+#define KESTREL_CLONES __attribute__((target_clones("default", "arch=x86-64-v3", "arch=x86-64-v4")))
+#endif
+#endif
+#ifndef KESTREL_CLONES
+#define KESTREL_CLONES
+#endif
+
+namespace kestrel::KESTREL_KERNELS {
+
+struct SineCosine {
+  double Sine;
+  double Cosine;
+};
+
+/// Adding it to a number below 2^51 leaves the number rounded to whole in the last bits of the sum.
+constexpr double RoundingShift = 0x1.8p52;
+
+/// Sine and cosine of r + n pi / 2, n the whole number in the last bits of `shifted`; |r| at most pi / 4.
+///
+/// The polynomials are Chebyshev fits of (sin r / r - 1) / r^2 and (cos r - 1 + r^2 / 2) / r^4 in r^2; the
+/// results are within 1.5e-14. One term more would make it 1.2e-16, which no user of them needs.
+static inline SineCosine OfQuadrant(double r, double shifted) {
+  const double z = r * r;
+  const double s =
+      r + r * z *
+              (-0.16666666666663885 +
+               z * (0.008333333331078323 + z * (-0.00019841266916110632 +
+                                                z * (2.7555990664728974e-06 - z * 2.4805611712122475e-08))));
+  const double c =
+      1 - (0.5 * z -
+           z * z *
+               (0.04166666666666468 + z * (-0.0013888888887276698 +
+                                           z * (2.480158521036455e-05 +
+                                                z * (-2.755636950618061e-07 + z * 2.0700582941271302e-09)))));
+  // In odd quadrants the two change places. Bit 1 of the quadrant is the sign of the sine; that of the cosine
+  // differs from it in odd ones.
+  const auto n = std::bit_cast<std::uint64_t>(shifted);
+  const std::uint64_t odd = 0 - (n & 1);
+  const std::uint64_t minus = (n & 2) << 62;
+  const auto sine = std::bit_cast<std::uint64_t>(s);
+  const auto cosine = std::bit_cast<std::uint64_t>(c);
+  const std::uint64_t exchange = (sine ^ cosine) & odd;
+  return {std::bit_cast<double>(sine ^ exchange ^ minus),
+          std::bit_cast<double>(cosine ^ exchange ^ minus ^ n << 63)};
+}
+
+/// Of an angle in radians, |angle| below 1e6: pi / 2 is taken off in two parts, the first (33 bits) short
+/// enough that its multiples are exact.
+static inline SineCosine OfRadians(double angle) {
+  const double shifted = angle * 0.63661977236758134 + RoundingShift;
+  const double n = shifted - RoundingShift;
+  return OfQuadrant(angle - n * 1.5707963267341256 - n * 6.077100506506192e-11, shifted);
+}
+
+/// Of an angle in degrees that is a difference of singles, |angle| below 1e6: taking off quarter turns is
+/// exact, so multiples of 90 are too.
+static inline SineCosine OfDegrees(double angle) {
+  const double shifted = angle * (1.0 / 90) + RoundingShift;
+  return OfQuadrant((angle - (shifted - RoundingShift) * 90) * 0.017453292519943295, shifted);
+}
+
+/// Arc tangent of y / x in the upper half plane, 0 to pi. REQUIRES: y >= 0 and not both 0.
+///
+/// Both reductions, to the first octant and by tan(pi / 8) to half of it, are made before the one division;
+/// then a Chebyshev fit of (atan t / t - 1) / t^2 in t^2, good to 8.7e-16.
+static inline double ArcTangent(double y, double x) {
+  constexpr double kPi = 3.14159265358979324;
+  const double along = x < 0 ? -x : x;
+  const double low = y < along ? y : along;
+  const double high = y < along ? along : y;
+  const bool upper = low > 0.41421356237309503 * high;
+  const double t = (upper ? low - high : low) / (upper ? low + high : high);
+  const double z = t * t;
+  const double p =
+      -0.3333333333333325 +
+      z * (0.19999999999898324 +
+           z * (-0.1428571426608229 +
+                z * (0.11111109635603796 +
+                     z * (-0.09090852527088297 +
+                          z * (0.07691054614825647 +
+                               z * (-0.06649607953399717 +
+                                    z * (0.057362969593526145 +
+                                         z * (-0.04483218628995374 + z * 0.022748939747779046))))))));
+  const double octant = t + t * z * p + (upper ? kPi / 4 : 0);
+  const double quadrant = y < along ? octant : kPi / 2 - octant;
+  return x < 0 ? kPi - quadrant : quadrant;
+}
+
+}  // namespace kestrel::KESTREL_KERNELS

@@ -1,0 +1,84 @@
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+#include "Samples.h"
+#include "map/VertexPlaces.h"
+#include "pattern/PatternSweep.h"
+
+// The kernels give the same bytes at every vector level that the machine has.
+
+#ifdef KESTREL_LEVELS
+
+#define KESTREL_DECLARE_LEVEL(level)                                                                \
+  namespace level {                                                                                 \
+  bool SweepPattern(const SweepTower* towers, int count, float* magnitudes);                        \
+  void PlaceVertices(const ProjectionCenter& home, const float* latitudes, const float* longitudes, \
+                     float* places, std::size_t count);                                             \
+  }
+
+namespace kestrel {
+KESTREL_DECLARE_LEVEL(x86_64)
+KESTREL_DECLARE_LEVEL(x86_64_v3)
+KESTREL_DECLARE_LEVEL(x86_64_v4)
+
+namespace {
+
+struct Level {
+  const char* Name;
+  bool Here;
+  decltype(&SweepPattern) Sweep;
+  decltype(&PlaceVertices) Place;
+};
+
+std::vector<Level> LevelsHere() {
+  const Level all[] = {
+      {"x86-64", true, x86_64::SweepPattern, x86_64::PlaceVertices},
+      {"x86-64-v3", __builtin_cpu_supports("x86-64-v3") != 0, x86_64_v3::SweepPattern,
+       x86_64_v3::PlaceVertices},
+      {"x86-64-v4", __builtin_cpu_supports("x86-64-v4") != 0, x86_64_v4::SweepPattern,
+       x86_64_v4::PlaceVertices},
+  };
+  std::vector<Level> here;
+  for (const Level& level : all)
+    if (level.Here) here.push_back(level);
+  return here;
+}
+
+TEST(LevelsTest, SweepGivesTheSameBytes) {
+  for (const StationRecord& record : SampleArrays(500, 11)) {
+    SweepTower towers[MaxTowers];
+    for (std::size_t i = 0; i < static_cast<std::size_t>(record.TowerCount); ++i)
+      towers[i] = {record.Fields[i + 1], record.Spacings[i + 1] / 57.3, record.Bearings[i + 1] / 57.3,
+                   record.Phases[i + 1] / 57.3};
+    float expected[PatternAzimuths];
+    SweepPattern(towers, record.TowerCount, expected);
+    for (const Level& level : LevelsHere()) {
+      float magnitudes[PatternAzimuths];
+      level.Sweep(towers, record.TowerCount, magnitudes);
+      ASSERT_EQ(std::memcmp(magnitudes, expected, sizeof expected), 0) << level.Name;
+    }
+  }
+}
+
+TEST(LevelsTest, ProjectionGivesTheSameBytes) {
+  const SampleVertices vertices = SampleSphere(10007, 5);
+  const std::size_t count = vertices.Latitudes.size();
+  const ProjectionCenter home = {0.5481822, 0.8363609, -96.54139, 17000};
+  std::vector<float> expected(2 * count);
+  PlaceVertices(home, vertices.Latitudes.data(), vertices.Longitudes.data(), expected.data(), count);
+  for (const Level& level : LevelsHere()) {
+    std::vector<float> places(2 * count);
+    level.Place(home, vertices.Latitudes.data(), vertices.Longitudes.data(), places.data(), count);
+    EXPECT_EQ(std::memcmp(places.data(), expected.data(), sizeof(float) * places.size()), 0) << level.Name;
+    // One by one: the loop's remainder does what its vectors do.
+    for (std::size_t i = 0; i < count; ++i)
+      level.Place(home, &vertices.Latitudes[i], &vertices.Longitudes[i], &places[2 * i], 1);
+    EXPECT_EQ(std::memcmp(places.data(), expected.data(), sizeof(float) * places.size()), 0) << level.Name;
+  }
+}
+
+}  // namespace
+}  // namespace kestrel
+
+#endif
