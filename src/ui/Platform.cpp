@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QDesktopServices>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QProcess>
 #include <QThread>
@@ -14,6 +15,11 @@
 #include "ui/SystemInformation.h"
 
 namespace kestrel {
+namespace {
+
+constexpr int kTitleCharacters = 36;  // with the buttons of the window's frame
+
+}  // namespace
 
 std::optional<PrintOrder> Platform::OfferPrinting(QWidget*, const PrintOffer&) {
   return std::nullopt;
@@ -22,6 +28,10 @@ std::optional<PrintOrder> Platform::OfferPrinting(QWidget*, const PrintOffer&) {
 void DesktopPlatform::ShowMessage(QWidget* parent, const QString& text) {
   QMessageBox box(QMessageBox::NoIcon, "KestrelII", text, QMessageBox::Ok, parent);
   box.setTextFormat(Qt::PlainText);
+  // Wide enough for its title, however short the text.
+  if (auto* grid = qobject_cast<QGridLayout*>(box.layout()))
+    grid->addItem(new QSpacerItem(box.fontMetrics().averageCharWidth() * kTitleCharacters, 0),
+                  grid->rowCount(), 0, 1, grid->columnCount());
   box.exec();
 }
 
