@@ -161,6 +161,9 @@ void frmPlot::UpdateZoomCommands() {
 }
 
 void frmPlot::RunForm(QDialog& form) {
+  const QSize frame(0, 2 * fontMetrics().height());
+  if (form.testAttribute(Qt::WA_Resized))
+    form.resize(form.size().boundedTo(screen()->availableSize() - frame));
   form.exec();
   // A message or a map that closes together with the form below it leaves some window managers without an
   // active window.
