@@ -4,6 +4,7 @@
 #include <QColorDialog>
 #include <QDesktopServices>
 #include <QFileDialog>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QProcess>
 #include <QThread>
@@ -15,6 +16,11 @@
 #include "ui/SystemInformation.h"
 
 namespace kestrel {
+namespace {
+
+constexpr int kTitleCharacters = 36;  // with the buttons of the window's frame
+
+}  // namespace
 
 QStringList Platform::ChooseFiles(QWidget*, const QString&) {
   return {};
@@ -31,6 +37,10 @@ std::optional<PrintOrder> Platform::OfferPrinting(QWidget*, const PrintOffer&) {
 void DesktopPlatform::ShowMessage(QWidget* parent, const QString& text) {
   QMessageBox box(QMessageBox::NoIcon, "KestrelII", text, QMessageBox::Ok, parent);
   box.setTextFormat(Qt::PlainText);
+  // Wide enough for its title, however short the text.
+  if (auto* grid = qobject_cast<QGridLayout*>(box.layout()))
+    grid->addItem(new QSpacerItem(box.fontMetrics().averageCharWidth() * kTitleCharacters, 0),
+                  grid->rowCount(), 0, 1, grid->columnCount());
   box.exec();
 }
 

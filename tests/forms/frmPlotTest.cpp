@@ -12,6 +12,7 @@
 
 #include "forms/Folder.h"
 #include "forms/StandInPlatform.h"
+#include "forms/frmAspect.h"
 #include "ui/MapSurface.h"
 
 namespace kestrel {
@@ -173,6 +174,17 @@ TEST_F(frmPlotTest, ScanDrawsEveryChannelUntilStopped) {
   EXPECT_EQ(state_.ScaleFactor, 10000);
   EXPECT_FALSE(Button("cmdIn")->isEnabled());
   EXPECT_TRUE(Button("cmdFreq")->isEnabled());
+}
+
+TEST_F(frmPlotTest, AspectWindowOpensOnceAndIsActive) {
+  Open();
+  PressInForm("cmdOptions", "", "cmdAspect");
+  auto* aspect = plot_->findChild<frmAspect*>();
+  ASSERT_NE(aspect, nullptr);
+  EXPECT_TRUE(QTest::qWaitForWindowActive(aspect));
+  PressInForm("cmdOptions", "", "cmdAspect");
+  EXPECT_EQ(plot_->findChildren<frmAspect*>().size(), 1);
+  EXPECT_TRUE(QTest::qWaitForWindowActive(aspect));
 }
 
 TEST_F(frmPlotTest, WindowMayBeClosedWhileTheScanRuns) {
