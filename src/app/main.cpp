@@ -1,5 +1,4 @@
 #include <QApplication>
-#include <QTimer>
 #include <memory>
 
 #include "forms/CommandIcons.h"
@@ -31,7 +30,7 @@ int main(int argc, char** argv) {
     plot = std::make_unique<frmPlot>(workspace);
     plot->show();
   };
+  opening.FirstPainted = [&] { opening.Load(); };
   opening.show();
-  QTimer::singleShot(0, &opening, [&] { opening.Load(); });
   return QApplication::exec();
 }

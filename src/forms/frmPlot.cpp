@@ -211,7 +211,7 @@ void frmPlot::ChooseOptions() {
 
 void frmPlot::ImportStations() {
   frmImport form(workspace_, this);
-  form.exec();
+  RunForm(form);
   if (!form.DataChanged()) return;
   // The lists are those of the opening screen; a list that cannot be read leaves the map as it is.
   if (!LoadPlaceLists(workspace_.Folder, workspace_.State))
