@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
+#include <algorithm>
 #include <memory>
 #include <optional>
 
@@ -46,11 +47,18 @@ class Exchange {
   }
 
   void MakeFolder(const QString& name) {
-    if (!Exists(name)) Do(name, "the folder cannot be made", [&] { return dir_.mkdir(name); });
+    const QFileInfo entry(dir_.filePath(name));
+    if (entry.isDir() && !entry.isSymLink()) return;
+    Do(name, "the folder cannot be made", [&] { return dir_.mkdir(name); });
   }
   void RemoveFolder(const QString& name) {
-    if (Exists(name))
-      Do(name, "the folder cannot be removed", [&] { return QDir(dir_.filePath(name)).removeRecursively(); });
+    const QFileInfo entry(dir_.filePath(name));
+    if (!entry.exists() && !entry.isSymLink()) return;
+    // What a link leads to is not ours, whoever put the link there.
+    Do(name, "the folder cannot be removed", [&] {
+      return entry.isDir() && !entry.isSymLink() ? QDir(entry.filePath()).removeRecursively()
+                                                 : QFile::remove(entry.filePath());
+    });
   }
   void RenameFolder(const QString& from, const QString& to) {
     Do(from, "the folder cannot be renamed", [&] { return dir_.rename(from, to); });
@@ -67,11 +75,6 @@ class Exchange {
   }
   void RemoveFile(const QString& name) {
     Do(name, "the file cannot be removed", [&] { return QFile::remove(dir_.filePath(name)); });
-  }
-
-  QStringList FilesOf(const QString& folder) const {
-    const QDir dir(dir_.filePath(folder));
-    return dir.exists() ? dir.entryList(QDir::Files | QDir::Hidden, QDir::Name) : QStringList();
   }
 
   void Forward(const SwapJournal& journal);
@@ -144,13 +147,27 @@ Result<Done> Exchange::Run(SwapJournal journal) {
   return Outcome();
 }
 
+bool IsOfTheSet(const QString& file) {
+  const std::vector<std::string>& names = StationSetNames();
+  return std::any_of(names.begin(), names.end(), [&](const std::string& name) {
+    return file.compare(QString::fromStdString(name), Qt::CaseInsensitive) == 0;
+  });
+}
+
 /// The files of the folder that belong to the set, by the names they have there.
 QStringList PresentFiles(const QString& folder) {
   QStringList present;
-  for (const QString& file : QDir(folder).entryList(QDir::Files, QDir::Name))
-    for (const std::string& name : StationSetNames())
-      if (file.compare(QString::fromStdString(name), Qt::CaseInsensitive) == 0) present << file;
+  for (const QString& file : QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Name))
+    if (IsOfTheSet(file)) present << file;
   return present;
+}
+
+/// Whether the journal could be our own. A folder that came from elsewhere may bring one that moves other
+/// files about.
+bool IsOurs(const SwapJournal& journal) {
+  const QStringList files = journal.oldFiles + journal.newFiles;
+  return (journal.source == kNewSet || journal.source == kKeptSet) &&
+         std::all_of(files.begin(), files.end(), IsOfTheSet);
 }
 
 Error Busy(const DataFolder& folder) {
@@ -168,7 +185,7 @@ Result<Done> Recover(Exchange& exchange, const QString& folder) {
   const Result<QByteArray> bytes = ReadFile(folder + '/' + kJournal);
   if (!bytes) return bytes.error();
   const auto journal = ReadJournal({bytes->constData(), static_cast<std::size_t>(bytes->size())});
-  if (!journal)
+  if (!journal || !IsOurs(*journal))
     return Error{Error::Kind::Malformed, kJournal.toStdString(), 0,
                  "is damaged; remove it to go on with the files as they are"};
   return exchange.Run(*journal);
@@ -203,7 +220,8 @@ Result<Done> UndoImport(const DataFolder& folder, const SwapStep& step) {
   if (!exchange.Exists(kKeptSet))
     return Error{Error::Kind::NotFound, folder.Path().toStdString(), 0,
                  "holds no station files that an import replaced"};
-  const SwapJournal journal{false, kKeptSet, PresentFiles(folder.Path()), exchange.FilesOf(kKeptSet)};
+  const SwapJournal journal{false, kKeptSet, PresentFiles(folder.Path()),
+                            PresentFiles(folder.Path() + '/' + kKeptSet)};
   exchange.Write(kJournal, JournalText(journal));
   if (exchange.Failure()) return exchange.Outcome();
   return exchange.Run(journal);

@@ -12,6 +12,11 @@ constexpr std::string_view kOld = "old ";
 constexpr std::string_view kNew = "new ";
 constexpr std::string_view kEnd = "end";
 
+/// Whether it names an entry of the folder itself, and not the folder or one beside or above it.
+bool IsPlainName(const QString& name) {
+  return !name.isEmpty() && name != "." && name != ".." && !name.contains('/') && !name.contains('\\');
+}
+
 }  // namespace
 
 std::string JournalText(const SwapJournal& journal) {
@@ -28,19 +33,17 @@ std::optional<SwapJournal> ReadJournal(std::string_view text) {
   const auto first = lines.Next();
   if (!first || (*first != kMoved && *first != kMoving)) return std::nullopt;
   journal.moved = *first == kMoved;
-  const auto name = [](std::string_view line, std::string_view key) {
-    return QString::fromUtf8(line.data() + key.size(), static_cast<qsizetype>(line.size() - key.size()));
-  };
   while (const auto line = lines.Next()) {
-    if (line->find('/') != std::string_view::npos || line->find('\\') != std::string_view::npos)
-      return std::nullopt;
     if (*line == kEnd) return journal.source.isEmpty() ? std::nullopt : std::optional(journal);
-    if (line->starts_with(kSource))
-      journal.source = name(*line, kSource);
-    else if (line->starts_with(kOld))
-      journal.oldFiles << name(*line, kOld);
-    else if (line->starts_with(kNew))
-      journal.newFiles << name(*line, kNew);
+    const std::string_view key = line->substr(0, line->find(' ') + 1);
+    const QString name = QString::fromUtf8(line->data() + key.size(), static_cast<qsizetype>(line->size() - key.size()));
+    if (!IsPlainName(name)) return std::nullopt;
+    if (key == kSource)
+      journal.source = name;
+    else if (key == kOld)
+      journal.oldFiles << name;
+    else if (key == kNew)
+      journal.newFiles << name;
     else
       return std::nullopt;
   }

@@ -19,7 +19,7 @@ struct SwapJournal {
 /// A line for each value; the last one says that the text is whole.
 std::string JournalText(const SwapJournal& journal);
 
-/// Nothing when the text is not whole or names a file outside its folder.
+/// Nothing when the text is not whole or names anything but an entry of its folder.
 std::optional<SwapJournal> ReadJournal(std::string_view text);
 
 }  // namespace kestrel

@@ -1,0 +1,110 @@
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include <QString>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "Targets.h"
+#include "data/StationFile.h"
+#include "import/AmqList.h"
+#include "import/Intake.h"
+#include "import/LineStream.h"
+#include "import/Merge.h"
+#include "import/ReadFiles.h"
+#include "import/StationSet.h"
+#include "import/SwapJournal.h"
+
+namespace kestrel::fuzz {
+namespace {
+
+/// Puts the stations together and reads the files that come of it.
+void Finish(Readings readings, const ImportOptions& options, ImportReport& report) {
+  const std::vector<Station> stations = MergeStations(std::move(readings.amq), readings.tables, options, report);
+  const ImportReport::File total = report.Total();
+  Hold(total.rows == total.taken + total.leftOut, "every row is taken or left out, once");
+
+  std::size_t records = 0;
+  for (const auto& [name, bytes] : MakeStationSet(stations, "a line", report)) {
+    if (!name.ends_with("x.dat")) continue;
+    StationFileReader reader(name, bytes);
+    while (reader.Next()) ++records;
+    Hold(reader.Notes().empty(), "an imported file has no faults");
+  }
+  Hold(records == stations.size(), "an imported station is read again");
+  ReportText(report);
+}
+
+/// The first byte chooses the options.
+ImportOptions ChosenOptions(std::string_view& bytes) {
+  const char choice = bytes.empty() ? '\0' : bytes.front();
+  if (!bytes.empty()) bytes.remove_prefix(1);
+  ImportOptions options;
+  options.includeSilent = choice & 1;
+  options.includePermits = choice & 2;
+  if (choice & 4) options.countries = {"US", "MX"};
+  return options;
+}
+
+}  // namespace
+
+void AmqList(std::string_view bytes) {
+  const ImportOptions options = ChosenOptions(bytes);
+  Readings readings;
+  readings.hasAmq = true;
+  ImportReport report;
+  MemoryStream stream(bytes);
+  LineStream lines(stream);
+  ReadAmqList(lines, report.AddFile("amq.txt", "AM Query list"), options, readings.amq, report);
+  Finish(std::move(readings), options, report);
+}
+
+/// Several files, a line with an equals sign between them.
+void AntennaTables(std::string_view bytes) {
+  constexpr std::string_view kBetween = "\n=\n";
+  const ImportOptions options = ChosenOptions(bytes);
+  Readings readings;
+  ImportReport report;
+  for (std::size_t end = 0; !bytes.empty(); bytes.remove_prefix(end)) {
+    end = bytes.find(kBetween);
+    MemoryStream stream(bytes.substr(0, end));
+    ReadSourceFile(stream, "file", options, readings, report);
+    end = end == std::string_view::npos ? bytes.size() : end + kBetween.size();
+  }
+  Finish(std::move(readings), options, report);
+}
+
+void ImportJournal(std::string_view bytes) {
+  const std::optional<SwapJournal> journal = ReadJournal(bytes);
+  if (!journal) return;
+  QStringList names = journal->oldFiles + journal->newFiles;
+  for (const QString& name : names << journal->source)
+    Hold(!name.isEmpty() && name != "." && name != ".." && !name.contains('/'), "a name of the folder itself");
+  const std::string text = JournalText(*journal);
+  const std::optional<SwapJournal> again = ReadJournal(text);
+  Hold(again && JournalText(*again) == text, "a journal reads back to the same");
+}
+
+void ZipIntake(std::string_view bytes) {
+  constexpr std::uint64_t kLargest = 1 << 20;
+  const int file = memfd_create("zip", MFD_CLOEXEC);
+  Hold(file >= 0 && write(file, bytes.data(), bytes.size()) == static_cast<ssize_t>(bytes.size()),
+       "there is memory for the input");
+  if (auto intake = OpenIntake("/proc/self/fd/" + QString::number(file), kLargest)) {
+    std::uint64_t total = 0;
+    for (std::size_t part = 0; part < (*intake)->Parts().size(); ++part) {
+      total += (*intake)->Parts()[part].size;
+      auto stream = (*intake)->Open(part);
+      if (!stream) continue;
+      std::vector<char> buffer(4096);
+      std::uint64_t length = 0;
+      while (const std::size_t count = (*stream)->Read(buffer.data(), buffer.size())) length += count;
+      Hold(length == (*intake)->Parts()[part].size, "a part is as long as it says");
+    }
+    Hold(total <= kLargest, "no more is unpacked than allowed");
+  }
+  close(file);
+}
+
+}  // namespace kestrel::fuzz
