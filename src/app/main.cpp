@@ -1,10 +1,10 @@
 #include <QApplication>
-#include <QTimer>
 #include <memory>
 
 #include "forms/CommandIcons.h"
 #include "forms/frmOpening.h"
 #include "forms/frmPlot.h"
+#include "import/DataSwap.h"
 
 int main(int argc, char** argv) {
   using namespace kestrel;
@@ -19,6 +19,8 @@ int main(int argc, char** argv) {
     platform.ShowMessage(nullptr, QString::fromStdString(folder.error().Message()));
     return 1;
   }
+  if (const Result<Done> recovered = RecoverImport(*folder); !recovered)
+    platform.ShowMessage(nullptr, QString::fromStdString(recovered.error().Message()));
   SessionState state;
   const Workspace workspace{state, *folder, platform};
 
@@ -28,7 +30,7 @@ int main(int argc, char** argv) {
     plot = std::make_unique<frmPlot>(workspace);
     plot->show();
   };
+  opening.FirstPainted = [&] { opening.Load(); };
   opening.show();
-  QTimer::singleShot(0, &opening, [&] { opening.Load(); });
   return QApplication::exec();
 }

@@ -1,3 +1,5 @@
+#include <sstream>
+
 #include "cli/Commands.h"
 #include "cli/Console.h"
 #include "cli/Options.h"
@@ -23,7 +25,9 @@ void Describe(CLI::App& app, Request& request) {
 /// Help and version are asked for by what the parser throws, too.
 ExitStatus Answer(const CLI::App& app, const CLI::ParseError& thrown) {
   if (thrown.get_exit_code() == 0) {
-    app.exit(thrown);
+    std::ostringstream answer;
+    app.exit(thrown, answer);
+    Print(answer.str());
     return Succeeded;
   }
   const auto chosen = app.get_subcommands();
@@ -44,10 +48,12 @@ int main(int argc, char** argv) {
   Request request;
   Describe(app, request);
   try {
-    app.parse(argc, argv);
-    return Succeeded;
-  } catch (const CLI::ParseError& thrown) {
-    return Answer(app, thrown);
+    try {
+      app.parse(argc, argv);
+      return Succeeded;
+    } catch (const CLI::ParseError& thrown) {
+      return Answer(app, thrown);
+    }
   } catch (const WrongUse& wrong) {
     Say(wrong.what());
     return WronglyUsed;
@@ -55,7 +61,7 @@ int main(int argc, char** argv) {
     Say(failure.what());
     return Failed;
   } catch (const std::bad_alloc&) {
-    Say("there is not enough memory; ask for a smaller picture with --size");
+    Say("there is not enough memory; ask for a smaller picture or look for a damaged, very long file");
     return Failed;
   }
 }

@@ -36,6 +36,9 @@ frmAspect::frmAspect(const Workspace& workspace, QWidget* parent) : QDialog(pare
   layout->addWidget(exit, 1, 0, 1, 3);
   // Wide enough for its title beside the frame's own buttons.
   setMinimumWidth(fontMetrics().horizontalAdvance(windowTitle()) * 2);
+  // In a corner of the map, so that home stays in view.
+  const int margin = 2 * fontMetrics().height();
+  if (parent) move(parent->mapToGlobal(QPoint(margin, margin)));
   wide->setFocus();
 }
 

@@ -54,8 +54,10 @@ frmGetHome::frmGetHome(const Workspace& workspace, QWidget* parent) : QDialog(pa
   entry->addWidget(latitude_, 0, 1);
   entry->addWidget(MakeLabel("lblLongitude", "Home l&ongitude: ", longitude_), 0, 2);
   entry->addWidget(longitude_, 0, 3);
-  entry->addWidget(MakeLabel("lblInfo", "Entries are positive for North and for West."), 0, 4);
-  entry->setColumnStretch(5, 1);
+  QLabel* info = MakeLabel("lblInfo", "Entries are positive for North and for West.");
+  info->setWordWrap(true);
+  entry->addWidget(info, 0, 4);
+  entry->setColumnStretch(4, 1);
 
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(map);

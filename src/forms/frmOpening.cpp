@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QScreen>
+#include <QTimer>
+#include <utility>
 
 #include "draw/PainterCanvas.h"
 #include "draw/RasterCanvas.h"
@@ -134,6 +136,7 @@ void frmOpening::RenderBackdrop() {
 void frmOpening::paintEvent(QPaintEvent*) {
   RenderBackdrop();
   QPainter(this).drawImage(0, 0, backdrop_);
+  if (FirstPainted) QTimer::singleShot(0, this, std::exchange(FirstPainted, nullptr));
 }
 
 void frmOpening::resizeEvent(QResizeEvent*) {

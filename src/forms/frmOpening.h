@@ -21,6 +21,9 @@ class frmOpening final : public QWidget {
   /// the loading with a message; the screen stays with what was done so far.
   void Load();
 
+  /// Called once, when the screen has been painted for the first time: the moment to load.
+  std::function<void()> FirstPainted;
+
   /// Called when Start is pressed, the session read by then.
   std::function<void()> Started;
 

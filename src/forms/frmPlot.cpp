@@ -22,6 +22,7 @@
 #include "forms/frmGetFrequency.h"
 #include "forms/frmGetHome.h"
 #include "forms/frmGetStationData.h"
+#include "forms/frmImport.h"
 #include "forms/frmOptions.h"
 #include "forms/frmShowHets.h"
 #include "forms/frmShowStations.h"
@@ -98,16 +99,18 @@ void frmPlot::AddCommands(CommandColumn& column) {
                     [this] { ChooseScan(); });
   AddViewCommands(column);
   column.AddCommand("cmdHets", "H&ets", "Lists the beat notes on the channel", {Qt::Key_B},
-                    [this] { frmShowHets(workspace_, this).exec(); });
+                    [this] { RunForm(frmShowHets(workspace_, this)); });
   column.AddCommand("cmdDistance", "&Distance", "Distance and bearing from home to a place", {Qt::Key_D},
-                    [this] { frmGetDistance(workspace_, this).exec(); });
+                    [this] { RunForm(frmGetDistance(workspace_, this)); });
   column.AddCommand("cmdOptions", "&Options", "Colours, map language, aspect", {Qt::Key_O},
                     [this] { ChooseOptions(); });
   column.AddCommand("cmdPrint", "&Print", "Prints the map", {QKeySequence::Print}, [this] {
     PrintMap(workspace_.System, workspace_.Folder, workspace_.State, surface_->Drawing(), this);
   });
+  column.AddCommand("cmdImport", "I&mport", "Makes the station files from the FCC's files", {Qt::Key_I},
+                    [this] { ImportStations(); });
   column.AddCommand("cmdAbout", "A&bout", "Version, licence, where the data come from", {Qt::Key_F1},
-                    [this] { frmAbout(workspace_, this).exec(); });
+                    [this] { RunForm(frmAbout(workspace_, this)); });
   column.AddGap();
   column.AddCommand("cmdExit", "E&xit", "Saves the session and ends the program", {Qt::CTRL | Qt::Key_Q},
                     [this] { close(); });
@@ -160,9 +163,19 @@ void frmPlot::UpdateZoomCommands() {
   Button("cmdOut")->setEnabled(!scanning_ && CanZoomOut(workspace_.State));
 }
 
+void frmPlot::RunForm(QDialog& form) {
+  const QSize frame(0, 2 * fontMetrics().height());
+  if (form.testAttribute(Qt::WA_Resized))
+    form.resize(form.size().boundedTo(screen()->availableSize() - frame));
+  form.exec();
+  // A message or a map that closes together with the form below it leaves some window managers without an
+  // active window.
+  activateWindow();
+}
+
 void frmPlot::ChooseFrequency() {
   frmGetFrequency form(workspace_, this);
-  form.exec();
+  RunForm(form);
   if (form.Choice() == frmGetFrequency::Plot::Nothing) return;
   workspace_.State.SelectedFrequency = workspace_.State.CurrentFrequency;
   Redraw(form.Choice() == frmGetFrequency::Plot::OnTop ? MapGround::AsDrawn : MapGround::Empty);
@@ -177,36 +190,49 @@ void frmPlot::StepChannel(std::optional<std::string> (*step)(SessionState&)) {
 }
 
 void frmPlot::LookUp(const QString& callSign) {
-  frmGetStationData(workspace_, this, callSign).exec();
+  RunForm(frmGetStationData(workspace_, this, callSign));
 }
 
 void frmPlot::ChooseHome() {
   const auto before = DrawnSettings(workspace_.State);
-  frmGetHome(workspace_, this).exec();
+  RunForm(frmGetHome(workspace_, this));
   if (DrawnSettings(workspace_.State) != before) Redraw();
 }
 
 void frmPlot::ChooseOptions() {
   const auto before = DrawnSettings(workspace_.State);
   frmOptions form(workspace_, this);
-  form.OpenAspect = [this] { AdjustAspect(); };
-  form.exec();
+  bool aspectAsked = false;
+  form.OpenAspect = [&aspectAsked] { aspectAsked = true; };
+  RunForm(form);
   if (DrawnSettings(workspace_.State) != before) Redraw();
+  if (aspectAsked) AdjustAspect();
+}
+
+void frmPlot::ImportStations() {
+  frmImport form(workspace_, this);
+  RunForm(form);
+  if (!form.DataChanged()) return;
+  // The lists are those of the opening screen; a list that cannot be read leaves the map as it is.
+  if (!LoadPlaceLists(workspace_.Folder, workspace_.State))
+    workspace_.System.ShowMessage(this, "We have had a data-file reading error");
+  Redraw();
 }
 
 void frmPlot::AdjustAspect() {
-  auto* form = new frmAspect(workspace_, this);
-  form->setAttribute(Qt::WA_DeleteOnClose);
-  form->RedrawAll = [this] {
+  if (aspect_) return aspect_->activateWindow();
+  aspect_ = new frmAspect(workspace_, this);
+  aspect_->setAttribute(Qt::WA_DeleteOnClose);
+  aspect_->RedrawAll = [this] {
     if (!scanning_) Redraw();
   };
-  form->RedrawChannel = [this] {
+  aspect_->RedrawChannel = [this] {
     if (scanning_) return;
     const std::int16_t adjacents = std::exchange(workspace_.State.AdjacentsShown, std::int16_t{0});
     Redraw();
     workspace_.State.AdjacentsShown = adjacents;
   };
-  form->show();
+  aspect_->show();
 }
 
 void frmPlot::NextHoursFilter() {
@@ -229,7 +255,7 @@ void frmPlot::ChangeView(void (*change)(SessionState&)) {
 }
 
 void frmPlot::ChooseScan() {
-  frmShowStations(workspace_, this).exec();
+  RunForm(frmShowStations(workspace_, this));
   if (workspace_.State.PlotAllStations != 1) return;
   if (!scanning_) return Scan();
   // The scan that runs ends before its next channel, then the new one begins.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 #include <optional>
 #include <string>
@@ -7,6 +8,7 @@
 #include "forms/Workspace.h"
 #include "map/MainMap.h"
 
+class QDialog;
 class QLabel;
 class QProgressBar;
 class QPushButton;
@@ -14,6 +16,7 @@ class QPushButton;
 namespace kestrel {
 
 class CommandColumn;
+class frmAspect;
 class MapSurface;
 
 /// The main window: the map around home and the column of commands. Every command works on the session and
@@ -34,11 +37,14 @@ class frmPlot final : public QWidget {
   void AddCommands(CommandColumn& column);
   void AddViewCommands(CommandColumn& column);
 
+  void RunForm(QDialog& form);
+  void RunForm(QDialog&& form) { RunForm(form); }
   void ChooseFrequency();
   void StepChannel(std::optional<std::string> (*step)(SessionState&));
   void LookUp(const QString& callSign);
   void ChooseHome();
   void ChooseOptions();
+  void ImportStations();
   void AdjustAspect();
   void NextHoursFilter();
   void ToggleCompass();
@@ -61,6 +67,7 @@ class frmPlot final : public QWidget {
   MapSurface* surface_;
   QProgressBar* progress_;
   QLabel* savedNotice_;
+  QPointer<frmAspect> aspect_;  // while it is open
   bool scanning_ = false;
   bool scanAgain_ = false;   // asked for while a scan ran
   bool closeAsked_ = false;  // likewise

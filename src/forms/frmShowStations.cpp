@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "map/View.h"
+#include "ui/Controls.h"
 
 namespace kestrel {
 
@@ -16,9 +17,8 @@ frmShowStations::frmShowStations(const Workspace& workspace, QWidget* parent) : 
   state.PlotAllStations = 0;
 
   auto* layout = new QVBoxLayout(this);
-  const auto addButton = [&](const char* name, const QString& caption, auto choose) {
-    auto* button = new QPushButton(caption);
-    button->setObjectName(name);
+  const auto addButton = [&](const char* name, const QString& caption, const QString& tip, auto choose) {
+    QPushButton* button = MakeButton(name, caption, tip);
     button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, [this, choose] {
       choose();
@@ -27,14 +27,18 @@ frmShowStations::frmShowStations(const Workspace& workspace, QWidget* parent) : 
     layout->addWidget(button);
     return button;
   };
-  addButton("cmdAlterYes", "&Zoom in for local view", [&state] {
-    state.ScaleFactor = LargestScale;
-    state.PatternSize = SmallestPattern;
+  addButton("cmdAlterYes", "&Zoom in for local view", "The largest scale with the smallest patterns",
+            [&state] {
+              state.ScaleFactor = LargestScale;
+              state.PatternSize = SmallestPattern;
+              state.PlotAllStations = 1;
+            });
+  addButton("cmdAlterNo", "&Leave mapsize intact", "Plots at the map's present scale", [&state] {
     state.PlotAllStations = 1;
-  });
-  addButton("cmdAlterNo", "&Leave mapsize intact", [&state] { state.PlotAllStations = 1; })->setDefault(true);
-  addButton("cmdPlotNo", "&Return - no plotting", [&state] { state.PlotAllStations = 0; });
-  addButton("cmdStop", "&Stop", [&state] {
+  })->setDefault(true);
+  addButton("cmdPlotNo", "&Return - no plotting", "Back to the map as it is",
+            [&state] { state.PlotAllStations = 0; });
+  addButton("cmdStop", "&Stop", "Ends the plot that runs", [&state] {
     state.StopRequested = true;
     state.PlotAllStations = 0;
   })->setEnabled(plotRuns);

@@ -11,7 +11,7 @@ namespace kestrel {
 struct ImportOptions {
   bool includeSilent = false;          ///< licensed stations that are silent for the time being
   bool includePermits = false;         ///< construction permits of the US too
-  std::vector<std::string> countries;  ///< two-letter codes, in capitals; empty: all
+  std::vector<std::string> countries = {};  ///< two-letter codes, in capitals; empty: all
 
   bool WantsCountry(std::string_view code) const {
     return countries.empty() || std::find(countries.begin(), countries.end(), code) != countries.end();

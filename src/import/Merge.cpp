@@ -120,14 +120,21 @@ class TableOnly {
   std::map<std::pair<int, int>, std::size_t> indexOf_;   // of an antenna record by its row
 };
 
+/// A station's records stand together, by day, by night, in critical hours: those of a facility whatever
+/// their towns, those without a facility by their towns.
 bool InOrder(const Station& a, const Station& b) {
   constexpr std::string_view kHours = "DNCU";
-  const auto key = [&](const Station& s) {
-    return std::tie(s.channel, s.callSign, s.country, s.state, s.city, s.facility);
+  const auto station = [](const Station& s) {
+    return std::tie(s.channel, s.callSign, s.country, s.facility);
   };
-  if (key(a) != key(b)) return key(a) < key(b);
-  return std::tuple(kHours.find(a.hours), a.position.latitude, a.position.longitude) <
-         std::tuple(kHours.find(b.hours), b.position.latitude, b.position.longitude);
+  const auto town = [](const Station& s) { return std::tie(s.state, s.city); };
+  const auto record = [&](const Station& s) {
+    return std::tuple(kHours.find(s.hours), s.position.latitude, s.position.longitude);
+  };
+  if (station(a) != station(b)) return station(a) < station(b);
+  const bool byTown = a.facility == decltype(a.facility){};
+  if (byTown && town(a) != town(b)) return town(a) < town(b);
+  return std::tuple(record(a), town(a)) < std::tuple(record(b), town(b));
 }
 
 }  // namespace

@@ -21,6 +21,7 @@ QPushButton* CommandColumn::AddCommand(const char* name, const QString& caption,
                                        const QList<QKeySequence>& shortcuts, std::function<void()> action) {
   auto* button = new QPushButton(caption);
   button->setObjectName(name);
+  button->setAutoDefault(true);  // Enter presses it too
   for (const QKeySequence& keys : shortcuts)
     connect(new QShortcut(keys, window()), &QShortcut::activated, button, &QPushButton::click);
   button->setToolTip(

@@ -5,6 +5,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -99,9 +100,12 @@ PlacePicker::PlacePicker(const char* listName, const char* searchName, const QSt
     list_->setColumnWidth(column, width);
     totalWidth += width;
   }
-  header->setSectionResizeMode(look.WideColumn, QHeaderView::Stretch);
-  list_->setMinimumSize(totalWidth + list_->verticalScrollBar()->sizeHint().width() + 2 * list_->frameWidth(),
-                        kFewestRows * (metrics.height() + kRowMargin));
+  // On a small screen two lists stand side by side still, and scroll sideways.
+  const int wholeWidth =
+      totalWidth + list_->verticalScrollBar()->sizeHint().width() + 2 * list_->frameWidth();
+  const int offeredWidth = std::min(wholeWidth, screen()->availableSize().width() * 2 / 5);
+  if (offeredWidth == wholeWidth) header->setSectionResizeMode(look.WideColumn, QHeaderView::Stretch);
+  list_->setMinimumSize(offeredWidth, kFewestRows * (metrics.height() + kRowMargin));
 
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);

@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QDesktopServices>
+#include <QFileDialog>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QProcess>
 #include <QThread>
@@ -14,6 +16,19 @@
 #include "ui/SystemInformation.h"
 
 namespace kestrel {
+namespace {
+
+constexpr int kTitleCharacters = 36;  // with the buttons of the window's frame
+
+}  // namespace
+
+QStringList Platform::ChooseFiles(QWidget*, const QString&) {
+  return {};
+}
+
+QString Platform::ChooseFileToWrite(QWidget*, const QString&, const QString&) {
+  return {};
+}
 
 std::optional<PrintOrder> Platform::OfferPrinting(QWidget*, const PrintOffer&) {
   return std::nullopt;
@@ -22,6 +37,10 @@ std::optional<PrintOrder> Platform::OfferPrinting(QWidget*, const PrintOffer&) {
 void DesktopPlatform::ShowMessage(QWidget* parent, const QString& text) {
   QMessageBox box(QMessageBox::NoIcon, "KestrelII", text, QMessageBox::Ok, parent);
   box.setTextFormat(Qt::PlainText);
+  // Wide enough for its title, however short the text.
+  if (auto* grid = qobject_cast<QGridLayout*>(box.layout()))
+    grid->addItem(new QSpacerItem(box.fontMetrics().averageCharWidth() * kTitleCharacters, 0),
+                  grid->rowCount(), 0, 1, grid->columnCount());
   box.exec();
 }
 
@@ -34,6 +53,14 @@ std::optional<ColorValue> DesktopPlatform::ChooseColor(QWidget* parent, const QS
   const QColor color = QColorDialog::getColor(PlatformColor(current), parent, title);
   if (!color.isValid()) return std::nullopt;
   return color.red() | color.green() << 8 | color.blue() << 16;
+}
+
+QStringList DesktopPlatform::ChooseFiles(QWidget* parent, const QString& title) {
+  return QFileDialog::getOpenFileNames(parent, title);
+}
+
+QString DesktopPlatform::ChooseFileToWrite(QWidget* parent, const QString& title, const QString& offered) {
+  return QFileDialog::getSaveFileName(parent, title, offered);
 }
 
 void DesktopPlatform::OpenAddress(const QString& address) {

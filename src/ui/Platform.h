@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <optional>
 
 #include "core/SessionState.h"
@@ -23,6 +24,13 @@ class Platform {
   /// The common colour dialog; nothing when it is cancelled.
   virtual std::optional<ColorValue> ChooseColor(QWidget* parent, const QString& title,
                                                 ColorValue current) = 0;
+
+  /// The platform's dialog for choosing files; none when it is cancelled, and on a platform that has none.
+  virtual QStringList ChooseFiles(QWidget* parent, const QString& title);
+
+  /// The platform's dialog for the name of a file to write; empty when it is cancelled, and on a platform
+  /// that has none.
+  virtual QString ChooseFileToWrite(QWidget* parent, const QString& title, const QString& offered);
 
   /// Lets the platform open a web address; failures are silent.
   virtual void OpenAddress(const QString& address) = 0;
@@ -47,6 +55,8 @@ class DesktopPlatform final : public Platform {
   void ShowMessage(QWidget* parent, const QString& text) override;
   void Beep() override;
   std::optional<ColorValue> ChooseColor(QWidget* parent, const QString& title, ColorValue current) override;
+  QStringList ChooseFiles(QWidget* parent, const QString& title) override;
+  QString ChooseFileToWrite(QWidget* parent, const QString& title, const QString& offered) override;
   void OpenAddress(const QString& address) override;
   bool StartSystemInformation() override;
   void Pause(double seconds) override;

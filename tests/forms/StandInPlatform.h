@@ -19,6 +19,8 @@ class StandInPlatform final : public Platform {
   // What it answers.
   std::optional<ColorValue> NextColor;  ///< nothing: the colour dialog is cancelled
   bool HasSystemInformation = false;
+  QStringList NextFiles;    ///< what the dialog for files gives; none: it is cancelled
+  QString NextFileToWrite;  ///< likewise
   std::function<std::optional<PrintOrder>(const PrintOffer&)> NextPrint;  ///< none: printing is cancelled
 
   // What it was asked.
@@ -35,6 +37,8 @@ class StandInPlatform final : public Platform {
     ColorQuestions.push_back({title, current});
     return NextColor;
   }
+  QStringList ChooseFiles(QWidget*, const QString&) override { return NextFiles; }
+  QString ChooseFileToWrite(QWidget*, const QString&, const QString&) override { return NextFileToWrite; }
   void OpenAddress(const QString& address) override { Addresses << address; }
   bool StartSystemInformation() override {
     if (HasSystemInformation) ++SystemInformationStarts;

@@ -49,8 +49,10 @@ TEST_F(frmOpeningTest, EscapeAndExitLeaveWithoutStarting) {
     opening.Started = [] { ADD_FAILURE() << "the map was opened"; };
     opening.show();
     opening.Load();
-    if (byKey) QTest::keyClick(&opening, Qt::Key_Escape);
-    else QTest::mouseClick(opening.findChild<QPushButton*>("cmdExit"), Qt::LeftButton);
+    if (byKey)
+      QTest::keyClick(&opening, Qt::Key_Escape);
+    else
+      QTest::mouseClick(opening.findChild<QPushButton*>("cmdExit"), Qt::LeftButton);
     EXPECT_FALSE(opening.isVisible());
   }
 }

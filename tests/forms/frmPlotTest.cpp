@@ -12,6 +12,7 @@
 
 #include "forms/Folder.h"
 #include "forms/StandInPlatform.h"
+#include "forms/frmAspect.h"
 #include "ui/MapSurface.h"
 
 namespace kestrel {
@@ -25,6 +26,11 @@ class frmPlotTest : public ::testing::Test {
   }
 
   QPushButton* Button(const char* name) { return plot_->findChild<QPushButton*>(name); }
+  void PressKey(Qt::Key key) {
+    plot_->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(plot_.get()));  // shortcuts work in the active window
+    QTest::keyClick(plot_.get(), key);
+  }
   void Press(const char* name) { QTest::mouseClick(Button(name), Qt::LeftButton); }
 
   /// Presses a command that opens a modal window, and in that window a button.
@@ -72,7 +78,7 @@ TEST_F(frmPlotTest, ExitSavesOnceAndSaysSo) {
   EXPECT_TRUE(platform_.Messages.isEmpty());
   const std::string saved = folder_.Text("Kestrel.CFG");
   EXPECT_NE(saved.find("Frequency displayed: 1230\r\n"), std::string::npos) << saved;
-  EXPECT_NE(saved.find("Scale factor: 282.84271\r\n"), std::string::npos) << saved;
+  EXPECT_NE(saved.find("Scale factor: 282.8427\r\n"), std::string::npos) << saved;
 
   folder_.Remove("Kestrel.CFG");
   plot_->close();
@@ -97,7 +103,7 @@ TEST_F(frmPlotTest, ThreePressesOfHoursReturnToAll) {
   EXPECT_EQ(Drawn(), (Names{"QDN620 D", "QU620 U"}));
   Press("cmdHours");
   EXPECT_EQ(Drawn(), (Names{"QDN620 N", "QU620 U"}));
-  QTest::keyClick(plot_.get(), Qt::Key_H);
+  PressKey(Qt::Key_H);
   EXPECT_EQ(Drawn(), all);
 }
 
@@ -126,10 +132,10 @@ TEST_F(frmPlotTest, AddPlotKeepsTheFirstChannelAndEraseDoesNot) {
   EXPECT_EQ(ChannelsDrawn(), (std::set<int>{620, 630}));
   Press("cmdIn");
   EXPECT_EQ(ChannelsDrawn(), (std::set<int>{620, 630})) << "adjacents stay through a zoom";
-  QTest::keyClick(plot_.get(), Qt::Key_PageUp);
+  PressKey(Qt::Key_PageUp);
   EXPECT_EQ(ChannelsDrawn(), (std::set<int>{630}));
   state_.CurrentFrequency = 1700;
-  QTest::keyClick(plot_.get(), Qt::Key_PageUp);
+  PressKey(Qt::Key_PageUp);
   EXPECT_EQ(platform_.Messages, QStringList("Frequency over 1700 reset to 1700"));
 }
 
@@ -168,6 +174,17 @@ TEST_F(frmPlotTest, ScanDrawsEveryChannelUntilStopped) {
   EXPECT_EQ(state_.ScaleFactor, 10000);
   EXPECT_FALSE(Button("cmdIn")->isEnabled());
   EXPECT_TRUE(Button("cmdFreq")->isEnabled());
+}
+
+TEST_F(frmPlotTest, AspectWindowOpensOnceAndIsActive) {
+  Open();
+  PressInForm("cmdOptions", "", "cmdAspect");
+  auto* aspect = plot_->findChild<frmAspect*>();
+  ASSERT_NE(aspect, nullptr);
+  EXPECT_TRUE(QTest::qWaitForWindowActive(aspect));
+  PressInForm("cmdOptions", "", "cmdAspect");
+  EXPECT_EQ(plot_->findChildren<frmAspect*>().size(), 1);
+  EXPECT_TRUE(QTest::qWaitForWindowActive(aspect));
 }
 
 TEST_F(frmPlotTest, WindowMayBeClosedWhileTheScanRuns) {

@@ -101,7 +101,7 @@ TEST(StationPlotTest, SpokesBearingsAndLegendStandInTheirPlaces) {
   const auto texts = canvas.All("Text");
   ASSERT_EQ(texts.size(), 12U + 5U);
   EXPECT_EQ(texts[3].Text, "90");
-  EXPECT_NEAR(texts[3].Points[0].x, 6000 + 2400 * 0.8 - 100, 0.01) << "half the text's width to the left";
+  EXPECT_NEAR(texts[3].Points[0].x, 6000 + 2400 * 0.8 - FixedMeasure().TextWidth(texts[3].Face, "90") / 2, 0.01) << "half the text's width to the left";
   EXPECT_NEAR(texts[3].Points[0].y, 6395, 0.01);
   const std::map<std::string, std::pair<float, ColorValue>> legend = {{"Unlimited", {6200, 0x000099}},
                                                                       {"Daytime", {6450, 0x119911}},

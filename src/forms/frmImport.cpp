@@ -1,0 +1,248 @@
+#include "forms/frmImport.h"
+
+#include <QCheckBox>
+#include <QDragEnterEvent>
+#include <QFontDatabase>
+#include <QGridLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QListWidget>
+#include <QMimeData>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTableView>
+#include <QUrl>
+
+#include "data/FileIo.h"
+#include "import/DataSwap.h"
+#include "ui/Controls.h"
+#include "ui/RowsModel.h"
+
+namespace kestrel {
+namespace {
+
+constexpr std::size_t kShownChanges =
+    20;  // of a kind; the list beside the report and a saved report have all
+
+QString Text(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QStringList ChangeCells(const Change& change) {
+  return {Text(ChangeName(change.kind)),
+          QString::number(change.channel),
+          Text(change.callSign),
+          Text(change.hours),
+          Text(change.place),
+          Text(ChangeDetail(change))};
+}
+
+QCheckBox* MakeCheckBox(const char* name, const QString& caption, const QString& tip) {
+  auto* box = new QCheckBox(caption);
+  box->setObjectName(name);
+  box->setToolTip(tip);
+  return box;
+}
+
+}  // namespace
+
+frmImport::frmImport(const Workspace& workspace, QWidget* parent) : QDialog(parent), workspace_(workspace) {
+  setObjectName("frmImport");
+  setWindowTitle("KestrelII - Import station data");
+  setAcceptDrops(true);
+
+  auto* rows = new QVBoxLayout(this);
+  rows->addWidget(MakeChoices());
+  progress_ = new QProgressBar;
+  progress_->setObjectName("prgImport");
+  progress_->setRange(0, 1000);
+  rows->addWidget(progress_);
+  rows->addWidget(MakeResults(), 1);
+
+  const int em = fontMetrics().averageCharWidth();
+  resize(110 * em, 44 * fontMetrics().height());
+  SetRunning(false);
+}
+
+QWidget* frmImport::MakeChoices() {
+  auto* choices = new QWidget;
+  auto* grid = new QGridLayout(choices);
+  grid->setContentsMargins(0, 0, 0, 0);
+  lstFiles_ = new QListWidget;
+  lstFiles_->setObjectName("lstFiles");
+  lstFiles_->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  lstFiles_->setMinimumHeight(5 * fontMetrics().height());
+  connect(lstFiles_, &QListWidget::itemSelectionChanged, this, [this] { UpdateCommands(); });
+  auto* label = MakeLabel(
+      "lblFiles",
+      "&Files of the FCC, zipped or not; the last one counts most. Drop them here or add them:", lstFiles_);
+  grid->addWidget(label, 0, 0);
+  grid->addWidget(lstFiles_, 1, 0, 8, 1);
+
+  int row = 1;
+  const auto addButton = [&](const char* name, const QString& caption, const QString& tip, auto action) {
+    QPushButton* button = MakeButton(name, caption, tip);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, action);
+    grid->addWidget(button, row++, 1);
+    return button;
+  };
+  addButton("cmdAdd", "&Add files...", "Chooses AM Query lists and antenna tables",
+            [this] { AddFiles(workspace_.System.ChooseFiles(this, "Files of the FCC")); });
+  addButton("cmdRemove", "&Remove", "Takes the selected files off the list", [this] {
+    qDeleteAll(lstFiles_->selectedItems());
+    UpdateCommands();
+  });
+  addButton("cmdImport", "&Import", "Makes the station files anew from these files", [this] {
+    Import();
+  })->setDefault(true);
+  addButton("cmdCancel", "&Cancel", "Stops reading; nothing is written", [this] { cancelled_ = true; });
+  addButton("cmdUndo", "&Undo import",
+            "Brings back the stations that the last import replaced; once more, the import",
+            [this] { Undo(); });
+  addButton("cmdSave", "Sa&ve report...", "Writes the whole report and every change to a file",
+            [this] { SaveReport(); });
+  addButton("cmdExit", "C&lose", "Back to the map", [this] { reject(); });
+
+  auto* options = new QHBoxLayout;
+  chkSilent_ = MakeCheckBox("chkSilent", "&Silent stations too",
+                            "Licensed stations that are silent for the time being");
+  chkPermits_ = MakeCheckBox("chkPermits", "Construction &permits too", "US stations not yet licensed");
+  chkDryRun_ =
+      MakeCheckBox("chkDryRun", "&Only show what would change", "Reads and compares, and writes nothing");
+  for (QCheckBox* box : {chkSilent_, chkPermits_, chkDryRun_}) options->addWidget(box);
+  options->addStretch();
+  grid->addLayout(options, 9, 0, 1, 2);
+  return choices;
+}
+
+QWidget* frmImport::MakeResults() {
+  txtReport_ = new QPlainTextEdit;
+  txtReport_->setObjectName("txtReport");
+  txtReport_->setReadOnly(true);
+  txtReport_->setLineWrapMode(QPlainTextEdit::NoWrap);
+  txtReport_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  lstChanges_ = new QTableView;
+  lstChanges_->setObjectName("lstChanges");
+  lstChanges_->verticalHeader()->hide();
+  lstChanges_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 4);
+  lstChanges_->setSelectionBehavior(QAbstractItemView::SelectRows);
+  lstChanges_->setShowGrid(false);
+  results_ = new QTabWidget;
+  results_->addTab(txtReport_, "Report");
+  results_->addTab(lstChanges_, "Changes");
+  return results_;
+}
+
+void frmImport::AddFiles(const QStringList& paths) {
+  for (const QString& path : paths)
+    if (lstFiles_->findItems(path, Qt::MatchExactly).isEmpty()) lstFiles_->addItem(path);
+  UpdateCommands();
+}
+
+void frmImport::Import() {
+  ImportRequest request;
+  for (int i = 0; i < lstFiles_->count(); ++i) request.files << lstFiles_->item(i)->text();
+  request.options.includeSilent = chkSilent_->isChecked();
+  request.options.includePermits = chkPermits_->isChecked();
+  request.dryRun = chkDryRun_->isChecked();
+
+  cancelled_ = false;
+  SetRunning(true);
+  const ImportOutcome outcome =
+      RunImport(request, workspace_.Folder, [this](double done, std::string_view what) {
+        progress_->setValue(static_cast<int>(done * 1000));
+        progress_->setFormat(Text(what));
+        workspace_.System.ProcessEvents();
+        return !cancelled_;
+      });
+  SetRunning(false);
+  if (!outcome.failure && !request.dryRun) dataChanged_ = true;
+  ShowOutcome(outcome);
+  UpdateCommands();
+}
+
+void frmImport::ShowOutcome(const ImportOutcome& outcome) {
+  const std::string heading =
+      outcome.failure ? "Nothing was written: " + outcome.failure->Message() + "\n\n" : std::string();
+  txtReport_->setPlainText(Text(heading + OutcomeText(outcome, kShownChanges)));
+  wholeReport_ = heading + OutcomeText(outcome, 0);
+  ShowChanges(outcome.changes);
+  results_->setCurrentWidget(txtReport_);
+}
+
+void frmImport::ShowChanges(std::vector<Change> changes) {
+  changes_ = std::move(changes);
+  auto* model = new RowsModel(
+      {"Change", "kHz", "Call", "Hours", "Place", "What"}, static_cast<int>(changes_.size()),
+      [this](int row) { return ChangeCells(changes_[static_cast<std::size_t>(row)]); }, lstChanges_);
+  QAbstractItemModel* former = lstChanges_->model();
+  lstChanges_->setModel(model);
+  delete former;
+  const int em = fontMetrics().averageCharWidth();
+  for (const auto& [column, characters] : {std::pair{0, 11}, {1, 7}, {2, 11}, {3, 7}, {4, 42}, {5, 20}})
+    lstChanges_->setColumnWidth(column, characters * em);
+  lstChanges_->horizontalHeader()->setStretchLastSection(true);
+  results_->setTabText(1, "Changes (" + QString::number(changes_.size()) + ')');
+}
+
+void frmImport::SaveReport() {
+  const QString path =
+      workspace_.System.ChooseFileToWrite(this, "Save the report", "kestrel-import-report.txt");
+  if (path.isEmpty()) return;
+  if (const Result<Done> written = WriteFile(path, wholeReport_); !written)
+    workspace_.System.ShowMessage(this, Text(written.error().Message()));
+}
+
+void frmImport::Undo() {
+  if (const Result<Done> undone = UndoImport(workspace_.Folder); !undone)
+    return workspace_.System.ShowMessage(this, Text(undone.error().Message()));
+  dataChanged_ = true;
+  ShowChanges({});
+  wholeReport_.clear();
+  UpdateCommands();
+  txtReport_->setPlainText("The stations of before are back: " + Text(workspace_.Folder.StationsLine()));
+}
+
+void frmImport::SetRunning(bool running) {
+  running_ = running;
+  progress_->setValue(0);
+  progress_->setFormat(running ? "%p %" : "");
+  for (QWidget* control : std::initializer_list<QWidget*>{lstFiles_, chkSilent_, chkPermits_, chkDryRun_})
+    control->setEnabled(!running);
+  UpdateCommands();
+}
+
+void frmImport::UpdateCommands() {
+  const auto enable = [this](const char* name, bool enabled) {
+    findChild<QPushButton*>(name)->setEnabled(enabled);
+  };
+  enable("cmdAdd", !running_);
+  enable("cmdRemove", !running_ && !lstFiles_->selectedItems().isEmpty());
+  enable("cmdImport", !running_ && lstFiles_->count() > 0);
+  enable("cmdCancel", running_);
+  enable("cmdUndo", !running_);
+  enable("cmdSave", !running_ && !wholeReport_.empty());
+  enable("cmdExit", !running_);
+}
+
+void frmImport::reject() {
+  // While an import runs, leaving the window cancels it first.
+  cancelled_ = true;
+  if (!running_) QDialog::reject();
+}
+
+void frmImport::dragEnterEvent(QDragEnterEvent* event) {
+  if (!running_ && event->mimeData()->hasUrls()) event->acceptProposedAction();
+}
+
+void frmImport::dropEvent(QDropEvent* event) {
+  QStringList paths;
+  for (const QUrl& url : event->mimeData()->urls())
+    if (url.isLocalFile()) paths << url.toLocalFile();
+  AddFiles(paths);
+}
+
+}  // namespace kestrel

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QDialog>
+#include <vector>
+
+#include "forms/Workspace.h"
+#include "import/Import.h"
+
+class QCheckBox;
+class QListWidget;
+class QPlainTextEdit;
+class QProgressBar;
+class QPushButton;
+class QTableView;
+class QTabWidget;
+
+namespace kestrel {
+
+/// Brings the FCC's files in: the files are chosen or dropped on the window, read with a progress bar, and
+/// the report and the changes are shown.
+class frmImport final : public QDialog {
+ public:
+  explicit frmImport(const Workspace& workspace, QWidget* parent = nullptr);
+
+  /// Whether the folder's stations are others than at opening.
+  bool DataChanged() const { return dataChanged_; }
+
+  /// Adds files to the list, each once.
+  void AddFiles(const QStringList& paths);
+
+  void reject() override;
+
+ protected:
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+
+ private:
+  QWidget* MakeChoices();
+  QWidget* MakeResults();
+  void Import();
+  void SaveReport();
+  void Undo();
+  void ShowOutcome(const ImportOutcome& outcome);
+  void ShowChanges(std::vector<Change> changes);
+  void SetRunning(bool running);
+  void UpdateCommands();
+
+  Workspace workspace_;
+  QListWidget* lstFiles_;
+  QCheckBox* chkSilent_;
+  QCheckBox* chkPermits_;
+  QCheckBox* chkDryRun_;
+  QProgressBar* progress_;
+  QTabWidget* results_;
+  QPlainTextEdit* txtReport_;
+  QTableView* lstChanges_;
+  std::vector<Change> changes_;
+  std::string wholeReport_;
+  bool running_ = false;
+  bool cancelled_ = false;
+  bool dataChanged_ = false;
+};
+
+}  // namespace kestrel

@@ -1,0 +1,121 @@
+#include "forms/frmImport.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDragEnterEvent>
+#include <QListWidget>
+#include <QMimeData>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTableView>
+#include <QTest>
+#include <QUrl>
+
+#include "forms/Folder.h"
+#include "forms/StandInPlatform.h"
+
+namespace kestrel {
+namespace {
+
+/// A row of the FCC's list: one station on 620 kHz in Texas, licensed, by day and night.
+std::string Row(const std::string& call, const std::string& power, const std::string& facility) {
+  return "|" + call + "|620   kHz|AM ||UNL|Unlimited|B|B|LIC|PLANO|TX|US|BL-1|" + power + "    kW||||" +
+         facility + "|N|33|1|11.28|W|96|41|56.04|OWNER, INC|0.0 km|0.0 mi|0.0 deg|1|0a|7|\n";
+}
+
+class frmImportTest : public ::testing::Test {
+ protected:
+  void SetUp() override { folder_.Write("amq.txt", Row("KAAA", "5.0", "11") + Row("KBBB", "1.0", "12")); }
+
+  void Press(frmImport& form, const char* name) {
+    QTest::mouseClick(form.findChild<QPushButton*>(name), Qt::LeftButton);
+  }
+  bool Enabled(frmImport& form, const char* name) { return form.findChild<QPushButton*>(name)->isEnabled(); }
+  QString Report(frmImport& form) { return form.findChild<QPlainTextEdit*>("txtReport")->toPlainText(); }
+
+  Folder folder_;
+  const DataFolder data_ = folder_.Data();
+  SessionState state_;
+  StandInPlatform platform_;
+  const Workspace workspace_{state_, data_, platform_};
+};
+
+TEST_F(frmImportTest, ImportsShowsWhatChangedAndUndoes) {
+  const std::string before = folder_.Text("620x.dat");
+  frmImport form(workspace_);
+  form.show();
+  EXPECT_FALSE(Enabled(form, "cmdImport"));
+  platform_.NextFiles = {folder_.Path("amq.txt")};
+  Press(form, "cmdAdd");
+  Press(form, "cmdAdd");
+  EXPECT_EQ(form.findChild<QListWidget*>("lstFiles")->count(), 1) << "each file once";
+
+  Press(form, "cmdImport");
+  EXPECT_TRUE(form.DataChanged());
+  EXPECT_NE(folder_.Text("620x.dat").find("KAAA"), std::string::npos) << Report(form).toStdString();
+  EXPECT_EQ(folder_.Text("1230x.dat"), "") << "no station of the list is on 1230 kHz";
+  auto* changes = form.findChild<QTableView*>("lstChanges")->model();
+  ASSERT_EQ(changes->rowCount(), 2 + 9) << "two are new, the test's nine records are gone";
+  EXPECT_EQ(changes->index(0, 0).data().toString(), "new");
+  EXPECT_EQ(changes->index(0, 2).data().toString(), "KAAA");
+
+  platform_.NextFileToWrite = folder_.Path("report.txt");
+  Press(form, "cmdSave");
+  EXPECT_NE(folder_.Text("report.txt").find("KBBB"), std::string::npos);
+
+  Press(form, "cmdUndo");
+  EXPECT_EQ(folder_.Text("620x.dat"), before);
+  EXPECT_TRUE(platform_.Messages.isEmpty());
+}
+
+TEST_F(frmImportTest, DryRunCancelAndRefusedFilesWriteNothing) {
+  const std::string before = folder_.Text("620x.dat");
+  frmImport form(workspace_);
+  form.show();
+  form.AddFiles({folder_.Path("amq.txt")});
+  form.findChild<QAbstractButton*>("chkDryRun")->click();
+  Press(form, "cmdImport");
+  EXPECT_EQ(folder_.Text("620x.dat"), before);
+  EXPECT_EQ(form.findChild<QTableView*>("lstChanges")->model()->rowCount(), 11);
+
+  form.findChild<QAbstractButton*>("chkDryRun")->click();
+  platform_.OnEvents = [&](int) {
+    EXPECT_TRUE(Enabled(form, "cmdCancel"));
+    EXPECT_FALSE(Enabled(form, "cmdExit"));
+    form.reject();
+    EXPECT_TRUE(form.isVisible()) << "stays until the reading has ended";
+  };
+  Press(form, "cmdImport");
+  EXPECT_TRUE(Report(form).startsWith("Nothing was written")) << Report(form).toStdString();
+  EXPECT_EQ(folder_.Text("620x.dat"), before);
+
+  platform_.OnEvents = {};
+  form.findChild<QListWidget*>("lstFiles")->selectAll();
+  Press(form, "cmdRemove");
+  folder_.Write("letter.txt", "Dear listener,\n");
+  form.AddFiles({folder_.Path("letter.txt"), folder_.Path("not there.txt")});
+  Press(form, "cmdImport");
+  EXPECT_TRUE(Report(form).contains("letter.txt")) << Report(form).toStdString();
+  EXPECT_TRUE(Report(form).startsWith("Nothing was written"));
+  EXPECT_FALSE(form.DataChanged());
+  Press(form, "cmdUndo");
+  EXPECT_EQ(platform_.Messages.size(), 1) << "nothing to undo";
+}
+
+TEST_F(frmImportTest, FilesMayBeDropped) {
+  frmImport form(workspace_);
+  QMimeData data;
+  data.setUrls({QUrl::fromLocalFile(folder_.Path("amq.txt")), QUrl("https://example.org/x")});
+  QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&form, &enter);
+  EXPECT_TRUE(enter.isAccepted());
+  QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&form, &drop);
+  ASSERT_EQ(form.findChild<QListWidget*>("lstFiles")->count(), 1);
+  EXPECT_EQ(form.findChild<QListWidget*>("lstFiles")->item(0)->text(), folder_.Path("amq.txt"));
+}
+
+}  // namespace
+}  // namespace kestrel

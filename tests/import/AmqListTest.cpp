@@ -1,0 +1,173 @@
+#include "import/AmqList.h"
+
+#include <gtest/gtest.h>
+
+#include "ImportTesting.h"
+
+namespace kestrel {
+namespace {
+
+TextImport ImportRows(const std::string& text, const ImportOptions& options = {}) {
+  return ImportTexts({{"amq.txt", text}}, options);
+}
+
+TEST(AmqList, TakesAStation) {
+  ListRow row;
+  row.power = "0.118  kW";
+  const TextImport import = ImportRows(row.Text());
+  ASSERT_EQ(import.stations.size(), 1U);
+  const Station& station = import.stations.front();
+  EXPECT_EQ(station.facility, "900001");
+  EXPECT_EQ(station.callSign + station.city + station.state + station.country, "QAAASPRINGFIELDILUS");
+  EXPECT_EQ(station.channel, 1230);
+  EXPECT_EQ(station.hours, 'U');
+  EXPECT_NEAR(station.position.latitude, 39.781667, 1e-6);
+  EXPECT_NEAR(station.position.longitude, 89.650111, 1e-6);
+  EXPECT_EQ(station.powerKW, 0.118);
+  EXPECT_EQ(station.towers.size(), 1U);
+}
+
+TEST(AmqList, EveryKindOfBadRowIsNamed) {
+  const struct {
+    ListRow row;
+    Finding finding;
+    const char* message;
+  } cases[] = {
+      {{.service = "FM"}, Finding::OtherService, "service \"FM\""},
+      {{.hours = "Always"}, Finding::BadField, "hours \"Always\""},
+      {{.status = "LICENSED"}, Finding::BadField, "status \"LICENSED\""},
+      {{.frequency = "1230"}, Finding::BadField, "frequency \"1230\""},
+      {{.frequency = "12e kHz"}, Finding::BadField, "frequency \"12e kHz\""},
+      {{.frequency = "1235   kHz"}, Finding::OffRaster, "QAAA, 1235 kHz"},
+      {{.frequency = "1710 kHz"}, Finding::OffRaster, "QAAA, 1710 kHz"},
+      {{.frequency = "567 kHz"}, Finding::OffRaster, "QAAA, 567 kHz"},
+      {{.power = ""}, Finding::BadField, "power \"\""},
+      {{.power = "1.0 W"}, Finding::BadField, "power \"1.0 W\""},
+      {{.power = "0.0    kW"}, Finding::BadField, "QAAA, a power of 0 kW"},
+      {{.power = "-5 kW"}, Finding::BadField, "QAAA, a power of -5 kW"},
+      {{.power = "nan kW"}, Finding::BadField, "power \"nan kW\""},
+      {{.directional = "Maybe"}, Finding::BadField, "antenna \"Maybe\""},
+      {{.latitude = "N|91|0|0.0"}, Finding::BadField, "latitude: degrees \"91\""},
+      {{.latitude = "N|90|0|0.1"}, Finding::BadField, "latitude: degrees \"90\""},
+      {{.latitude = "N|39.5|0|0"}, Finding::BadField, "latitude: degrees \"39.5\""},
+      {{.latitude = "N|39|60|0.0"}, Finding::BadField, "latitude: minutes \"60\""},
+      {{.latitude = "N|39|-1|0.0"}, Finding::BadField, "latitude: minutes \"-1\""},
+      {{.latitude = "N|39|1|60.1"}, Finding::BadField, "latitude: seconds \"60.1\""},
+      {{.latitude = "X|39|1|0"}, Finding::BadField, "latitude: direction \"X\""},
+      {{.longitude = "|89|1|0"}, Finding::BadField, "longitude: direction \"\""},
+      {{.longitude = "W||1|0"}, Finding::BadField, "longitude: degrees \"\""},
+      {{.longitude = "W|181|1|0"}, Finding::BadField, "longitude: degrees \"181\""},
+      {{.longitude = "E|144|45|42.3"}, Finding::OutsideAmericas, "QAAA, SPRINGFIELD"},
+      {{.longitude = "W|3|0|0"}, Finding::OutsideAmericas, "QAAA, SPRINGFIELD"},
+  };
+  for (const auto& [row, finding, message] : cases) {
+    // A good row behind the bad one is taken all the same.
+    const TextImport import = ImportRows(row.Text() + ListRow{}.Text());
+    EXPECT_EQ(import.Examples(finding), "amq.txt:1: " + std::string(message) + '\n') << row.Text();
+    EXPECT_EQ(import.stations.size(), 1U) << row.Text();
+    ExpectCountsAddUp(import.report);
+  }
+}
+
+TEST(AmqList, RowsOfTheWrongFormAreNamed) {
+  std::string noEnd = ListRow{}.Text();
+  noEnd.erase(noEnd.size() - 2, 1);
+  const std::string tooMany = "|" + ListRow{}.Text();
+  const std::string endless = "|" + std::string(70'000, 'x') + "\n";
+  const TextImport import = ImportRows(ListRow{}.Text() + noEnd + tooMany + "|a|b|\n" + endless + "|\n");
+  EXPECT_EQ(import.Examples(Finding::WrongForm),
+            "amq.txt:2: the row does not end with a bar\n"
+            "amq.txt:3: 34 fields, 31 to 33 expected\n"
+            "amq.txt:4: 2 fields, 31 to 33 expected\n"
+            "amq.txt:5: the row is longer than 64 KB\n"
+            "amq.txt:6: 0 fields, 31 to 33 expected\n");
+  EXPECT_EQ(import.report.Files().front().taken, 1);
+  ExpectCountsAddUp(import.report);
+}
+
+TEST(AmqList, WhoIsOnTheAir) {
+  const struct {
+    const char* call;
+    const char* country;
+    const char* status;
+    bool byDefault;
+    bool withPermits;
+  } cases[] = {
+      {"QAAA", "US", "LIC", true, true},   {"QAAA", "US", "STA", true, true},
+      {"QAAA", "US", "CP", false, true},   {"QAAA", "US", "MOD", false, true},
+      {"QAAA", "US", "APP", false, false}, {"QAAA", "US", "EXT", false, false},
+      {"QAAA", "US", "CNL", false, false}, {"QAAA", "US", "NCECP", false, false},
+      {"QAAA", "CA", "LIC", true, true},   {"QAAA", "MX", "CP", true, true},
+      {"QAAA", "MX", "STA", false, false}, {"QAAA", "BR", "DEL", false, false},
+      {"NEW", "US", "LIC", false, false},  {"-", "MX", "CP", false, false},
+      {"", "CA", "CP", false, false},      {"new", "US", "LIC", false, false},
+      {"HRLP 23", "HN", "CP", true, true},
+  };
+  for (const auto& [call, country, status, byDefault, withPermits] : cases) {
+    const std::string text = ListRow{.call = call, .status = status, .country = country}.Text();
+    EXPECT_EQ(ImportRows(text).stations.size(), byDefault ? 1U : 0U) << text;
+    EXPECT_EQ(ImportRows(text, {.includePermits = true}).stations.size(), withPermits ? 1U : 0U) << text;
+  }
+  EXPECT_EQ(ImportRows(ListRow{.status = "CNL"}.Text()).Examples(Finding::NotOnAir),
+            "amq.txt:1: QAAA, status CNL\n");
+}
+
+TEST(AmqList, OlderRowsPreambleAndLineEndsDoNotMatter) {
+  const std::string plain = ListRow{.hours = "Critical Hours", .directional = "-", .older = true}.Text();
+  const std::string newer = ListRow{.hours = "Critical Hours"}.Text();
+  std::string crlf = newer;
+  crlf.insert(crlf.size() - 1, "\r");
+  const StationSet expected = ImportRows(newer).files;
+  EXPECT_NE(expected.at("1230x.dat"), "");
+  for (const std::string& text :
+       {plain, crlf, "\xEF\xBB\xBF" + newer, "AM Query\n<pre>\n" + newer + "\n</pre> 1 record\n",
+        newer.substr(0, newer.size() - 1)}) {
+    const TextImport import = ImportRows(text);
+    EXPECT_EQ(import.files, expected) << text;
+    EXPECT_EQ(import.report.Files().front().rows, 1);
+  }
+}
+
+TEST(AmqList, NamesComeOutWhole) {
+  const struct {
+    const char* given;
+    const char* city;
+  } cases[] = {
+      {"PE\xD1"
+       "ASCO",
+       "PE\xC3\x91"
+       "ASCO"},  // Latin-1
+      {"PE\xC3\x91"
+       "ASCO",
+       "PE\xC3\x91"
+       "ASCO"},  // UTF-8
+      {"PE\xC3\x83\xC2\x91"
+       "ASCO",
+       "PE\xC3\x91"
+       "ASCO"},                                  // UTF-8 of UTF-8
+      {"S\xC3\x83O PAULO", "S\xC3\x83O PAULO"},  // nothing to mend
+      {"A\tB  C", "A B C"},
+  };
+  for (const auto& [given, city] : cases) {
+    const TextImport import = ImportRows(ListRow{.city = given}.Text());
+    ASSERT_EQ(import.stations.size(), 1U);
+    EXPECT_EQ(import.stations.front().city, city);
+  }
+}
+
+TEST(AmqList, CountriesAreChosenByTheListsCodes) {
+  const std::string text = ListRow{.facility = "1"}.Text() +
+                           ListRow{.status = "CP", .country = "ME", .facility = "2"}.Text() +
+                           ListRow{.status = "CP", .country = "QQ", .facility = "0"}.Text();
+  const TextImport all = ImportRows(text);
+  EXPECT_EQ(all.stations.size(), 3U);
+  EXPECT_NE(all.files.at("1230x.dat").find(", Mexico       ,"), std::string::npos);
+  EXPECT_NE(all.files.at("1230x.dat").find(", QQ           ,"), std::string::npos);
+  EXPECT_EQ(all.Examples(Finding::CountryUnknown), "amq.txt:3: QAAA, \"QQ\"\n");
+  const TextImport mexico = ImportRows(text, {.countries = {"MX", "CA"}});
+  EXPECT_EQ(mexico.stations.size(), 1U);
+  EXPECT_EQ(mexico.report.Of(Finding::OtherCountry).rows, 2);
+}
+
+}  // namespace
+}  // namespace kestrel

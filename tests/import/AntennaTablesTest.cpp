@@ -1,0 +1,193 @@
+#include "import/AntennaTables.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "ImportTesting.h"
+#include "import/TowerArray.h"
+#include "pattern/Pattern.h"
+
+namespace kestrel {
+namespace {
+
+using testing::DoubleNear;
+
+/// The sample tables with one row of one of them changed: the first "from" becomes "to".
+TextImport WithChange(const std::string& table, const std::string& from, const std::string& to) {
+  auto texts = SampleTables(Order::A, true);
+  for (auto& [name, text] : texts) {
+    if (name != table + ".dat") continue;
+    const std::size_t at = text.find(from, text.find('\n'));
+    EXPECT_NE(at, std::string::npos) << from;
+    text.replace(at, from.size(), to);
+  }
+  TextImport import = ImportTexts(texts);
+  ExpectCountsAddUp(import.report);
+  return import;
+}
+
+TowerRow Row(int number, double field, double spacing, double bearing, bool fromPrevious) {
+  TowerRow row;
+  row.number = number;
+  row.field = field;
+  row.spacing = spacing;
+  row.bearing = bearing;
+  row.fromPrevious = fromPrevious;
+  return row;
+}
+
+TEST(TowerArray, AChainAddsUp) {
+  const TowerArray array = ResolveTowers(
+      {Row(4, 1, 60, 350, true), Row(1, 1, 0, 0, true), Row(3, 1, 120, 130, true), Row(2, 1, 90, 40, false)},
+      4);
+  ASSERT_EQ(array.towers.size(), 4U);
+  EXPECT_EQ(array.towers[1].spacing, 90);
+  EXPECT_EQ(array.towers[1].bearing, 40);
+  EXPECT_THAT(array.towers[2].spacing, DoubleNear(150.000, 5e-4));
+  EXPECT_THAT(array.towers[2].bearing, DoubleNear(93.1301, 5e-5));
+  EXPECT_THAT(array.towers[3].spacing, DoubleNear(148.3613, 5e-5));
+  EXPECT_THAT(array.towers[3].bearing, DoubleNear(69.9361, 5e-5));
+}
+
+TEST(TowerArray, ATowerWithoutFieldStillCarriesTheNext) {
+  const TowerArray array =
+      ResolveTowers({Row(1, 1, 10, 0, true), Row(2, 0, 90, 90, false), Row(3, 1, 90, 90, true)}, 3);
+  ASSERT_EQ(array.towers.size(), 2U);
+  EXPECT_EQ(array.towers[0].spacing, 10);  // the first is never placed from another
+  EXPECT_THAT(array.towers[1].spacing, DoubleNear(180, 1e-9));
+  EXPECT_THAT(array.towers[1].bearing, DoubleNear(90, 1e-9));
+  EXPECT_EQ(array.fieldless.size(), 1U);
+}
+
+TEST(TowerArray, WhatCannotBeAnArrayIsNamed) {
+  EXPECT_EQ(ResolveTowers({Row(1, 1, 0, 0, false), Row(2, 1, 90, 0, false)}, 3).fault, "2 of 3 towers");
+  EXPECT_EQ(ResolveTowers({Row(1, 0, 0, 0, false), Row(2, 0, 90, 0, false)}, 2).fault,
+            "no tower with a field");
+  TowerRow blank = Row(2, 1, 90, 0, false);
+  blank.field.reset();
+  EXPECT_EQ(ResolveTowers({Row(1, 1, 0, 0, false), blank}, 0).fault, "tower 2 without a field ratio");
+
+  std::vector<TowerRow> many;
+  for (int number = 1; number <= 13; ++number)
+    many.push_back(Row(number, number == 5 ? 0 : 1, number, 0, false));
+  EXPECT_FALSE(ResolveTowers(many, 13).tooMany);  // 12 of them radiate
+  many[4].field = 1;
+  EXPECT_TRUE(ResolveTowers(many, 13).tooMany);
+}
+
+TEST(AntennaTables, TheWholeChainComesOutInTheStationFile) {
+  const TextImport import = ImportTexts(SampleTables(Order::A, false));
+  const std::string& file = import.files.at("550x.dat");
+  EXPECT_EQ(file,
+            "550, WQAA, BRAVO                   , IL  , United States, D, 40.5, 90.25, 5,-,-, 3\r\n"
+            "0,1,90,0,0,0\r\n"
+            "0,0.9,90,-90,90,40\r\n"
+            "0,0.7,95.5,15,150,93.1301\r\n"
+            "550, WQAA, BRAVO                   , IL  , United States, N, 40.5, 90.25, 0.5,-,-, 1\r\n"
+            "0,1,90,0,0,0\r\n");
+  EXPECT_EQ(import.files.at("800x.dat"),
+            "800, XQBB, CHARLIE                 , -   , Mexico       , U, 31.7362, 106.4848, 50,-,-, 1\r\n"
+            "0,1,90,0,0,0\r\n");
+  ExpectCountsAddUp(import.report);
+  EXPECT_EQ(import.report.Total().leftOut, 0);
+
+  // The same array with its chain, computed without the importer's sums.
+  StationFileReader chained(
+      "550x.dat",
+      "550, WQAA, BRAVO, IL, United States, D, 40.5, 90.25, 5,-,-, 3\n0,1,90,0,0,0\n0,.9,90,-90,90,40\n"
+      " 1,.7,95.5,15,120,130\n");
+  StationFileReader imported("550x.dat", file);
+  PatternValues expected{};
+  PatternValues values{};
+  ASSERT_TRUE(ComputePattern(*chained.Next(), expected));
+  ASSERT_TRUE(ComputePattern(*imported.Next(), values));
+  for (std::size_t azimuth = 0; azimuth < values.size(); ++azimuth)
+    EXPECT_NEAR(values[azimuth], expected[azimuth], 2e-4) << azimuth;
+}
+
+TEST(AntennaTables, BothOrdersMakeTheSameFiles) {
+  const StationSet expected = ImportTexts(SampleTables(Order::A, false)).files;
+  for (const Order order : {Order::A, Order::B})
+    for (const bool header : {false, true})
+      EXPECT_EQ(ImportTexts(SampleTables(order, header)).files, expected);
+
+  auto reversed = SampleTables(Order::B, false);  // the tables may come in any order too
+  std::reverse(reversed.begin(), reversed.end());
+  EXPECT_EQ(ImportTexts(reversed).files, expected);
+  for (auto& [name, text] : reversed)  // and with CR LF
+    for (std::size_t at = text.find('\n'); at != std::string::npos; at = text.find('\n', at + 2))
+      text.insert(at, "\r");
+  EXPECT_EQ(ImportTexts(reversed).files, expected);
+}
+
+TEST(AntennaTables, EveryKindOfBadRowIsNamed) {
+  const struct {
+    const char* table;
+    const char* from;
+    const char* to;
+    Finding finding;
+    const char* example;
+  } cases[] = {
+      {"am_ant_sys", "|D|40|N|", "|Z|40|N|", Finding::BadField, "am_ant_sys.dat:2: hours_operation \"Z\"\n"},
+      {"am_ant_sys", "|D|40|N|", "|P|40|N|", Finding::OtherHours,
+       "am_ant_sys.dat:2: antenna system 701, hours P\n"},
+      {"am_ant_sys", "|D|40|N|", "|D|400|N|", Finding::BadField,
+       "am_ant_sys.dat:2: latitude: degrees \"400\"\n"},
+      {"am_ant_sys", "|5.0|", "|5,0|", Finding::BadField, "am_ant_sys.dat:2: power \"5,0\"\n"},
+      {"am_ant_sys", "|5.0|", "||", Finding::BadField, "am_ant_sys.dat:2: WQAA, a power of 0 kW\n"},
+      {"am_ant_sys", "DA2|701|", "DA2||", Finding::BadField, "am_ant_sys.dat:2: ant_sys_id \"\"\n"},
+      {"am_ant_sys", "|3|C|", "|3|A|", Finding::NotLicensed,
+       "am_ant_sys.dat:2: antenna system 701, record type A\n"},
+      {"am_ant_sys", "|L|", "|C|", Finding::NotLicensed, "am_ant_sys.dat:2: antenna system 701\n"},
+      {"am_ant_sys", "|501|", "|599|", Finding::NoStation,
+       "am_ant_sys.dat:2: antenna system 701, application 599\n"},
+      {"am_ant_sys", "|^|", "|", Finding::WrongForm, "am_ant_sys.dat:2: the row does not end in |^|\n"},
+      {"am_ant_sys", "DA2|", "", Finding::WrongForm, "am_ant_sys.dat:2: 38 columns, 39 expected\n"},
+      {"am_eng_data", "|901|", "|999|", Finding::NoStation,
+       "am_ant_sys.dat:2: antenna system 701, facility 999\nam_ant_sys.dat:3: antenna system 702, facility "
+       "999\n"},
+      {"am_towers", "|0.9|", "|x|", Finding::BadField, "am_towers.dat:2: field_ratio \"x\"\n"},
+      {"am_towers", "|0.9|", "|-0.9|", Finding::BadField, "am_towers.dat:2: field_ratio \"-0.9\"\n"},
+      {"am_towers", "|-90|", "|-361|", Finding::BadField, "am_towers.dat:2: phasing_deg \"-361\"\n"},
+      {"am_towers", "|2||0|", "|2||2|", Finding::BadField, "am_towers.dat:2: tower_ref_switch \"2\"\n"},
+      {"am_towers", "|2||0|", "|0||0|", Finding::BadField, "am_towers.dat:2: tower_num \"0\"\n"},
+      {"facility", "|550.0|AM|", "|550.0|FM|", Finding::OtherService, "facility.dat:2: service \"FM\"\n"},
+      {"facility", "|550.0|", "|555.0|", Finding::OffRaster,
+       "am_ant_sys.dat:2: WQAA, 555 kHz\nam_ant_sys.dat:3: WQAA, 555 kHz\n"},
+      {"facility", "LICEN", "LICAN", Finding::NotOnAir,
+       "am_ant_sys.dat:2: WQAA, status LICAN\nam_ant_sys.dat:3: WQAA, status LICAN\n"},
+      {"facility", "WQAA", "", Finding::NotOnAir,
+       "am_ant_sys.dat:2: call sign \"\"\nam_ant_sys.dat:3: call sign \"\"\n"},
+      {"am_towers", "|2||0|", "|1||0|", Finding::Superseded, "am_towers.dat:2: tower 1\n"},
+  };
+  for (const auto& [table, from, to, finding, example] : cases) {
+    const TextImport import = WithChange(table, from, to);
+    EXPECT_EQ(import.Examples(finding), example) << table << ' ' << from << ' ' << to;
+    EXPECT_TRUE(import.stations.size() < 3 || import.report.Of(Finding::TowersUnknown).rows == 1)
+        << from << ' ' << to;
+  }
+}
+
+TEST(AntennaTables, AnArrayThatIsNotWholeIsTakenWithoutItsPattern) {
+  const TextImport import = WithChange("am_towers", "701|", "799|");
+  EXPECT_EQ(import.Examples(Finding::TowersUnknown), "am_ant_sys.dat:2: WQAA D, 2 of 3 towers\n");
+  EXPECT_EQ(import.report.Of(Finding::NotReferred).rows, 3);
+  EXPECT_TRUE(
+      import.files.at("550x.dat")
+          .starts_with(
+              "550, WQAA, BRAVO                   , IL  , United States, D, 40.5, 90.25, 5,-,-, 0\r\n550,"));
+}
+
+TEST(AntennaTables, CodesAndHeights) {
+  EXPECT_EQ(WithChange("am_ant_sys", "|D|40|N|", "|R|40|N|").stations[1].hours, 'C');  // behind N
+  EXPECT_EQ(WithChange("facility", "BRAVO", "A\\|B").stations.front().city, "A|B");
+  const auto height = [](const char* to) {
+    return WithChange("am_towers", "|1|80|10|||", to).stations.back().towers.front().height;
+  };
+  EXPECT_EQ(height("|2|||70|15|"), 85);
+  EXPECT_EQ(height("|1|||70|15|"), 85);
+  EXPECT_EQ(height("|0|80|10|||"), 0);
+}
+
+}  // namespace
+}  // namespace kestrel

@@ -1,0 +1,68 @@
+#include "import/Changes.h"
+
+#include <gtest/gtest.h>
+
+namespace kestrel {
+namespace {
+
+const std::string kOne = "1230, QAAA, TOWN, IL, United States, D, 40, 90, 1,-,-, 1\n0,1,90,0,0,0\n";
+const std::string kArray =
+    "1230, QBBB, TOWN, IL, United States, N, 45, 95, 5,-,-, 2\n0,1,90,0,0,0\n0,.5,90,-90,90,40\n";
+
+std::string Differences(const std::string& before, const std::string& after) {
+  return ChangesText(
+      CompareChannel(ReadAntennas(1230, "1230x.dat", before), ReadAntennas(1230, "1230x.dat", after)), 0);
+}
+
+std::string With(std::string text, const std::string& from, const std::string& to) {
+  return text.replace(text.find(from), from.size(), to);
+}
+
+TEST(Changes, EveryKindHasItsLine) {
+  const std::string place = ", TOWN, IL, United States";
+  EXPECT_EQ(Differences(kOne + kArray, kArray + kOne), "No changes\n");
+  EXPECT_EQ(Differences(kOne, kOne + kArray), "new: 1\n  1230 QBBB N" + place + '\n');
+  EXPECT_EQ(Differences(kOne + kArray, kOne), "gone: 1\n  1230 QBBB N" + place + '\n');
+  EXPECT_EQ(Differences(kOne, With(kOne, "40,", "40.1,")), "moved: 1\n  1230 QAAA D" + place + ": 11.1 km\n");
+  EXPECT_EQ(Differences(kOne, With(kOne, "40,", "40.008,")), "No changes\n");  // 0.9 km
+  EXPECT_EQ(Differences(kOne, With(kOne, " 1,-", " 0.25,-")),
+            "power: 1\n  1230 QAAA D" + place + ": 1 kW -> 0.25 kW\n");
+  EXPECT_EQ(Differences(kArray, With(kArray, "-90", "-91")),
+            "pattern: 1\n  1230 QBBB N" + place + ": 2 towers\n");
+  EXPECT_EQ(Differences(kArray, "1230, QBBB, TOWN, IL, United States, N, 45, 95, 5,-,-, 0\n"),
+            "pattern: 1\n  1230 QBBB N" + place + ": 2 towers -> not known\n");
+  EXPECT_EQ(Differences(kOne, With(kOne, "QAAA", "QCCC")),
+            "call sign: 1\n  1230 QCCC D" + place + ": was QAAA\n");
+}
+
+TEST(Changes, ACallSignIsOnlyChangedAtTheSamePlaceAndHours) {
+  EXPECT_EQ(Differences(kOne, With(With(kOne, "QAAA", "QCCC"), "40,", "40.1,")).substr(0, 6), "new: 1");
+  EXPECT_EQ(Differences(kOne, With(With(kOne, "QAAA", "QCCC"), " D,", " N,")).substr(0, 6), "new: 1");
+}
+
+TEST(Changes, APatternIsWhatItRadiatesNotHowItIsWritten) {
+  const std::string others[] = {
+      With(kArray, "0,1,90,0,0,0\n0,.5,90,-90,90,40",
+           "0,2,100,30,0,0\n0,1,100,-60,90,40"),  // scale, turn, heights
+      With(kArray, "0,1,90,0,0,0\n0,.5,90,-90,90,40",
+           "0,1,90,0,10,0\n 1,.5,90,-90,90,40"),                // shifted, chained
+      With(kArray, "0,.5,90,-90,90,40", "0,.5,90,270,90,400"),  // full turns
+  };
+  for (const std::string& other : others) EXPECT_EQ(Differences(kArray, other), "No changes\n") << other;
+  EXPECT_EQ(Differences(kOne, With(kOne, "0,1,90", "0,3,45")), "No changes\n");
+}
+
+TEST(Changes, NamesakesAreTheNearest) {
+  const std::string far = With(kOne, "40,", "30,");
+  EXPECT_EQ(Differences(kOne + far, far + kOne), "No changes\n");
+  EXPECT_EQ(Differences(kOne + far, With(far, " 30,", " 31,") + kOne).substr(0, 8), "moved: 1");
+}
+
+TEST(Changes, TheTextStopsWhereItIsTold) {
+  std::vector<Change> changes(3);
+  for (Change& change : changes) change.callSign = "QAAA";
+  EXPECT_EQ(ChangesText(changes, 2), "new: 3\n  0 QAAA , \n  0 QAAA , \n  and 1 more\n");
+}
+
+}  // namespace
+}  // namespace kestrel

@@ -1,0 +1,207 @@
+#include "import/DataSwap.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QLockFile>
+#include <QTemporaryDir>
+
+#include "data/FileIo.h"
+#include "import/SwapJournal.h"
+
+namespace kestrel {
+namespace {
+
+/// A data folder with a set of station files, each holding the set's name, beside files that no import may
+/// touch.
+class DataSwapTest : public testing::Test {
+ protected:
+  static StationSet Set(const std::string& name) {
+    StationSet set;
+    for (const std::string& file : StationSetNames()) set[file] = name;
+    return set;
+  }
+
+  /// A fresh folder; `old` empty: without station files. One file has its name in other letters.
+  DataFolder Fresh(const std::string& old) {
+    QDir(dir_.path()).removeRecursively();
+    QDir().mkpath(dir_.path());
+    const DataFolder folder(dir_.path());
+    for (const char* name : {"REGION2.dat", "STATES.dat", "Kestrel.lst", "Kestrel.CFG"})
+      EXPECT_TRUE(folder.Write(name, "untouched"));
+    if (old.empty()) return folder;
+    for (const auto& [name, bytes] : Set(old))
+      EXPECT_TRUE(folder.Write(name == "1230x.dat" ? "1230X.DAT" : QString::fromStdString(name), bytes));
+    return folder;
+  }
+
+  /// The name of the set that the folder holds, whole and nothing besides; "" for none, "mixed" else.
+  static std::string Holds(const DataFolder& folder) {
+    std::string holds;
+    int found = 0;
+    for (const std::string& name : StationSetNames()) {
+      const Result<QByteArray> bytes = folder.Read(QString::fromStdString(name));
+      if (!bytes) continue;
+      ++found;
+      if (found > 1 && holds != bytes->toStdString()) return "mixed";
+      holds = bytes->toStdString();
+    }
+    for (const char* name : {"REGION2.dat", "STATES.dat", "Kestrel.lst", "Kestrel.CFG"})
+      EXPECT_EQ(folder.Read(name)->toStdString(), "untouched") << name;
+    const int visible =
+        static_cast<int>(QDir(folder.Path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size());
+    if (visible != 4 + found) return "mixed";
+    return found == 0 ? "" : found == 120 ? holds : "mixed";
+  }
+
+  /// Nothing is left in the folder but the kept set.
+  static void ExpectTidy(const DataFolder& folder, const QStringList& hidden) {
+    EXPECT_EQ(QDir(folder.Path())
+                  .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot)
+                  .filter(".import"),
+              hidden);
+  }
+
+  /// Calls `work` with a step that stops it before its nth change: every one around the turns of the work,
+  /// where a set becomes whole and where the last file has moved, and some of the alike ones between them.
+  template <typename Prepare, typename Work, typename Check>
+  static int StoppedEverywhere(Prepare prepare, Work work, Check check) {
+    const auto next = [](int stop) {
+      const int nearest = (stop + 6) % 121;  // a turn comes after each round of 120 files and a few more
+      return nearest < 14 ? stop + 1 : stop + 37 - stop % 37;
+    };
+    for (int stop = 0;; stop = next(stop)) {
+      const DataFolder folder = prepare();
+      int steps = 0;
+      const bool done = static_cast<bool>(work(folder, [&] { return steps++ != stop; }));
+      check(folder, stop);
+      if (done) return stop;
+    }
+  }
+
+  QTemporaryDir parent_{QDir::tempPath() + "/swap test"};
+  struct {
+    QString folder;
+    QString path() const { return folder; }
+  } dir_{parent_.path() + "/data"};
+};
+
+TEST_F(DataSwapTest, ReplacesKeepsAndBringsBack) {
+  for (const std::string old : {"", "old"}) {
+    const DataFolder folder = Fresh(old);
+    ASSERT_TRUE(SwapInStations(folder, Set("new")));
+    EXPECT_EQ(Holds(folder), "new");
+    ExpectTidy(folder, {".import-undo"});
+    ASSERT_TRUE(UndoImport(folder));
+    EXPECT_EQ(Holds(folder), old);
+    ASSERT_TRUE(UndoImport(folder));
+    EXPECT_EQ(Holds(folder), "new");
+    ASSERT_TRUE(SwapInStations(folder, Set("newer")));
+    EXPECT_EQ(Holds(folder), "newer");
+    ASSERT_TRUE(UndoImport(folder));
+    EXPECT_EQ(Holds(folder), "new");
+    ExpectTidy(folder, {".import-undo"});
+  }
+  EXPECT_EQ(UndoImport(Fresh("old")).error().text, "holds no station files that an import replaced");
+}
+
+TEST_F(DataSwapTest, AnImportStoppedAnywhereIsFinishedOrTakenBack) {
+  for (const std::string old : {"", "old"}) {
+    bool finished = false;
+    const int steps =
+        StoppedEverywhere([&] { return Fresh(old); },
+                          [](const DataFolder& folder, const SwapStep& step) {
+                            return SwapInStations(folder, Set("new"), step);
+                          },
+                          [&](const DataFolder& folder, int stop) {
+                            ASSERT_TRUE(RecoverImport(folder)) << stop;
+                            const std::string holds = Holds(folder);
+                            // Once it is finished it is finished at every later stop.
+                            finished = finished || holds == "new";
+                            ASSERT_EQ(holds, finished ? "new" : old) << stop;
+                            ExpectTidy(folder, finished ? QStringList{".import-undo"} : QStringList{});
+                          });
+    EXPECT_GT(steps, 240);
+    EXPECT_TRUE(finished);
+  }
+}
+
+TEST_F(DataSwapTest, AnUndoStoppedAnywhereIsFinishedOrTakenBack) {
+  for (const std::string old : {"", "old"}) {
+    const auto prepare = [&] {
+      const DataFolder folder = Fresh(old);
+      EXPECT_TRUE(SwapInStations(folder, Set("new")));
+      return folder;
+    };
+    StoppedEverywhere(
+        prepare, [](const DataFolder& folder, const SwapStep& step) { return UndoImport(folder, step); },
+        [&](const DataFolder& folder, int stop) {
+          ASSERT_TRUE(RecoverImport(folder)) << stop;
+          ASSERT_EQ(Holds(folder), stop == 0 ? "new" : old) << stop;
+          ExpectTidy(folder, {".import-undo"});
+          ASSERT_TRUE(UndoImport(folder));
+          ASSERT_EQ(Holds(folder), stop == 0 ? old : "new") << stop;
+        });
+  }
+}
+
+TEST_F(DataSwapTest, ARecoveryStoppedAnywhereIsRecoveredFrom) {
+  for (const int firstStop : {60, 121, 122, 200, 363, 364}) {
+    const auto prepare = [&] {
+      const DataFolder folder = Fresh("old");
+      int steps = 0;
+      EXPECT_FALSE(SwapInStations(folder, Set("new"), [&] { return steps++ != firstStop; })) << firstStop;
+      return folder;
+    };
+    StoppedEverywhere(
+        prepare, [](const DataFolder& folder, const SwapStep& step) { return RecoverImport(folder, step); },
+        [&](const DataFolder& folder, int stop) {
+          ASSERT_TRUE(RecoverImport(folder));
+          ASSERT_EQ(Holds(folder), firstStop < 122 ? "old" : "new") << firstStop << ' ' << stop;
+        });
+  }
+}
+
+TEST_F(DataSwapTest, AFileThatCannotBeReplacedBringsTheOldSetBack) {
+  const DataFolder folder = Fresh("old");
+  ASSERT_TRUE(QFile::remove(folder.Path() + "/550x.dat"));
+  ASSERT_TRUE(QDir(folder.Path()).mkdir("550x.dat"));
+  const Result<Done> outcome = SwapInStations(folder, Set("new"));
+  ASSERT_FALSE(outcome);
+  EXPECT_EQ(outcome.error().Message(), "550x.dat: the file cannot be moved");
+  EXPECT_EQ(folder.Read("1700x.dat")->toStdString(), "old");
+  EXPECT_EQ(folder.Read("1000x.dat")->toStdString(), "old");
+  ExpectTidy(folder, {});
+}
+
+TEST_F(DataSwapTest, TwoImportsDoNotMeet) {
+  const DataFolder folder = Fresh("old");
+  QLockFile other(folder.Path() + "/.import-lock");
+  ASSERT_TRUE(other.tryLock(0));
+  QDir(folder.Path()).mkdir(".import-new");
+  EXPECT_FALSE(SwapInStations(folder, Set("new")));
+  EXPECT_FALSE(UndoImport(folder));
+  EXPECT_TRUE(RecoverImport(folder));
+  EXPECT_TRUE(QFileInfo::exists(folder.Path() + "/.import-new"));  // the other one's
+  EXPECT_EQ(folder.Read("530x.dat")->toStdString(), "old");
+}
+
+TEST_F(DataSwapTest, ADamagedJournalTouchesNothing) {
+  const std::string whole = JournalText({false, ".import-new", {"530X.DAT"}, {"530x.dat", "540x.dat"}});
+  for (std::size_t length = 0; length + 1 < whole.size(); ++length)
+    EXPECT_FALSE(ReadJournal(whole.substr(0, length))) << length;
+  const auto read = ReadJournal(whole);
+  ASSERT_TRUE(read);
+  EXPECT_EQ(JournalText(*read), whole);
+  EXPECT_FALSE(ReadJournal("moving\nfrom .import-new\nnew ../../x\nend\n"));
+
+  const DataFolder folder = Fresh("old");
+  ASSERT_TRUE(folder.Write(".import-journal", "moving\n"));
+  EXPECT_EQ(RecoverImport(folder).error().Message(),
+            ".import-journal: is damaged; remove it to go on with the files as they are");
+  EXPECT_EQ(folder.Read("530x.dat")->toStdString(), "old");
+}
+
+}  // namespace
+}  // namespace kestrel

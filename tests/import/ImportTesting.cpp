@@ -1,0 +1,120 @@
+#include "ImportTesting.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <sstream>
+
+#include "import/Merge.h"
+#include "import/ReadFiles.h"
+#include "import/TableColumns.h"
+
+namespace kestrel {
+
+std::string ListRow::Text() const {
+  const std::string front = "|" + call + " |" + frequency + " |" + service + " |    |UNL |" + hours +
+                            " |B |- |" + status + " |" + city + " |" + state + " |" + country + " |BL-1 |" +
+                            power + " |" + directional + " | |- |" + facility + " |" + latitude + " |" +
+                            longitude + " |Somebody, Inc. | 0.00 km | 0.00 mi | 0.00 deg |1403084 |";
+  return front + (older ? "\n" : "00dc |a12c |\n");
+}
+
+std::string TableText::Text() const {
+  const auto& known = KnownTables();
+  const auto table =
+      std::find_if(known.begin(), known.end(), [&](const TableColumns& t) { return t.name == name; });
+  std::vector<std::string> columns(table->columns.begin(), table->columns.end());
+  if (order == Order::B) std::sort(columns.begin(), columns.end());
+  std::string text;
+  if (header) {
+    for (const std::string& column : columns) text += column + '|';
+    text += "^|\n";
+  }
+  for (const std::string& row : rows) {
+    std::map<std::string, std::string> values;
+    std::istringstream parts(row);
+    for (std::string part; parts >> part;) {
+      const std::size_t equals = part.find('=');
+      values[part.substr(0, equals)] = part.substr(equals + 1);
+    }
+    for (const std::string& column : columns) text += values[column] + '|';
+    text += "^|\n";
+  }
+  return text;
+}
+
+std::vector<std::pair<std::string, std::string>> SampleTables(Order order, bool header) {
+  const std::string site =
+      " lat_deg=40 lat_dir=N lat_min=30 lat_sec=0.0 lon_deg=90 lon_dir=W lon_min=15 lon_sec=0.0";
+  const std::string abroad =
+      " lat_deg=31 lat_dir=N lat_min=44 lat_sec=10.5 lon_deg=106 lon_dir=W lon_min=29 lon_sec=5.25";
+  const std::string date = " last_update_date=01/02/2024";
+  const auto table = [&](const std::string& name, std::vector<std::string> rows) {
+    return std::pair(name + ".dat", TableText{name, order, header, std::move(rows)}.Text());
+  };
+  return {table("am_ant_sys", {"ant_mode=DA2 ant_sys_id=701 application_id=501 hours_operation=D power=5.0 "
+                               "tower_count=3 eng_record_type=C "
+                               "am_dom_status=L ant_dir_ind=Y" +
+                                   site + date,
+                               "ant_mode=DA2 ant_sys_id=702 application_id=501 hours_operation=N power=0.5 "
+                               "tower_count=1 eng_record_type=C "
+                               "am_dom_status=L ant_dir_ind=N" +
+                                   site + date,
+                               "ant_mode=ND1 ant_sys_id=703 application_id=502 hours_operation=U power=50.0 "
+                               "tower_count=1 eng_record_type=C" +
+                                   abroad + date}),
+          table("am_towers", {"ant_sys_id=701 tower_num=2 field_ratio=0.9 phasing_deg=-90 spacing_deg=90 "
+                              "orientation_deg=40 elec_hgt_deg=90 "
+                              "tower_ref_switch=0" +
+                                  date,
+                              "ant_sys_id=701 tower_num=1 field_ratio=1.0 phasing_deg=0 spacing_deg=0 "
+                              "orientation_deg=0 elec_hgt_deg=90 "
+                              "tower_ref_switch=0" +
+                                  date,
+                              "ant_sys_id=701 tower_num=3 field_ratio=0.7 phasing_deg=15 spacing_deg=120 "
+                              "orientation_deg=130 elec_hgt_deg=95.5 "
+                              "tower_ref_switch=1" +
+                                  date,
+                              "ant_sys_id=702 tower_num=1 field_ratio=1.0 elec_hgt_deg=90" + date,
+                              "ant_sys_id=703 tower_num=1 field_ratio=0 elec_hgt_deg=0 top_loaded_switch=1 "
+                              "topload_a=80 topload_b=10" +
+                                  date}),
+          table("am_eng_data", {"application_id=501 facility_id=901 am_dom_status=L" + date,
+                                "application_id=502 facility_id=902" + date}),
+          table("facility", {"facility_id=901 fac_callsign=WQAA fac_country=US fac_frequency=550.0 "
+                             "fac_service=AM fac_status=LICEN comm_city=BRAVO "
+                             "comm_state=IL",
+                             "facility_id=902 fac_callsign=XQBB fac_country=MX fac_frequency=800.0 "
+                             "fac_service=AM comm_city=CHARLIE"})};
+}
+
+std::string TextImport::Examples(Finding finding) const {
+  std::string all;
+  for (const std::string& example : report.Of(finding).examples) all += example + '\n';
+  return all;
+}
+
+TextImport ImportTexts(const std::vector<std::pair<std::string, std::string>>& texts,
+                       const ImportOptions& options) {
+  TextImport import;
+  Readings readings;
+  for (const auto& [name, text] : texts) {
+    MemoryStream stream(text);
+    ReadSourceFile(stream, name, options, readings, import.report);
+  }
+  import.stations = MergeStations(std::move(readings.amq), readings.tables, options, import.report);
+  import.files = MakeStationSet(import.stations, "A test", import.report);
+  return import;
+}
+
+void ExpectCountsAddUp(const ImportReport& report) {
+  for (const ImportReport::File& file : report.Files())
+    EXPECT_EQ(file.rows, file.taken + file.leftOut) << file.name;
+  int reasons = 0;
+  for (std::size_t i = 0; i <= static_cast<std::size_t>(Finding::LastLeftOut); ++i)
+    reasons += report.Of(static_cast<Finding>(i)).rows;
+  EXPECT_EQ(report.Total().leftOut, reasons);
+}
+
+}  // namespace kestrel

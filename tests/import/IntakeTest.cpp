@@ -1,0 +1,171 @@
+#include "import/Intake.h"
+
+#include <gtest/gtest.h>
+#include <zip.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "ImportTesting.h"
+#include "data/FileIo.h"
+#include "import/Import.h"
+
+namespace kestrel {
+namespace {
+
+struct ZipEntry {
+  std::string name;
+  std::string bytes;
+  bool encrypted = false;
+};
+
+class IntakeTest : public testing::Test {
+ protected:
+  QString Plain(const QString& name, const std::string& bytes) {
+    EXPECT_TRUE(WriteFile(dir_.filePath(name), bytes));
+    return dir_.filePath(name);
+  }
+
+  QString Zip(const QString& name, const std::vector<ZipEntry>& entries) {
+    const QString path = dir_.filePath(name);
+    zip_t* archive = zip_open(QFile::encodeName(path).constData(), ZIP_CREATE | ZIP_TRUNCATE, nullptr);
+    for (const ZipEntry& entry : entries) {
+      if (entry.name.ends_with('/')) {
+        zip_dir_add(archive, entry.name.c_str(), 0);
+        continue;
+      }
+      zip_source_t* source = zip_source_buffer(archive, entry.bytes.data(), entry.bytes.size(), 0);
+      const zip_int64_t index = zip_file_add(archive, entry.name.c_str(), source, 0);
+      if (entry.encrypted)
+        zip_file_set_encryption(archive, static_cast<zip_uint64_t>(index), ZIP_EM_TRAD_PKWARE, "secret");
+    }
+    EXPECT_EQ(zip_close(archive), 0);
+    return path;
+  }
+
+  std::string Bytes(const QString& path) { return ReadFile(path)->toStdString(); }
+
+  ImportOutcome Run(const QStringList& files, bool dryRun = true) {
+    return RunImport({files, {}, dryRun}, DataFolder(dir_.path()));
+  }
+
+  QTemporaryDir dir_{QDir::tempPath() + "/import test"};
+};
+
+TEST_F(IntakeTest, AZipGivesWhatItsFilesGive) {
+  const auto tables = SampleTables(Order::B, false);
+  std::vector<ZipEntry> entries = {{"am/", ""}};
+  QStringList plain;
+  for (const auto& [name, text] : tables) {
+    entries.push_back({"am/" + name, text});
+    plain << Plain(QString::fromStdString(name), text);
+  }
+  entries.push_back({"../../readme", "Nothing to see\n"});
+  const ImportOutcome zipped = Run({Zip("no suffix", entries)});
+  ASSERT_FALSE(zipped.failure) << zipped.failure->Message();
+  EXPECT_EQ(zipped.report.records, 3);
+  EXPECT_EQ(zipped.report.Total().rows, Run(plain).report.Total().rows);
+  EXPECT_EQ(zipped.report.Files().front().name, "no suffix/am/am_ant_sys.dat");
+  ASSERT_EQ(zipped.report.Refusals().size(), 1U);
+  EXPECT_EQ(zipped.report.Refusals().front().file, "no suffix/../../readme");
+}
+
+TEST_F(IntakeTest, WhatCannotBeReadStopsTheImportAndIsNamed) {
+  const std::string list = ListRow{}.Text();
+  const QString good = Plain("amq.txt", list);
+  std::string half = Bytes(Zip("whole.zip", {{"a", list + list}}));
+  half.resize(half.size() / 2);
+  std::string flipped = Bytes(Zip("stored.zip", {{"a", list}}));
+  flipped[40] = static_cast<char>(flipped[40] ^ 0x55);
+  const struct {
+    QString file;
+    const char* message;
+  } cases[] = {
+      {dir_.filePath("none.txt"), "none.txt: there is no such file"},
+      {dir_.path(), ": is a folder or a device, not a file"},
+      {Plain("half.zip", half), "half.zip: a damaged zip: Not a zip archive"},
+      {Plain("flipped.zip", flipped), "flipped.zip/a: is damaged: "},
+      {Zip("secret.zip", {{"a", list, true}}),
+       "secret.zip/a: is encrypted; unpack it and give the file itself"},
+  };
+  for (const auto& [file, message] : cases) {
+    const ImportOutcome outcome = Run({good, file}, false);
+    ASSERT_TRUE(outcome.failure) << message;
+    EXPECT_NE(outcome.failure->Message().find(message), std::string::npos) << outcome.failure->Message();
+    EXPECT_EQ(outcome.report.Refusals().size(), 1U);
+    EXPECT_EQ(outcome.report.records, 1);  // the report tells of the others all the same
+    EXPECT_FALSE(DataFolder(dir_.path()).Has("1230x.dat"));
+  }
+}
+
+TEST_F(IntakeTest, ABombIsRefusedBeforeItIsUnpacked) {
+  const std::string zeros(2 << 20, '\0');
+  const QString path = Zip("bomb.zip", {{"a", zeros}, {"b", zeros}});
+  EXPECT_LT(QFileInfo(path).size(), 10'000);
+  EXPECT_TRUE(OpenIntake(path, 4 << 20));
+  const auto refused = OpenIntake(path, (4 << 20) - 1);
+  ASSERT_FALSE(refused);
+  EXPECT_EQ(refused.error().Message(),
+            "bomb.zip: a zip that unpacks to more than 3 MB, the most that is read");
+  EXPECT_EQ(OpenIntake(Plain("long.txt", zeros), 1 << 20).error().Message(),
+            "long.txt: is larger than 1 MB, the most that is read");
+
+  // A zip that hides the size of what is in it: the length in the directory and in front of the data made 5.
+  std::string liar = Bytes(Zip("liar.zip", {{"a", zeros}}));
+  const std::string size("\0\0\x20\0", 4);
+  for (std::size_t at = liar.find(size); at != std::string::npos; at = liar.find(size, at + 4))
+    liar.replace(at, 4, std::string("\5\0\0\0", 4));
+  const auto hiding = OpenIntake(Plain("liar.zip", liar));
+  EXPECT_FALSE(hiding && (*hiding)->Open(0));
+
+  std::vector<ZipEntry> many(1001, {"", ""});
+  for (std::size_t i = 0; i < many.size(); ++i) many[i].name = std::to_string(i);
+  EXPECT_EQ(OpenIntake(Zip("many.zip", many)).error().Message(),
+            "many.zip: a zip of 1001 files, at most 1000 are read");
+}
+
+TEST_F(IntakeTest, AZipInAZipIsNotOpened) {
+  const std::string inner = Bytes(Zip("inner.zip", {{"a", ListRow{}.Text()}}));
+  const ImportOutcome outcome = Run({Zip("outer.zip", {{"inner.zip", inner}, {"amq.txt", ListRow{}.Text()}}),
+                                     Zip("dir.zip", {{"x/", ""}})});
+  ASSERT_FALSE(outcome.failure);
+  ASSERT_EQ(outcome.report.Refusals().size(), 2U);
+  EXPECT_EQ(outcome.report.Refusals()[0].reason, "is a zip without files");
+  EXPECT_EQ(outcome.report.Refusals()[1].reason, "is a zip inside a zip; unpack the outer one first");
+}
+
+TEST_F(IntakeTest, EveryTruncationOfAZipIsNamedOrRead) {
+  const std::string whole = Bytes(Zip("whole.zip", {{"a", ListRow{}.Text()}, {"b", ListRow{}.Text()}}));
+  for (std::size_t length = 0; length < whole.size(); ++length) {
+    const ImportOutcome outcome = Run({Plain("cut.zip", whole.substr(0, length))});
+    ASSERT_TRUE(outcome.failure) << length;
+    ASSERT_EQ(outcome.report.Refusals().size(), 1U) << length;
+  }
+}
+
+TEST_F(IntakeTest, AnImportIsWrittenUnlessItIsDryOrCancelled) {
+  const QString list = Plain("amq.txt", ListRow{}.Text());
+  const DataFolder folder(dir_.path());
+  EXPECT_FALSE(Run({list}).failure);
+  EXPECT_FALSE(folder.Has("1230x.dat"));
+  for (int call = 0; call < 3; ++call) {
+    int calls = 0;
+    const ImportOutcome cancelled =
+        RunImport({{list}, {}, false}, folder, [&](double, std::string_view) { return calls++ != call; });
+    ASSERT_TRUE(cancelled.failure);
+    EXPECT_EQ(cancelled.failure->Message(), "cancelled; the station files are as they were");
+    EXPECT_FALSE(folder.Has("1230x.dat"));
+  }
+  const ImportOutcome outcome = Run({list}, false);
+  EXPECT_FALSE(outcome.failure);
+  EXPECT_TRUE(folder.Has("1230x.dat"));
+  EXPECT_EQ(outcome.changes.size(), 1U);
+  EXPECT_EQ(folder.StationsLine(), outcome.stationsLine);
+  EXPECT_TRUE(outcome.stationsLine.ends_with(", 1 stations")) << outcome.stationsLine;
+  EXPECT_TRUE(Run({list}, false).changes.empty());
+  EXPECT_EQ(Run({Plain("notes", "x\n")}, false).failure->Message(),
+            "no station was found; the station files are as they were");
+}
+
+}  // namespace
+}  // namespace kestrel

@@ -1,0 +1,174 @@
+#include "import/Merge.h"
+
+#include <gtest/gtest.h>
+
+#include "ImportTesting.h"
+
+namespace kestrel {
+namespace {
+
+/// A list row of the sample tables' directional station by day, elsewhere and with another power.
+ListRow ListedWqaa() {
+  return {.call = "WQAA",
+          .frequency = "550 kHz",
+          .hours = "Daytime",
+          .city = "DELTA",
+          .power = "2.5 kW",
+          .directional = "Directional",
+          .facility = "901",
+          .latitude = "N|41|0|0",
+          .longitude = "W|91|0|0"};
+}
+
+/// "DN2": the hours of the stations with this call sign, in order, and the tower count of the first.
+std::string Summary(const TextImport& import, const std::string& call) {
+  std::string text;
+  for (const Station& station : import.stations)
+    if (station.callSign == call) text += station.hours + std::to_string(station.towers.size());
+  return text;
+}
+
+TextImport WithTables(const std::string& list, const ImportOptions& options = {}) {
+  auto texts = SampleTables(Order::A, false);
+  texts.emplace_back("amq.txt", list);
+  TextImport import = ImportTexts(texts, options);
+  ExpectCountsAddUp(import.report);
+  return import;
+}
+
+TEST(Merge, TheListGivesTheStationAndTheTablesItsTowers) {
+  const TextImport import = WithTables(ListedWqaa().Text());
+  EXPECT_TRUE(import.files.at("550x.dat")
+                  .starts_with("550, WQAA, DELTA                   , IL  , United States, D, 41, 91, "
+                               "2.5,-,-, 3\r\n0,1,90,0,0,0\r\n"));
+  EXPECT_EQ(Summary(import, "WQAA"), "D3N1");  // the night comes from the tables alone
+}
+
+TEST(Merge, JoinsByCallSignWhereTheFacilityIsNotKnown) {
+  ListRow row = ListedWqaa();
+  for (const char* facility : {"", "0", "-", "777"}) {
+    row.facility = facility;
+    EXPECT_TRUE(Summary(WithTables(row.Text()), "WQAA").starts_with("D3")) << facility;
+  }
+  row.frequency = "560 kHz";
+  EXPECT_EQ(WithTables(row.Text()).report.Of(Finding::TowersUnknown).rows, 1);
+  row.frequency = "550 kHz";
+  ListRow namesake = row;  // with two of the name no one can tell whose towers they are
+  namesake.city = "ELSEWHERE";
+  namesake.facility = "778";
+  EXPECT_EQ(WithTables(row.Text() + namesake.Text()).report.Of(Finding::TowersUnknown).rows, 2);
+}
+
+TEST(Merge, WithoutTowersTheListSaysWhatIsKnown) {
+  ListRow row{.directional = "Directional"};
+  const TextImport directional = WithTables(row.Text());
+  EXPECT_EQ(Summary(directional, "QAAA"), "U0");
+  EXPECT_EQ(directional.Examples(Finding::TowersUnknown), "amq.txt:1: QAAA U\n");
+  row.directional = "";
+  EXPECT_TRUE(WithTables(row.Text())
+                  .files.at("1230x.dat")
+                  .ends_with(", U, 39.7817, 89.6501, 1,-,-, 1\r\n0,1,90,0,0,0\r\n"));
+
+  ListRow listed = ListedWqaa();
+  listed.directional = "";
+  EXPECT_EQ(WithTables(listed.Text()).Examples(Finding::TowersDisagree), "amq.txt:1: WQAA D, 3 towers\n");
+}
+
+TEST(Merge, ManyTowersLeaveThePatternOpen) {
+  auto texts = SampleTables(Order::A, true);
+  for (auto& [name, text] : texts) {
+    if (name == "am_ant_sys.dat") text.replace(text.find("|3|C|"), 5, "|13|C|");
+    if (name != "am_towers.dat") continue;
+    for (int number = 4; number <= 13; ++number)
+      text += "701||90|1.0|||||0|0||" + std::to_string(number) + "|0|||||" + std::to_string(number) +
+              "||0|||||01/02/2024|^|\n";
+  }
+  const TextImport import = ImportTexts(texts);
+  EXPECT_EQ(Summary(import, "WQAA"), "D0N1");
+  EXPECT_EQ(import.Examples(Finding::TooManyTowers), "am_ant_sys.dat:2: WQAA D, 13 towers\n");
+  ExpectCountsAddUp(import.report);
+}
+
+TEST(Merge, TheBestStatusCountsAndOfEqualsTheLast) {
+  const auto listed = [](const char* status, const char* power) {
+    return ListRow{.status = status, .power = power}.Text();
+  };
+  const ImportOptions permits{.includePermits = true};
+  const auto power = [&](const std::string& text) {
+    const TextImport import = ImportTexts({{"amq.txt", text}}, permits);
+    EXPECT_EQ(import.stations.size(), 1U);
+    ExpectCountsAddUp(import.report);
+    return import.stations.front().powerKW;
+  };
+  EXPECT_EQ(
+      power(listed("CP", "4 kW") + listed("MOD", "3 kW") + listed("LIC", "1 kW") + listed("STA", "2 kW")), 1);
+  EXPECT_EQ(power(listed("CP", "4 kW") + listed("STA", "2 kW") + listed("MOD", "3 kW")), 2);
+  EXPECT_EQ(power(listed("CP", "4 kW") + listed("MOD", "3 kW")), 3);
+  EXPECT_EQ(power(listed("LIC", "1 kW") + listed("LIC", "5 kW")), 5);
+}
+
+TEST(Merge, TheLastListCountsMost) {
+  const std::string old = ListRow{.power = "1 kW"}.Text();
+  const TextImport later =
+      ImportTexts({{"old", old}, {"new", ListRow{.status = "STA", .power = "2 kW"}.Text()}});
+  ASSERT_EQ(later.stations.size(), 1U);
+  EXPECT_EQ(later.stations.front().powerKW, 2);
+  EXPECT_EQ(later.Examples(Finding::Superseded), "old:1: QAAA 1230 U\n");
+
+  // Day and night in place of unlimited.
+  const std::string split = ListRow{.hours = "Daytime"}.Text() + ListRow{.hours = "Nighttime"}.Text();
+  EXPECT_EQ(Summary(ImportTexts({{"old", old}, {"new", split}}), "QAAA"), "D1N1");
+  EXPECT_EQ(Summary(ImportTexts({{"old", split}, {"new", old}}), "QAAA"), "U1");
+  EXPECT_EQ(Summary(ImportTexts({{"one", old + split}}), "QAAA"), "D1N1U1");  // one list is taken at its word
+}
+
+TEST(Merge, StationsOfOneCallSignAtDifferentPlacesStayApart) {
+  const std::string text =
+      ListRow{.call = "XE", .status = "CP", .city = "A", .country = "MX", .facility = "0"}.Text() +
+      ListRow{.call = "XE", .status = "CP", .city = "B", .country = "MX", .facility = "0"}.Text();
+  EXPECT_EQ(ImportTexts({{"amq.txt", text}}).stations.size(), 2U);
+}
+
+TEST(Merge, TheListOverrulesTheTablesOnWhoIsOnTheAir) {
+  ListRow row = ListedWqaa();
+  row.status = "CNL";
+  const TextImport cancelled = WithTables(row.Text());
+  EXPECT_EQ(Summary(cancelled, "WQAA"), "");
+  EXPECT_EQ(cancelled.Examples(Finding::NotOnAir),
+            "amq.txt:1: WQAA, status CNL\nam_ant_sys.dat:1: WQAA 550 D, by the AM Query list\n"
+            "am_ant_sys.dat:2: WQAA 550 N, by the AM Query list\n");
+  row.status = "LIC";
+  row.hours = "Unlimited";  // in place of the tables' day and night
+  const TextImport unlimited = WithTables(row.Text());
+  EXPECT_EQ(Summary(unlimited, "WQAA"), "U0");
+  EXPECT_EQ(unlimited.report.Of(Finding::Superseded).rows, 2);
+}
+
+TEST(Merge, SilentStationsAndPermitsOnlyWhenWanted) {
+  const auto with = [](const std::string& table, const std::string& from, const std::string& to,
+                       const ImportOptions& options) {
+    auto texts = SampleTables(Order::A, true);
+    for (auto& [name, text] : texts)
+      if (name == table)
+        for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size()))
+          text.replace(at, from.size(), to);
+    const TextImport import = ImportTexts(texts, options);
+    ExpectCountsAddUp(import.report);
+    return Summary(import, "WQAA");
+  };
+  EXPECT_EQ(with("facility.dat", "LICEN", "LICSL", {}), "");
+  EXPECT_EQ(with("facility.dat", "LICEN", "LICSL", {.includeSilent = true}), "D3N1");
+  EXPECT_EQ(with("am_ant_sys.dat", "|L|", "|C|", {}), "");
+  EXPECT_EQ(with("am_ant_sys.dat", "|L|", "|C|", {.includePermits = true}), "D3N1");
+  EXPECT_EQ(with("am_ant_sys.dat", "|L|", "||", {}), "");  // only abroad it is blank
+  EXPECT_EQ(with("am_eng_data.dat", "|L|", "|C|", {}), "");
+  EXPECT_EQ(with("facility.dat", "|US|", "|MX|", {}), "");
+
+  // A permit's list row does not take the towers of the licence.
+  ListRow row = ListedWqaa();
+  row.status = "CP";
+  EXPECT_EQ(Summary(WithTables(row.Text(), {.includePermits = true}), "WQAA"), "D0N1");
+}
+
+}  // namespace
+}  // namespace kestrel

@@ -1,0 +1,88 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <sstream>
+#include <tuple>
+
+#include "ImportTesting.h"
+#include "data/StationFile.h"
+
+// Real lists, where this machine has them.
+
+namespace kestrel {
+namespace {
+
+class SampleData : public testing::Test {
+ protected:
+  void SetUp() override {
+    if (!std::filesystem::is_directory(folder_) || folder_.empty())
+      GTEST_SKIP() << "no real lists here; name their folder with -DKESTREL_SAMPLE_DATA=...";
+  }
+
+  std::string Read(const std::string& name) const {
+    std::ifstream file(folder_ / name, std::ios::binary);
+    EXPECT_TRUE(file) << name;
+    std::ostringstream text;
+    text << file.rdbuf();
+    return text.str();
+  }
+
+  const std::filesystem::path folder_ = KESTREL_SAMPLE_DATA;
+};
+
+TEST_F(SampleData, EveryRowOfTheRealListsIsAccountedFor) {
+  for (const auto& [name, rows] :
+       {std::pair{"amq-rows-ne-sd-ks.txt", 272}, std::pair{"amq-band-2026-08.txt", 20785}}) {
+    const TextImport import = ImportTexts({{name, Read(name)}});
+    ExpectCountsAddUp(import.report);
+    EXPECT_EQ(import.report.Total().rows, rows);
+    EXPECT_EQ(import.report.Total().taken, static_cast<int>(import.stations.size()));
+    EXPECT_EQ(import.report.Of(Finding::WrongForm).rows + import.report.Of(Finding::BadField).rows, 0);
+  }
+}
+
+TEST_F(SampleData, PositionsAgreeWithTheReadyBand) {
+  const TextImport import = ImportTexts({{"amq", Read("amq-band-2026-08.txt")}});
+  int compared = 0;
+  for (const auto& [name, text] : import.files) {
+    if (!name.ends_with("x.dat")) continue;
+    using Key = std::tuple<std::string, std::string, std::string>;
+    std::multimap<Key, StationRecord> ready;
+    const std::string readyText = Read("real-band/" + name);
+    StationFileReader readyReader(name, readyText);
+    while (const StationRecord* r = readyReader.Next())
+      ready.emplace(Key{r->CallSign, r->City, r->HoursCode}, *r);
+    StationFileReader reader(name, text);
+    while (const StationRecord* r = reader.Next()) {
+      const auto [first, last] = ready.equal_range({r->CallSign, r->City, r->HoursCode});
+      bool found = first == last;  // a name that one of the two has mended
+      for (auto at = first; at != last && !found; ++at)
+        found = std::abs(at->second.Latitude - r->Latitude) <= 1.1e-4F &&
+                std::abs(at->second.Longitude - r->Longitude) <= 1.1e-4F;
+      EXPECT_TRUE(found) << name << ' ' << r->CallSign << ' ' << r->City << ' ' << r->Latitude << ' '
+                         << r->Longitude;
+      compared += first != last;
+    }
+    EXPECT_TRUE(reader.Notes().empty());
+  }
+  EXPECT_GT(compared, 20600);
+}
+
+TEST_F(SampleData, BothOrdersOfTheTablesMakeTheSameFiles) {
+  std::vector<std::pair<std::string, std::string>> a;
+  std::vector<std::pair<std::string, std::string>> b;
+  for (const char* table : {"am_ant_sys", "am_towers", "am_augs", "am_eng_data", "application", "facility"}) {
+    a.emplace_back(table, Read("tables-a/" + std::string(table) + ".dat"));
+    b.emplace_back(table, Read("tables-b/gis_" + std::string(table) + ".dat"));
+  }
+  const TextImport import = ImportTexts(a);
+  EXPECT_EQ(import.files, ImportTexts(b).files);
+  EXPECT_EQ(import.stations.size(), 6U);
+  ExpectCountsAddUp(import.report);
+}
+
+}  // namespace
+}  // namespace kestrel

@@ -1,0 +1,110 @@
+#include "import/StationSet.h"
+
+#include <gtest/gtest.h>
+
+#include "ImportTesting.h"
+#include "core/Lines.h"
+#include "data/PlaceLists.h"
+#include "data/StationFile.h"
+#include "data/StationLineText.h"
+
+namespace kestrel {
+namespace {
+
+TEST(StationLineText, FieldsHaveTheirWidths) {
+  StationRecord record;
+  record.CallSign = "CFTR-AX2";
+  record.City = "HEROICA PUEBLA DE LOS \xC3\x81NGELES Y";
+  record.State = "A,B";
+  record.HoursCode = "D";
+  record.Longitude = 144.75644F;
+  record.PowerKW = 0.00001F;
+  FieldChanges changes;
+  EXPECT_EQ(StationRecordText(1230, record, changes),
+            "1230, CFTR-AX, HEROICA PUEBLA DE LOS \xC3\x81N, A B , -            , D, 0.0001, 144.7564, "
+            "0.0001,-,-, 0\r\n");
+  EXPECT_EQ(changes.cut, 2);
+  EXPECT_EQ(changes.blanked, 1);
+  EXPECT_EQ(changes.empty, 1);
+
+  record.Latitude = -33.40004F;
+  record.Longitude = -144.75644F;
+  record.PowerKW = 1234.56F;
+  record.TowerCount = 1;
+  record.Switch[1] = "3";
+  record.Fields[1] = 1e-9F;
+  record.Phases[1] = -0.00001F;
+  EXPECT_TRUE(StationRecordText(530, record, changes)
+                  .ends_with(", D, -33.4, -144.756, 1234.6,-,-, 1\r\n 3,0.000001,0,0,0,0\r\n"));
+}
+
+TEST(StationLineText, WhatIsReadIsWrittenAgain) {
+  const std::string text = ImportTexts(SampleTables(Order::A, false)).files.at("550x.dat");
+  StationFileReader reader("550x.dat", text);
+  std::string again;
+  FieldChanges changes;
+  while (const StationRecord* record = reader.Next()) again += StationRecordText(550, *record, changes);
+  EXPECT_EQ(again, text);
+  EXPECT_TRUE(reader.Notes().empty());
+}
+
+TEST(StationSet, HoldsEveryChannelAndNothingElse) {
+  const TextImport import = ImportTexts({{"amq.txt", ListRow{}.Text()}});
+  EXPECT_EQ(import.files.size(), 120U);
+  EXPECT_EQ(import.files.at("530x.dat"), "");
+  EXPECT_EQ(import.files.at("1700x.dat"), "");
+  EXPECT_EQ(import.files.at("Stations.txt"), "A test\r\n");
+}
+
+TEST(StationSet, NamesThatDoNotFitAreReported) {
+  const TextImport import =
+      ImportTexts({{"amq.txt", ListRow{.call = "QABC-FM2", .city = "ST. JOHN, N.B."}.Text() +
+                                   ListRow{.city = "", .facility = "2"}.Text()}});
+  EXPECT_EQ(import.Examples(Finding::NameCut), "amq.txt:1: QABC-FM2, ST. JOHN, N.B., IL\n");
+  EXPECT_EQ(import.Examples(Finding::NameBlanked), "amq.txt:1: QABC-FM2, ST. JOHN, N.B., IL\n");
+  EXPECT_EQ(import.Examples(Finding::NameEmpty), "amq.txt:2: QAAA, , IL\n");
+}
+
+TEST(CallIndex, ALineForEachSiteInTheColumnsOfTheReader) {
+  const std::string text =
+      ListRow{.call = "QZZZ", .hours = "Daytime", .facility = "1"}.Text() +
+      ListRow{.call = "QZZZ", .hours = "Nighttime", .power = "0.25 kW", .facility = "1"}.Text() +
+      ListRow{.call = "QBBB",
+              .status = "CP",
+              .city = "S\xC3\x83O JO\xC3\x83O DOS CAMPOS GERAIS",
+              .state = "-",
+              .country = "BR",
+              .facility = "2",
+              .latitude = "S|23|30|0",
+              .longitude = "W|46|37|0"}
+          .Text() +
+      ListRow{.call = "QCCC", .city = "ICE", .facility = "3", .longitude = "W|25|0|0"}.Text();
+  const TextImport import = ImportTexts({{"amq.txt", text}});
+  const std::string& index = import.files.at("StationsCall.DAT");
+  EXPECT_EQ(import.report.stations, 3);
+  const auto entries = ReadPlaceList(index, MaxCalls);
+  ASSERT_EQ(entries->size(), 2U);  // Iceland's longitude is no home of the program
+  const Place first = CutCall(entries->at(0));
+  EXPECT_EQ(first.CallSign, "QBBB    ");
+  EXPECT_EQ(first.Name, "S\xC3\xA3o Jo\xC3\xA3o Dos Campo Brazil");
+  EXPECT_EQ(first.LatitudeText, "-23.5");
+  EXPECT_EQ(first.LongitudeText, "46.6167");
+  EXPECT_EQ(entries->at(1), "QZZZ     1230 Springfield IL                 1 kW DN   39.7817   89.6501");
+  EXPECT_TRUE(index.ends_with("\r\n"));
+}
+
+TEST(CallIndex, TheMostPowerfulComeFirstWhenThereAreTooMany) {
+  std::string text;
+  for (int i = 0; i < 9001; ++i)
+    text += ListRow{.call = "Q" + std::to_string(i),
+                    .power = i == 4711 ? "0.1 kW" : "1 kW",
+                    .facility = std::to_string(i + 1)}
+                .Text();
+  const auto entries = ReadPlaceList(ImportTexts({{"amq.txt", text}}).files.at("StationsCall.DAT"), MaxCalls);
+  ASSERT_TRUE(entries);
+  EXPECT_EQ(entries->size(), MaxCalls);
+  for (const std::string& entry : *entries) EXPECT_NE(CutCall(entry).CallSign, "Q4711   ");
+}
+
+}  // namespace
+}  // namespace kestrel
