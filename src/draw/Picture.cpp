@@ -10,6 +10,7 @@
 #include "data/FileIo.h"
 #include "draw/PainterCanvas.h"
 #include "draw/PngFile.h"
+#include "draw/RasterCanvas.h"
 #include "draw/SvgCanvas.h"
 
 namespace kestrel {
@@ -28,23 +29,17 @@ SurfaceRules RulesFor(QSizeF size, double pixelSize = 1) {
 
 QByteArray PngBytes(const DisplayList& drawing, QSize size) {
   constexpr int kMostPixels = 16 << 20;  // drawn at a time, 64 MB
-  constexpr int kSeam =
-      8;  // rows drawn beyond each end: where a painter clips a line, it smooths it otherwise
   const int most = std::max(1, kMostPixels / size.width());
   PngFile file(size);
   for (int top = 0; top < size.height(); top += most) {
     const int rows = std::min(most, size.height() - top);
-    const int above = std::min(kSeam, top);
-    const int below = std::min(kSeam, size.height() - top - rows);
-    QImage band(size.width(), above + rows + below, QImage::Format_RGB32);
+    QImage band(size.width(), rows, QImage::Format_RGB32);
     if (band.isNull()) throw std::bad_alloc();
     band.fill(Qt::white);
-    QPainter painter(&band);
-    painter.translate(0, above - top);
-    PainterCanvas canvas(painter, RulesFor(size));
+    RasterCanvas canvas(band, RulesFor(size), top);
     drawing.Play(canvas);
-    painter.end();
-    file.AddRows(band, above, rows);
+    canvas.Finish();
+    file.AddRows(band, 0, rows);
   }
   return file.Finish();
 }
@@ -81,9 +76,9 @@ QByteArray PdfBytes(const DisplayList& drawing, QSize size) {
 QImage RenderImage(const DisplayList& drawing, QSize size) {
   QImage image(size, QImage::Format_RGB32);
   image.fill(Qt::white);
-  QPainter painter(&image);
-  PainterCanvas canvas(painter, RulesFor(size));
+  RasterCanvas canvas(image, RulesFor(size));
   drawing.Play(canvas);
+  canvas.Finish();
   return image;
 }
 

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "draw/PainterCanvas.h"
+#include "draw/RasterCanvas.h"
 #include "map/OverviewMap.h"
 
 namespace kestrel {
@@ -122,12 +123,13 @@ void frmOpening::RenderBackdrop() {
     std::fill_n(reinterpret_cast<QRgb*>(backdrop_.scanLine(y)), pixels.width(), row);
   }
   backdrop_.setDevicePixelRatio(devicePixelRatio());
-  QPainter painter(&backdrop_);
   SurfaceRules rules;
-  rules.Fit = FitSheet(static_cast<float>(width()), static_cast<float>(height()), kDesign);
-  rules.Area = QRectF(rect());
-  PainterCanvas canvas(painter, rules);
+  rules.Fit = FitSheet(static_cast<float>(pixels.width()), static_cast<float>(pixels.height()), kDesign);
+  rules.Area = QRectF(backdrop_.rect());
+  rules.PixelSize = devicePixelRatio();
+  RasterCanvas canvas(backdrop_, rules);
   overview_.Play(canvas);
+  canvas.Finish();
   backdropStale_ = false;
 }
 

@@ -5,7 +5,7 @@
 #include <QToolTip>
 #include <algorithm>
 
-#include "draw/PainterCanvas.h"
+#include "draw/RasterCanvas.h"
 
 namespace kestrel {
 
@@ -44,7 +44,7 @@ void MapSurface::Render() {
     if (shown_ < drawing_.Length()) Play(shown_);
     return;
   }
-  image_ = QImage(pixels, QImage::Format_RGB32);
+  if (image_.size() != pixels) image_ = QImage(pixels, QImage::Format_RGB32);
   image_.setDevicePixelRatio(devicePixelRatio());
   image_.fill(Qt::white);
   Play(0);
@@ -52,13 +52,14 @@ void MapSurface::Render() {
 }
 
 void MapSurface::Play(std::size_t from) {
-  QPainter painter(&image_);
   SurfaceRules rules;
-  rules.Fit = Fit();
-  rules.Area = QRectF(rect());
+  rules.Fit = FitSheet(static_cast<float>(image_.width()), static_cast<float>(image_.height()), area_);
+  rules.Area = QRectF(image_.rect());
+  rules.PixelSize = image_.devicePixelRatio();
   rules.SmallestXHeight = smallestXHeight_;
-  PainterCanvas canvas(painter, rules);
+  RasterCanvas canvas(image_, rules);
   drawing_.PlayFrom(from, canvas);
+  canvas.Finish();
   shown_ = drawing_.Length();
 }
 

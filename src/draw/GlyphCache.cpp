@@ -1,0 +1,93 @@
+#include "draw/GlyphCache.h"
+
+#include <QFontMetricsF>
+#include <algorithm>
+#include <cmath>
+
+#include "draw/Fonts.h"
+#include "draw/Mixed.h"
+
+namespace kestrel {
+GlyphCache::GlyphCache(FontFace face, double pixels) {
+  const QImage ordinary(1, 1, QImage::Format_RGB32);
+  font_ = PlatformFont(face, pixels, ordinary.logicalDpiY());
+  font_.setStyleStrategy(QFont::NoSubpixelAntialias);
+  const QFontMetricsF metrics(font_);
+  for (int letter = 0; letter < kCount; ++letter)
+    advances_[static_cast<std::size_t>(letter)] = metrics.horizontalAdvance(QChar(kFirst + letter));
+  const int side = static_cast<int>(std::ceil(pixels));
+  origin_ = {side / 2 + 2, static_cast<int>(std::ceil(metrics.ascent())) + 2};
+}
+
+GlyphCache::~GlyphCache() = default;
+
+bool GlyphCache::Knows(std::string_view text) {
+  return std::all_of(text.begin(), text.end(), [](char c) { return c >= kFirst && c < kFirst + kCount; });
+}
+
+const GlyphCache::Glyph& GlyphCache::Made(int letter, int step) {
+  Glyph& glyph = glyphs_[static_cast<std::size_t>(letter)][static_cast<std::size_t>(step)];
+  if (glyph.made) return glyph;
+  glyph.made = true;
+  if (!painter_) {
+    scratch_ = QImage(3 * origin_.x(), 2 * origin_.y(), QImage::Format_RGB32);
+    painter_ = std::make_unique<QPainter>(&scratch_);
+    painter_->setFont(font_);
+    painter_->setPen(Qt::white);
+  }
+  scratch_.fill(Qt::black);
+  painter_->drawText(QPointF(origin_) + QPointF(static_cast<double>(step) / kSteps, 0),
+                     QChar(kFirst + letter));
+
+  int left = scratch_.width(), right = -1, top = scratch_.height(), bottom = -1;
+  const auto rowAt = [&](int y) { return reinterpret_cast<const QRgb*>(scratch_.constScanLine(y)); };
+  for (int y = 0; y < scratch_.height(); ++y) {
+    const QRgb* const row = rowAt(y);
+    for (int x = 0; x < scratch_.width(); ++x) {
+      if (qGreen(row[x]) == 0) continue;
+      left = std::min(left, x);
+      right = std::max(right, x);
+      top = std::min(top, y);
+      bottom = std::max(bottom, y);
+    }
+  }
+  if (right < 0) return glyph;
+  glyph.left = left - origin_.x();
+  glyph.top = top - origin_.y();
+  glyph.width = right - left + 1;
+  glyph.height = bottom - top + 1;
+  for (int y = top; y <= bottom; ++y)
+    for (int x = left; x <= right; ++x) glyph.ink.push_back(static_cast<std::uint8_t>(qGreen(rowAt(y)[x])));
+  return glyph;
+}
+
+void GlyphCache::Blend(QImage& image, int x, int y, QRgb color, const Glyph& glyph) const {
+  const int firstRow = std::max(0, -y);
+  const int lastRow = std::min(glyph.height, image.height() - y);
+  const int firstColumn = std::max(0, -x);
+  const int lastColumn = std::min(glyph.width, image.width() - x);
+  for (int row = firstRow; row < lastRow; ++row) {
+    auto* const pixels = reinterpret_cast<QRgb*>(image.scanLine(y + row)) + x;
+    const std::uint8_t* const ink = glyph.ink.data() + row * glyph.width;
+    for (int column = firstColumn; column < lastColumn; ++column)
+      pixels[column] = Mixed(color, pixels[column], ink[column]);
+  }
+}
+
+void GlyphCache::Draw(QImage& image, int top, QPointF baseline, QRgb color, std::string_view text) {
+  constexpr double kFarthest = 1e6;
+  double x = baseline.x();
+  const double y = baseline.y();
+  if (!(std::abs(x) < kFarthest && std::abs(y) < kFarthest)) return;
+  const int row = static_cast<int>(std::lround(y)) - top;
+  for (const char c : text) {
+    const int letter = c - kFirst;
+    const auto quarters = static_cast<int>(std::floor(x * kSteps + 0.5));
+    const int column = quarters >> 2;
+    const Glyph& glyph = Made(letter, quarters & (kSteps - 1));
+    Blend(image, column + glyph.left, row + glyph.top, color, glyph);
+    x += advances_[static_cast<std::size_t>(letter)];
+  }
+}
+
+}  // namespace kestrel

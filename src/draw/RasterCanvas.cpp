@@ -1,0 +1,145 @@
+#include "draw/RasterCanvas.h"
+
+#include <QPainter>
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <numbers>
+
+#include "draw/PainterCanvas.h"
+
+namespace kestrel {
+
+RasterCanvas::RasterCanvas(QImage& image, const SurfaceRules& rules, int top)
+    : image_(image),
+      top_(top),
+      view_(rules),
+      mask_(image.size(), top),
+      lineWidth_(static_cast<float>(rules.PixelSize)) {}
+
+void RasterCanvas::LayInk() {
+  if (inked_) mask_.Lay(color_, image_);
+  inked_ = false;
+}
+
+void RasterCanvas::SetColor(ColorValue color) {
+  const QRgb rgb = PlatformColor(color).rgb();
+  if (rgb == color_) return;
+  LayInk();
+  color_ = rgb;
+}
+
+void RasterCanvas::SetLineWidth(float width) {
+  lineWidth_ = static_cast<float>(width * view_.PixelSize());
+}
+
+void RasterCanvas::Line(Point from, Point to) {
+  Polyline(std::array{from, to});
+}
+
+void RasterCanvas::Polyline(std::span<const Point> points) {
+  view_.ForEachRun(points, [&](std::span<const QPointF> run) {
+    mask_.AddPolyline(run, lineWidth_);
+    inked_ = true;
+  });
+}
+
+void RasterCanvas::Polygon(std::span<const Point> points) {
+  if (points.empty()) return;
+  closed_.assign(points.begin(), points.end());
+  closed_.push_back(points.front());
+  Polyline(closed_);
+}
+
+void RasterCanvas::Circle(Point center, float radius) {
+  if (!view_.Shows(center, radius)) return;
+  const Point at = view_.At(center);
+  const double pixels = view_.Length(radius);
+  const int corners = static_cast<int>(std::clamp(6 * std::sqrt(std::abs(pixels)), 12.0, 720.0));
+  std::vector<QPointF> outline;
+  for (int i = 0; i <= corners; ++i) {
+    const double angle = 2 * std::numbers::pi * i / corners;
+    outline.emplace_back(at.x + pixels * std::sin(angle), at.y - pixels * std::cos(angle));
+  }
+  mask_.AddPolyline(outline, lineWidth_);
+  inked_ = true;
+}
+
+void RasterCanvas::FilledCircle(Point center, float radius) {
+  if (!view_.Shows(center, radius)) return;
+  const Point at = view_.At(center);
+  mask_.AddDisc({at.x, at.y}, static_cast<float>(view_.Length(radius)));
+  inked_ = true;
+}
+
+void RasterCanvas::Box(Point corner, Point opposite) {
+  const QRectF box = view_.Outlined(corner, opposite);
+  mask_.AddPolyline(
+      std::array{box.topLeft(), box.topRight(), box.bottomRight(), box.bottomLeft(), box.topLeft()},
+      lineWidth_);
+  inked_ = true;
+}
+
+void RasterCanvas::FilledBox(Point corner, Point opposite) {
+  LayInk();
+  const QRectF whole(0, top_, image_.width(), image_.height());
+  const QRect box = view_.Filled(corner, opposite).intersected(whole).toRect();
+  for (int y = box.top(); y <= box.bottom(); ++y)
+    std::fill_n(reinterpret_cast<QRgb*>(image_.scanLine(y - top_)) + box.left(), std::max(0, box.width()),
+                color_);
+}
+
+void RasterCanvas::Dot(Point at) {
+  if (!view_.Shows(at, 0)) return;
+  const Point point = view_.At(at);
+  mask_.AddPoint({point.x, point.y});
+  inked_ = true;
+}
+
+GlyphCache& RasterCanvas::Glyphs(FontFace face, double size) {
+  for (SizedGlyphs& glyphs : glyphs_)
+    if (glyphs.face == face && glyphs.size == size) return *glyphs.cache;
+  return *glyphs_.emplace_back(SizedGlyphs{face, size, std::make_unique<GlyphCache>(face, size)}).cache;
+}
+
+const RasterCanvas::Style& RasterCanvas::PresentStyle() {
+  for (const Style& style : styles_)
+    if (style.font == font_ && style.inPanel == inPanel_) return style;
+  const double size = view_.FontSize(font_);
+  return styles_.emplace_back(
+      Style{font_, inPanel_, size, measure_.Ascent(font_), &Glyphs(font_.Face, size)});
+}
+
+void RasterCanvas::Text(Point topLeft, std::string_view text) {
+  const Style& style = PresentStyle();
+  const Point at = view_.At({topLeft.x, topLeft.y + style.ascent});
+  const QRectF reach(at.x, at.y - 2 * style.size, style.size * static_cast<double>(text.size()),
+                     3 * style.size);
+  if (!reach.intersects(QRectF(0, top_, image_.width(), image_.height()))) return;
+  LayInk();
+  if (GlyphCache::Knows(text)) return style.glyphs->Draw(image_, top_, {at.x, at.y}, color_, text);
+  QPainter painter(&image_);
+  painter.scale(1 / image_.devicePixelRatio(), 1 / image_.devicePixelRatio());
+  painter.setFont(style.glyphs->PixelFont());
+  painter.setPen(QColor(color_));
+  painter.drawText(QPointF(at.x, at.y - static_cast<float>(top_)),
+                   QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+}
+
+void RasterCanvas::BeginPanel(Point anchor, const Font& smallest) {
+  view_.BeginPanel(anchor, smallest);
+  std::erase_if(styles_, [](const Style& style) { return style.inPanel; });
+  inPanel_ = true;
+}
+
+void RasterCanvas::EndPanel() {
+  view_.EndPanel();
+  inPanel_ = false;
+}
+
+void RasterCanvas::Clear() {
+  LayInk();
+  image_.fill(Qt::white);
+}
+
+}  // namespace kestrel
