@@ -83,7 +83,12 @@ void RasterCanvas::Box(Point corner, Point opposite) {
 void RasterCanvas::FilledBox(Point corner, Point opposite) {
   LayInk();
   const QRectF whole(0, top_, image_.width(), image_.height());
-  const QRect box = view_.Filled(corner, opposite).intersected(whole).toRect();
+  const QRectF filled = view_.Filled(corner, opposite);
+  // Written so that a box that is no number is passed over.
+  const bool shown = filled.left() < whole.right() && filled.right() > whole.left() &&
+                     filled.top() < whole.bottom() && filled.bottom() > whole.top();
+  if (!shown) return;
+  const QRect box = filled.intersected(whole).toRect();
   for (int y = box.top(); y <= box.bottom(); ++y)
     std::fill_n(reinterpret_cast<QRgb*>(image_.scanLine(y - top_)) + box.left(), std::max(0, box.width()),
                 color_);

@@ -1,0 +1,151 @@
+#include "draw/RasterCanvas.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+#include <random>
+
+#include "draw/PainterCanvas.h"
+
+namespace kestrel {
+namespace {
+
+constexpr QSize kSize(240, 190);
+
+SurfaceRules Rules() {
+  SurfaceRules rules;
+  rules.Fit = FitSheet(static_cast<float>(kSize.width()), static_cast<float>(kSize.height()));
+  rules.Area = QRectF(QPointF(0, 0), QSizeF(kSize));
+  return rules;
+}
+
+QImage Paper() {
+  QImage paper(kSize, QImage::Format_RGB32);
+  paper.fill(Qt::white);
+  return paper;
+}
+
+template <typename Draw>
+QImage Rastered(Draw draw) {
+  QImage image = Paper();
+  RasterCanvas canvas(image, Rules());
+  draw(canvas);
+  canvas.Finish();
+  return image;
+}
+
+template <typename Draw>
+QImage Painted(Draw draw) {
+  QImage image = Paper();
+  QPainter painter(&image);
+  PainterCanvas canvas(painter, Rules());
+  draw(canvas);
+  return image;
+}
+
+/// Ink on the paper, pixels of full black.
+double Ink(const QImage& image) {
+  double ink = 0;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x) ink += (255 - qGray(image.pixel(x, y))) / 255.0;
+  return ink;
+}
+
+/// The largest difference in ink between two pictures within any block of 4 by 4 pixels.
+double LargestLocalDifference(const QImage& a, const QImage& b) {
+  double largest = 0;
+  for (int top = 0; top + 4 <= a.height(); top += 2)
+    for (int left = 0; left + 4 <= a.width(); left += 2) {
+      int difference = 0;
+      for (int i = 0; i < 16; ++i) {
+        const QPoint at(left + i % 4, top + i / 4);
+        difference += qGray(a.pixel(at)) - qGray(b.pixel(at));
+      }
+      largest = std::max(largest, std::abs(difference) / 255.0);
+    }
+  return largest;
+}
+
+TEST(RasterCanvasTest, FiguresLookAsThePainterDrawsThem) {
+  const auto figures = [](Canvas& canvas) {
+    for (int i = 0; i < 12; ++i) {
+      const auto angle = static_cast<float>(i) * 0.5236F;
+      canvas.SetColor(i % 2 == 0 ? 0x000000 : 0xCC2222);
+      canvas.Line({6000, 4500}, {6000 + 3500 * std::sin(angle), 4500 - 3500 * std::cos(angle)});
+    }
+    canvas.Circle({2500, 2500}, 1500);
+    canvas.FilledCircle({9500, 7500}, 600);
+    canvas.FilledBox({8000, 500}, {11000, 2000});
+    canvas.Box({500, 7000}, {3000, 9000});
+  };
+  const QImage rastered = Rastered(figures);
+  const QImage painted = Painted(figures);
+  EXPECT_NEAR(Ink(rastered) / Ink(painted), 1, 0.05);
+  EXPECT_LT(LargestLocalDifference(rastered, painted), 2.5) << "of 16 pixels";
+}
+
+TEST(RasterCanvasTest, TextStandsWhereThePainterPutsIt) {
+  const auto words = [](Canvas& canvas) {
+    canvas.SetFont({FontFace::Sans, 20});
+    canvas.Text({1000, 2000}, "1230 QABC");
+    canvas.BeginPanel({1000, 8000}, {FontFace::Sans, 10});
+    canvas.SetFont({FontFace::Sans, 10});
+    canvas.Text({1000, 7500}, "Bogot\xC3\xA1");
+    canvas.EndPanel();
+  };
+  const QImage rastered = Rastered(words);
+  EXPECT_GT(Ink(rastered), 100);
+  EXPECT_NEAR(Ink(rastered) / Ink(Painted(words)), 1, 0.1);
+}
+
+TEST(RasterCanvasTest, APolylineIsTheSameWholeAndInPieces) {
+  std::mt19937 random(7);
+  std::uniform_real_distribution<float> place(0, 9000);
+  std::vector<Point> points(60);
+  for (Point& point : points) point = {place(random), place(random)};
+  const QImage whole = Rastered([&](Canvas& canvas) { canvas.Polyline(points); });
+  const QImage pieces = Rastered([&](Canvas& canvas) {
+    for (std::size_t i = 0; i + 1 < points.size(); ++i) canvas.Line(points[i], points[i + 1]);
+  });
+  EXPECT_EQ(whole, pieces);
+}
+
+TEST(RasterCanvasTest, NothingIsDrawnOutsideThePictureWhateverTheCoordinates) {
+  const float hostile[] = {0,
+                           -1,
+                           1,
+                           11999.99F,
+                           12000,
+                           30000,
+                           -30000,
+                           1e9F,
+                           -1e30F,
+                           1e38F,
+                           -3.4e38F,
+                           6000.5F,
+                           std::numeric_limits<float>::quiet_NaN(),
+                           std::numeric_limits<float>::infinity()};
+  std::mt19937 random(11);
+  std::uniform_int_distribution<std::size_t> any(0, std::size(hostile) - 1);
+  const auto coordinate = [&] { return hostile[any(random)]; };
+  const auto point = [&] { return Point{coordinate(), coordinate()}; };
+  const QImage image = Rastered([&](Canvas& canvas) {
+    for (int i = 0; i < 4000; ++i) {
+      canvas.SetLineWidth(static_cast<float>(i % 5));
+      canvas.Polyline(std::vector{point(), point(), point()});
+      canvas.Polygon(std::vector{point(), point(), point()});
+      canvas.Circle(point(), coordinate());
+      canvas.FilledCircle(point(), coordinate());
+      canvas.Box(point(), point());
+      canvas.FilledBox(point(), point());
+      canvas.Dot(point());
+      canvas.Text(point(), "far");
+    }
+  });
+  EXPECT_EQ(image.size(), kSize);  // the sanitizers watch every write
+}
+
+}  // namespace
+}  // namespace kestrel
