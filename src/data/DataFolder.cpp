@@ -11,7 +11,6 @@
 #include "core/Numbers.h"
 #include "core/SessionFile.h"
 #include "core/Text.h"
-#include "data/FileIo.h"
 #include "data/PlaceLists.h"
 
 namespace kestrel {
@@ -45,10 +44,10 @@ std::optional<QString> DataFolder::Find(const QString& name) const {
   return std::nullopt;
 }
 
-Result<QByteArray> DataFolder::Read(const QString& name) const {
+Result<QByteArray> DataFolder::Read(const QString& name, qint64 largest) const {
   const std::optional<QString> path = Find(name);
   if (!path) return Error{Error::Kind::NotFound, name.toStdString(), 0, "there is no such file"};
-  return ReadFile(*path);
+  return ReadFile(*path, largest);
 }
 
 bool DataFolder::Has(const QString& name) const {
@@ -126,7 +125,7 @@ Result<Done> LoadPlaceLists(const DataFolder& folder, SessionState& state) {
 }
 
 void LoadSession(const DataFolder& folder, SessionState& state) {
-  const Result<QByteArray> bytes = folder.Read(kSessionFile);
+  const Result<QByteArray> bytes = folder.Read(kSessionFile, LargestSessionFile);
   if (!bytes) return ReadSession(std::nullopt, state);
   ReadSession(std::string_view(bytes->constData(), static_cast<std::size_t>(bytes->size())), state);
 }

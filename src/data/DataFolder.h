@@ -7,6 +7,7 @@
 
 #include "core/Result.h"
 #include "core/SessionState.h"
+#include "data/FileIo.h"
 
 namespace kestrel {
 
@@ -19,8 +20,8 @@ class DataFolder {
   const QString& Path() const { return path_; }
 
   /// The file's whole content, found whatever the case of its name; the exact name wins over another case.
-  /// `Error::file` is the name asked for.
-  Result<QByteArray> Read(const QString& name) const;
+  /// Errors as ReadFile's.
+  Result<QByteArray> Read(const QString& name, qint64 largest = LargestDataFile) const;
 
   bool Has(const QString& name) const;
 
@@ -54,7 +55,8 @@ QString StationFileName(float frequency);
 /// be read or holds too many entries.
 Result<Done> LoadPlaceLists(const DataFolder& folder, SessionState& state);
 
-/// Reads "Kestrel.CFG" into `state` as ReadSession does; a missing or unreadable file is a first start.
+/// Reads "Kestrel.CFG" into `state` as ReadSession does; a missing, unreadable or overlong
+/// file is a first start.
 void LoadSession(const DataFolder& folder, SessionState& state);
 
 /// Writes "Kestrel.CFG" with today's date in the system's short form.

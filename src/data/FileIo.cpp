@@ -21,13 +21,22 @@ Result<QByteArray> ReadFile(const QString& path, qint64 largest) {
     return Failure(path, Error::Kind::TooLarge,
                    QString("is larger than %1 MB, the most that is read").arg(largest >> 20));
   };
-  if (info.size() > largest) return tooLarge();
-
   QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) return Failure(path, Error::Kind::Refused, file.errorString());
-  QByteArray bytes = file.read(largest + 1 < info.size() * 2 + 4096 ? largest + 1 : info.size() * 2 + 4096);
-  if (file.error() != QFileDevice::NoError) return Failure(path, Error::Kind::Refused, file.errorString());
-  if (bytes.size() > largest) return tooLarge();
+  if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+    return Failure(path, Error::Kind::Refused, file.errorString());
+  const qint64 size = file.size();
+  if (size > largest) return tooLarge();
+  QByteArray bytes(size + 1, Qt::Uninitialized);  // room for one byte more than there should be
+  qint64 length = 0;
+  while (length < bytes.size()) {
+    const qint64 count = file.read(bytes.data() + length, bytes.size() - length);
+    if (count < 0) return Failure(path, Error::Kind::Refused, file.errorString());
+    if (count == 0) break;
+    length += count;
+  }
+  if (length != size)
+    return Failure(path, Error::Kind::Refused, "changed while it was read; try again when it is complete");
+  bytes.truncate(size);
   return bytes;
 }
 

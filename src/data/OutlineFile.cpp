@@ -62,7 +62,7 @@ Outline ReadOutline(std::string_view bytes, CommentLines comments) {
   outline.Longitude.reserve(bytes.size() / kUsualLine);
   LineReader lines(bytes);
   Vertex vertex;
-  for (;;) {
+  while (outline.Latitude.size() + outline.PenUpBefore.size() < MaxVertices) {
     if (const std::size_t length = ReadPlainVertex(lines.Rest(), vertex)) {
       if (vertex.Latitude == kEndMark) break;
       Add(outline, vertex);

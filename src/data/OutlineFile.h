@@ -8,6 +8,9 @@
 
 namespace kestrel {
 
+/// No outline has more; a file of ordinary lines that is as long as a file may be has fewer.
+inline constexpr std::size_t MaxVertices = 4'000'000;
+
 /// The polylines of an outline file.
 struct Outline {
   std::vector<float> Latitude;   ///< degrees, north positive
@@ -20,7 +23,7 @@ struct Outline {
 enum class CommentLines { Skip, Read };
 
 /// Reads vertices up to the end mark -2000 or the end of the file. Empty lines are skipped; a vertex of
-/// -100 -100 is a pen-up mark. A malformed number reads as its leading part or 0.
+/// -100 -100 is a pen-up mark. Reading ends behind MaxVertices vertices or pen-up marks. A malformed number reads as its leading part or 0.
 Outline ReadOutline(std::string_view bytes, CommentLines comments = CommentLines::Read);
 
 }  // namespace kestrel

@@ -69,6 +69,10 @@ StationRecord* StationFileReader::Next() {
       continue;
     }
     skipping_ = false;
+    if (recordCount_ == MaxRecords) {
+      Note("more than " + std::to_string(MaxRecords) + " records; the rest is left out");
+      break;
+    }
     const double towers = StoreStationLine(CutStationLine(*line), record_);
     if (towers < 0 || towers > MaxTowers) {
       Note(NumberText(static_cast<float>(towers)) +
@@ -76,6 +80,7 @@ StationRecord* StationFileReader::Next() {
       skipping_ = true;
       continue;
     }
+    ++recordCount_;
     return ReadTowers() ? &record_ : nullptr;
   }
   return nullptr;
@@ -94,12 +99,22 @@ bool StationFileReader::ReadTowers() {
 }
 
 void StationFileReader::Note(const std::string& text) {
+  if (notes_.size() > MaxNotes) return;
+  if (notes_.size() == MaxNotes) {
+    notes_.push_back(name_ + ": more than " + std::to_string(MaxNotes) + " faults; the others are not listed");
+    return;
+  }
   notes_.push_back(name_ + ':' + std::to_string(lines_.LineNumber()) + ": " + text);
 }
 
 std::optional<StationLine> StationLineReader::Next() {
-  while (const auto line = lines_.Next())
-    if (IsStationLine(*line)) return CutStationLine(*line);
+  while (lineCount_ < MaxRecords) {
+    const auto line = lines_.Next();
+    if (!line) break;
+    if (!IsStationLine(*line)) continue;
+    ++lineCount_;
+    return CutStationLine(*line);
+  }
   return std::nullopt;
 }
 

@@ -14,6 +14,8 @@
 namespace kestrel {
 
 inline constexpr int MaxTowers = 12;
+inline constexpr int MaxRecords = 10000;  ///< of a channel; the busiest one has some hundreds
+inline constexpr int MaxNotes = 100;      ///< of a file; what is left out beyond is not reported
 inline constexpr float LowestChannel = 530;    ///< kHz
 inline constexpr float HighestChannel = 1700;  ///< kHz
 inline constexpr float ChannelStep = 10;       ///< kHz
@@ -64,7 +66,7 @@ double StoreStationLine(const StationLine& line, StationRecord& record);
 /// A line that stands where a station line should and is none, and a record with a tower count outside 0 to
 /// MaxTowers, are left out up to the next station line, and noted: "1030x.dat:17: 14 towers, at most 12".
 /// A malformed number reads as its leading part or 0. A record whose tower lines the file breaks off is not
-/// handed out.
+/// handed out. Reading ends behind MaxRecords records, which is noted.
 class StationFileReader {
  public:
   /// The bytes must outlive the reader; `name` is used in notes.
@@ -74,7 +76,7 @@ class StationFileReader {
   /// the record.
   StationRecord* Next();
 
-  /// What was left out so far, one line each.
+  /// What was left out so far, one line each, at most MaxNotes and a line that says so.
   const std::vector<std::string>& Notes() const { return notes_; }
 
  private:
@@ -84,11 +86,12 @@ class StationFileReader {
   std::string name_;
   LineReader lines_;
   StationRecord record_;
+  int recordCount_ = 0;
   bool skipping_ = false;  // on the way to the next station line, the reason already noted
   std::vector<std::string> notes_;
 };
 
-/// Walks over the station lines alone, for readers that need no towers.
+/// Walks over the station lines alone, at most MaxRecords, for readers that need no towers.
 class StationLineReader {
  public:
   /// The bytes must outlive the reader.
@@ -99,6 +102,7 @@ class StationLineReader {
 
  private:
   LineReader lines_;
+  int lineCount_ = 0;
 };
 
 }  // namespace kestrel
