@@ -31,13 +31,22 @@ struct Level {
   decltype(&PlaceVertices) Place;
 };
 
+// By their features, since Clang 14 does not know the levels by name.
+bool HasLevel3() {
+  return __builtin_cpu_supports("avx2") && __builtin_cpu_supports("fma") && __builtin_cpu_supports("bmi2");
+}
+
+bool HasLevel4() {
+  return HasLevel3() && __builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512bw") &&
+         __builtin_cpu_supports("avx512cd") && __builtin_cpu_supports("avx512dq") &&
+         __builtin_cpu_supports("avx512vl");
+}
+
 std::vector<Level> LevelsHere() {
   const Level all[] = {
       {"x86-64", true, x86_64::SweepPattern, x86_64::PlaceVertices},
-      {"x86-64-v3", __builtin_cpu_supports("x86-64-v3") != 0, x86_64_v3::SweepPattern,
-       x86_64_v3::PlaceVertices},
-      {"x86-64-v4", __builtin_cpu_supports("x86-64-v4") != 0, x86_64_v4::SweepPattern,
-       x86_64_v4::PlaceVertices},
+      {"x86-64-v3", HasLevel3(), x86_64_v3::SweepPattern, x86_64_v3::PlaceVertices},
+      {"x86-64-v4", HasLevel4(), x86_64_v4::SweepPattern, x86_64_v4::PlaceVertices},
   };
   std::vector<Level> here;
   for (const Level& level : all)
