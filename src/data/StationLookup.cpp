@@ -25,9 +25,13 @@ std::string NothingListedMessage(const std::string& callSign, float frequency) {
          "'.\r\nIt may be listed on a frequency other than this (" + NumberText(frequency) + ").";
 }
 
-/// Whether the two are one record, however the texts are spelled.
+/// Whether the two are one record, its texts in whatever case.
 bool SameRecord(const StationSelection& a, const StationSelection& b) {
-  return a.SelectedCallSign == b.SelectedCallSign && a.SelectedHoursCode == b.SelectedHoursCode &&
+  const auto sameText = [](const std::string& x, const std::string& y) {
+    return UpperCase(x) == UpperCase(y);
+  };
+  return sameText(a.City, b.City) && sameText(a.State, b.State) && sameText(a.Country, b.Country) &&
+         a.SelectedCallSign == b.SelectedCallSign && a.SelectedHoursCode == b.SelectedHoursCode &&
          a.SelectedTowerCount == b.SelectedTowerCount && a.Latitude == b.Latitude &&
          a.Longitude == b.Longitude && a.PowerKW == b.PowerKW;
 }

@@ -6,6 +6,7 @@
 #include <QUrlQuery>
 
 #include "core/Numbers.h"
+#include "core/Text.h"
 #include "data/TowerTable.h"
 #include "map/TestFolder.h"
 
@@ -135,6 +136,13 @@ TEST(StationLookupTest, ARowOfOtherWidthsStandsForItsOwnRecord) {
   EXPECT_EQ(selection.Latitude, 45.123456F);
   EXPECT_EQ(selection.Longitude, -73.987654F);
   EXPECT_EQ(LoadRecords(data.Folder(), 1230, selection).size(), 1U);
+
+  // Without the blanks in front the numbers still land in their columns, the texts do not.
+  data.Put("1240x.dat", "1240,QABC,Springfield,IL,United States,D,40,75,1,-,-,1\n0,1,90,0,0,0\n");
+  const StationSelection narrow = SelectRow(SearchStations(data.Folder(), 1240, "QABC").Rows.at(0));
+  EXPECT_EQ(UpperCase(narrow.City), "SPRINGFIELD");
+  EXPECT_EQ(UpperCase(narrow.State), "IL");
+  EXPECT_EQ(UpperCase(narrow.Country), "UNITED STATES");
 }
 
 TEST(StationLookupTest, RecordsAreLoadedByCallHoursAndTowers) {
