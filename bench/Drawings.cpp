@@ -3,8 +3,9 @@
 #include "Rows.h"
 #include "Table.h"
 #include "draw/Fonts.h"
-#include "draw/Picture.h"
+#include "draw/RasterCanvas.h"
 #include "map/BandScan.h"
+#include "map/DisplayList.h"
 #include "map/MainMap.h"
 #include "map/Outlines.h"
 #include "straight/Drawing.h"
@@ -18,17 +19,25 @@ SessionState Session(float channel, bool adjacents) {
   SessionState state;
   state.CurrentFrequency = state.SelectedFrequency = channel;
   state.AdjacentsShown = adjacents ? 1 : 0;
+
   return state;
 }
 
-/// What a map surface keeps between drawings: the list's memory and the image.
+/// What a map surface keeps between drawings: the memory of the list and of the image, and the tools.
 struct Surface {
   PlatformTextMeasure Measure;
   DisplayList List{Measure};
+  DrawingTools Tools;
   QImage Image{kSize, QImage::Format_RGB32};
 
   void Show() {
-    Image = RenderImage(List, kSize);
+    SurfaceRules rules;
+    rules.Fit = FitSheet(static_cast<float>(kSize.width()), static_cast<float>(kSize.height()));
+    rules.Area = QRectF(Image.rect());
+    Image.fill(Qt::white);
+    RasterCanvas canvas(Image, rules, Tools);
+    List.Play(canvas);
+    canvas.Finish();
     Keep(Image.constBits());
   }
 };
