@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QDragEnterEvent>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMimeData>
 #include <QPlainTextEdit>
@@ -102,6 +103,31 @@ TEST_F(frmImportTest, DryRunCancelAndRefusedFilesWriteNothing) {
   EXPECT_FALSE(form.DataChanged());
   Press(form, "cmdUndo");
   EXPECT_EQ(platform_.Messages.size(), 1) << "nothing to undo";
+}
+
+TEST_F(frmImportTest, OnlyTheStationsOfTheCountriesWanted) {
+  std::string mexican = Row("XEAA", "1.0", "21");
+  mexican.replace(mexican.find("|LIC|PLANO|TX|US|"), 17, "|CP|SALTILLO|CI|MX|");
+  folder_.Write("amq.txt", Row("KAAA", "5.0", "11") + mexican);
+  frmImport form(workspace_);
+  form.show();
+  form.AddFiles({folder_.Path("amq.txt")});
+  auto* countries = form.findChild<QLineEdit*>("txtCountries");
+  countries->setText("us, uk");
+  Press(form, "cmdImport");
+  ASSERT_EQ(platform_.Messages.size(), 1);
+  EXPECT_EQ(platform_.Messages[0],
+            "Countries: \"UK\" is no country of the FCC's lists, as US, CA and MX are");
+  EXPECT_EQ(Report(form), "");
+  EXPECT_FALSE(form.DataChanged());
+
+  countries->setText("mx");
+  Press(form, "cmdImport");
+  EXPECT_EQ(folder_.Text("620x.dat").find("KAAA"), std::string::npos);
+  EXPECT_NE(folder_.Text("620x.dat").find("XEAA"), std::string::npos) << Report(form).toStdString();
+  countries->clear();
+  Press(form, "cmdImport");
+  EXPECT_NE(folder_.Text("620x.dat").find("KAAA"), std::string::npos);
 }
 
 TEST_F(frmImportTest, FilesMayBeDropped) {
