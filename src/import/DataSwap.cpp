@@ -229,7 +229,7 @@ Result<Done> UndoImport(const DataFolder& folder, const SwapStep& step) {
 
 Result<Done> RecoverImport(const DataFolder& folder, const SwapStep& step) {
   Exchange exchange(folder.Path(), step);
-  if (!exchange.Exists(kJournal) && !exchange.Exists(kNewSet)) return Done{};
+  if (!exchange.Exists(kJournal) && !exchange.Exists(kNewSet) && !exchange.Exists(kOldSet)) return Done{};
   if (!exchange.Lock()) return Done{};
   return Recover(exchange, folder.Path());
 }

@@ -29,12 +29,19 @@ class ProgressStream : public ByteStream {
 
   std::size_t Read(char* to, std::size_t most) override {
     const std::size_t count = stream_.Read(to, most);
+    total_ += count;
+    ended_ = ended_ || count == 0;
     return passed_(count) ? count : 0;
   }
+
+  /// Whether the stream ended, and not after `size` bytes.
+  bool EndedElsewhere(std::uint64_t size) const { return ended_ && total_ != size; }
 
  private:
   ByteStream& stream_;
   const std::function<bool(std::size_t)>& passed_;
+  std::uint64_t total_ = 0;
+  bool ended_ = false;
 };
 
 /// Reads all files into the report and the readings. Of those that cannot be read all are named.
@@ -77,6 +84,8 @@ std::optional<Error> ReadAll(const ImportRequest& request, const ImportProgress&
       };
       ProgressStream counted(**stream, passed);
       ReadSourceFile(counted, part.name, request.options, readings, report);
+      if (counted.EndedElsewhere(part.size))
+        fail({Error::Kind::Refused, part.name, 0, "could not be read to its end, or changed meanwhile"});
     }
   }
   return cancelled ? kCancelled : failure;

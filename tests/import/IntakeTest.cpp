@@ -98,6 +98,21 @@ TEST_F(IntakeTest, WhatCannotBeReadStopsTheImportAndIsNamed) {
   }
 }
 
+TEST_F(IntakeTest, AFileThatChangesWhileItIsReadStopsTheImport) {
+  std::string list;
+  for (int i = 1; i <= 5000; ++i) list += ListRow{.facility = std::to_string(i)}.Text();
+  for (const int change : {-1, 1}) {
+    const QString path = Plain("amq.txt", list);
+    const auto resize = [&](double, std::string_view) {
+      return QFile::resize(path, static_cast<qint64>(list.size()) + change);
+    };
+    const ImportOutcome outcome = RunImport({{path}, {}, false}, DataFolder(dir_.path()), resize);
+    ASSERT_TRUE(outcome.failure);
+    EXPECT_EQ(outcome.failure->Message(), "amq.txt: could not be read to its end, or changed meanwhile");
+    EXPECT_FALSE(DataFolder(dir_.path()).Has("1230x.dat"));
+  }
+}
+
 TEST_F(IntakeTest, ABombIsRefusedBeforeItIsUnpacked) {
   const std::string zeros(2 << 20, '\0');
   const QString path = Zip("bomb.zip", {{"a", zeros}, {"b", zeros}});
