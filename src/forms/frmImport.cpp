@@ -126,6 +126,7 @@ QLayout* frmImport::MakeCountries() {
   txtCountries_->setObjectName("txtCountries");
   txtCountries_->setPlaceholderText("all; or the FCC's codes, as in US,CA,MX");
   txtCountries_->setToolTip("Only the stations of these countries");
+  txtCountries_->setAcceptDrops(false);  // files dropped there are for the list
   auto* row = new QHBoxLayout;
   row->addWidget(MakeLabel("lblCountries", "Cou&ntries:", txtCountries_));
   row->addWidget(txtCountries_, 1);

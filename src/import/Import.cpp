@@ -29,19 +29,14 @@ class ProgressStream : public ByteStream {
 
   std::size_t Read(char* to, std::size_t most) override {
     const std::size_t count = stream_.Read(to, most);
-    total_ += count;
-    ended_ = ended_ || count == 0;
     return passed_(count) ? count : 0;
   }
 
-  /// Whether the stream ended, and not after `size` bytes.
-  bool EndedElsewhere(std::uint64_t size) const { return ended_ && total_ != size; }
+  std::string Problem() const override { return stream_.Problem(); }
 
  private:
   ByteStream& stream_;
   const std::function<bool(std::size_t)>& passed_;
-  std::uint64_t total_ = 0;
-  bool ended_ = false;
 };
 
 /// Reads all files into the report and the readings. Of those that cannot be read all are named.
@@ -84,8 +79,8 @@ std::optional<Error> ReadAll(const ImportRequest& request, const ImportProgress&
       };
       ProgressStream counted(**stream, passed);
       ReadSourceFile(counted, part.name, request.options, readings, report);
-      if (counted.EndedElsewhere(part.size))
-        fail({Error::Kind::Refused, part.name, 0, "could not be read to its end, or changed meanwhile"});
+      if (const std::string problem = counted.Problem(); !problem.empty())
+        fail({Error::Kind::Malformed, part.name, 0, problem});
     }
   }
   return cancelled ? kCancelled : failure;
@@ -127,7 +122,10 @@ ImportOutcome RunImport(const ImportRequest& request, const DataFolder& folder,
   ImportOutcome outcome;
   Readings readings;
   outcome.failure = ReadAll(request, progress, readings, outcome.report);
-  if (outcome.failure && outcome.failure->text == kCancelled.text) return outcome;
+  if (outcome.failure && outcome.failure->text == kCancelled.text) {
+    outcome.report = {};  // its counts would not add up
+    return outcome;
+  }
   const auto goesOn = [&](double done, std::string_view what) {
     if (progress && !progress(done, what) && !outcome.failure) outcome.failure = kCancelled;
   };
@@ -157,7 +155,8 @@ ImportOutcome RunImport(const ImportRequest& request, const DataFolder& folder,
 }
 
 std::string OutcomeText(const ImportOutcome& outcome, std::size_t mostChanges) {
-  std::string text = ReportText(outcome.report);
+  if (outcome.report.Files().empty() && outcome.report.Refusals().empty()) return {};
+  const std::string text = ReportText(outcome.report);
   if (outcome.failure) return text;
   return text + "\nChanges\n" + ChangesText(outcome.changes, mostChanges);
 }

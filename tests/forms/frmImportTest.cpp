@@ -137,6 +137,14 @@ TEST_F(frmImportTest, FilesMayBeDropped) {
   QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
   QApplication::sendEvent(&form, &enter);
   EXPECT_TRUE(enter.isAccepted());
+  // Over the text boxes too, which do not take them for a text.
+  for (const char* box : {"txtCountries", "txtReport"}) {
+    QDragEnterEvent over({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    over.ignore();
+    QApplication::sendEvent(form.findChild<QWidget*>(box), &over);
+    EXPECT_TRUE(over.isAccepted()) << box;
+  }
+  EXPECT_EQ(form.findChild<QLineEdit*>("txtCountries")->text(), "");
   QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
   QApplication::sendEvent(&form, &drop);
   ASSERT_EQ(form.findChild<QListWidget*>("lstFiles")->count(), 1);

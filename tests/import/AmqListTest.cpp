@@ -170,6 +170,14 @@ TEST(AmqList, CountriesAreChosenByTheListsCodes) {
   EXPECT_EQ(mexico.report.Of(Finding::OtherCountry).rows, 2);
 }
 
+TEST(AmqList, ARowBehindSomethingElseIsNotLostUnseen) {
+  const TextImport import = ImportRows("<pre>" + ListRow{}.Text() + "Call | Frequency | Service\n" +
+                                       ListRow{.facility = "2"}.Text());
+  EXPECT_EQ(import.stations.size(), 1U);
+  EXPECT_EQ(import.report.Total().rows, 2);
+  EXPECT_EQ(import.Examples(Finding::WrongForm), "amq.txt:1: something stands before the first bar\n");
+}
+
 TEST(Countries, AListIsReadAsPeopleTypeIt) {
   EXPECT_EQ(*ReadCountries(" us, Mx,ME,"), (std::vector<std::string>{"US", "MX", "MX"}));
   EXPECT_TRUE(ReadCountries("  ")->empty());
