@@ -8,7 +8,7 @@
 #include "core/Numbers.h"
 #include "core/Text.h"
 #include "data/TowerTable.h"
-#include "map/TestFolder.h"
+#include "TestFolder.h"
 
 namespace kestrel {
 namespace {

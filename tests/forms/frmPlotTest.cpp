@@ -10,7 +10,7 @@
 #include <QTimer>
 #include <set>
 
-#include "forms/Folder.h"
+#include "forms/SampleFolder.h"
 #include "forms/StandInPlatform.h"
 #include "forms/frmAspect.h"
 #include "ui/MapSurface.h"
@@ -58,8 +58,8 @@ class frmPlotTest : public ::testing::Test {
     return channels;
   }
 
-  Folder folder_;
-  const DataFolder data_ = folder_.Data();
+  SampleFolder folder_;
+  const DataFolder data_ = folder_.Folder();
   SessionState state_;
   StandInPlatform platform_;
   const Workspace workspace_{state_, data_, platform_};
@@ -205,7 +205,7 @@ TEST_F(frmPlotTest, MissingAndBrokenFilesLeaveTheRest) {
   EXPECT_TRUE(Drawn().empty());
   EXPECT_FALSE(plot_->Surface().Drawing().IsEmpty());
   EXPECT_TRUE(platform_.Messages.isEmpty());
-  folder_.Write("1230x.dat", "junk\n\n1230,QX,T,S,C,D,33,97,1,-,-,99\n" + Folder::Channel("1230"));
+  folder_.Put("1230x.dat", "junk\n\n1230,QX,T,S,C,D,33,97,1,-,-,99\n" + SampleFolder::Channel("1230"));
   PressInForm("cmdFreq", "1230", "cmdErasePlot");
   EXPECT_EQ(Drawn(), (Names{"QDN1230 D", "QDN1230 N", "QU1230 U"}));
 }

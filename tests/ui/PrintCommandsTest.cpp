@@ -10,7 +10,7 @@
 #include "draw/Fonts.h"
 #include "forms/StandInPlatform.h"
 #include "map/MainMap.h"
-#include "map/TestFolder.h"
+#include "TestFolder.h"
 #include "ui/PrintCommands.h"
 
 namespace kestrel {
@@ -33,9 +33,9 @@ class FailingDevice final : public PrintDevice {
   std::unique_ptr<QPrinter> paper_;
 };
 
-class PrintingTest : public ::testing::Test {
+class PrintCommandsTest : public ::testing::Test {
  protected:
-  PrintingTest() {
+  PrintCommandsTest() {
     data_.Put("1230x.dat", kFile);
     data_.Put("STATES.dat", "33 263\n34 263\n");
     data_.Put("REGION2.dat", "32 263\n31 264\n");
@@ -108,7 +108,7 @@ class PrintingTest : public ::testing::Test {
   QString pdf_ = folder_.filePath("page.pdf");
 };
 
-TEST_F(PrintingTest, TheMapIsOnePageOfLinesAndLetters) {
+TEST_F(PrintCommandsTest, TheMapIsOnePageOfLinesAndLetters) {
   ChoosePdf();
   PrintTheMap();
   EXPECT_EQ(Said(), QStringList("All patterns printed"));
@@ -123,7 +123,7 @@ TEST_F(PrintingTest, TheMapIsOnePageOfLinesAndLetters) {
                                                                          << text.toStdString();
 }
 
-TEST_F(PrintingTest, TheOutlineMapHasNoStations) {
+TEST_F(PrintCommandsTest, TheOutlineMapHasNoStations) {
   ChoosePdf(true);
   PrintTheMap();
   EXPECT_EQ(Said(), QStringList());
@@ -133,7 +133,7 @@ TEST_F(PrintingTest, TheOutlineMapHasNoStations) {
   EXPECT_FALSE(PdfText().contains("QABC"));
 }
 
-TEST_F(PrintingTest, TheStationPageHoldsItsDataInWords) {
+TEST_F(PrintCommandsTest, TheStationPageHoldsItsDataInWords) {
   ChoosePdf(false, QPageSize::A4);
   const SearchResult found = SearchStations(data_.Folder(), 1230, "QABC");
   PrintStation(system_, data_.Folder(), state_, SelectRow(found.Rows.at(0)), nullptr);
@@ -146,13 +146,13 @@ TEST_F(PrintingTest, TheStationPageHoldsItsDataInWords) {
     EXPECT_TRUE(text.contains(words)) << words << "\nin\n" << text.toStdString();
 }
 
-TEST_F(PrintingTest, ACancelledDialogPrintsNothingAndSaysNothing) {
+TEST_F(PrintCommandsTest, ACancelledDialogPrintsNothingAndSaysNothing) {
   PrintTheMap();
   PrintStation(system_, data_.Folder(), state_, {}, nullptr);
   EXPECT_EQ(Said(), QStringList());
 }
 
-TEST_F(PrintingTest, EveryFailureHasItsWords) {
+TEST_F(PrintCommandsTest, EveryFailureHasItsWords) {
   const QString states = "We had a problem sending STATES.dat to the printer";
   const QString region = "We had a problem sending REGION2.dat to the printer";
   const QString outlines = "We had a problem printing the map of Region 2";
