@@ -104,9 +104,7 @@ void frmPlot::AddCommands(CommandColumn& column) {
                     [this] { RunForm(frmGetDistance(workspace_, this)); });
   column.AddCommand("cmdOptions", "&Options", "Colours, map language, aspect", {Qt::Key_O},
                     [this] { ChooseOptions(); });
-  column.AddCommand("cmdPrint", "&Print", "Prints the map", {QKeySequence::Print}, [this] {
-    PrintMap(workspace_.System, workspace_.Folder, workspace_.State, surface_->Drawing(), this);
-  });
+  column.AddCommand("cmdPrint", "&Print", "Prints the map", {QKeySequence::Print}, [this] { Print(); });
   column.AddCommand("cmdImport", "I&mport", "Makes the station files from the FCC's files", {Qt::Key_I},
                     [this] { ImportStations(); });
   column.AddCommand("cmdAbout", "A&bout", "Version, licence, where the data come from", {Qt::Key_F1},
@@ -152,7 +150,10 @@ void frmPlot::AddViewCommands(CommandColumn& column) {
 }
 
 void frmPlot::Redraw(MapGround ground) {
-  if (ground == MapGround::Empty) surface_->Drawing().Clear();
+  if (ground == MapGround::Empty) {
+    surface_->Drawing().Clear();
+    scanned_ = false;
+  }
   DrawMainMap(surface_->Drawing(), workspace_.Folder, workspace_.State, ground);
   ground == MapGround::Empty ? surface_->ShowDrawing() : surface_->ShowAdditions();
   UpdateZoomCommands();
@@ -254,6 +255,14 @@ void frmPlot::ChangeView(void (*change)(SessionState&)) {
   Redraw();
 }
 
+void frmPlot::Print() {
+  const Point corner = surface_->ToSheet({0, 0});
+  const Point opposite = surface_->ToSheet(QPointF(surface_->width(), surface_->height()));
+  const SheetArea shown = {corner.x, corner.y, opposite.x - corner.x, opposite.y - corner.y};
+  PrintMap(workspace_.System, workspace_.Folder, workspace_.State, {surface_->Drawing(), shown, scanned_},
+           this);
+}
+
 void frmPlot::ChooseScan() {
   RunForm(frmShowStations(workspace_, this));
   if (workspace_.State.PlotAllStations != 1) return;
@@ -278,6 +287,7 @@ void frmPlot::ScanOnce() {
   SessionState& state = workspace_.State;
   state.StopRequested = false;
   surface_->Drawing().Clear();
+  scanned_ = true;
   const MapProjection projection(state.HomeLatitude, state.HomeLongitude, state.ScaleFactor);
   DrawOutlineFiles(surface_->Drawing(), workspace_.Folder, projection);
   surface_->ShowDrawing();

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <set>
 
 #include "core/Numbers.h"
 #include "data/TowerTable.h"
@@ -35,16 +36,40 @@ std::string HomePlace(const SessionState& state) {
          degrees(state.HomeLongitude, " W", " E");
 }
 
-/// The sheet, or more of the map where the place is larger, so that text keeps its 8 to 10 points.
-SheetArea MapIn(const SheetArea& place) {
-  const float width = std::max(SheetWidth, place.Width);
-  const float height = std::max(SheetHeight, place.Height);
-  return {(SheetWidth - width) / 2, (SheetHeight - height) / 2, width, height};
+/// "530, 540 kHz"; many channels as "118 channels, 530 to 1700 kHz".
+std::string ChannelsText(const std::set<int>& channels) {
+  constexpr std::size_t kMostNamed = 6;
+  if (channels.empty()) return "No stations";
+  if (channels.size() > kMostNamed)
+    return std::to_string(channels.size()) + " channels, " + std::to_string(*channels.begin()) + " to " +
+           std::to_string(*channels.rbegin()) + " kHz";
+  std::string text;
+  for (const int channel : channels) text += (text.empty() ? "" : ", ") + std::to_string(channel);
+  return text + " kHz";
 }
 
-/// A title over a framed part of the map.
+/// The channels that the map holds: the chosen one before those drawn beside it.
+std::string ChannelsOn(const ShownMap& map, const SessionState& state) {
+  std::set<int> channels;
+  for (const StationMark& mark : map.Drawing.Stations()) channels.insert(mark.Channel);
+  if (map.Scanned) return ChannelsText(channels);
+  const float chosen = state.SelectedFrequency > 0 ? state.SelectedFrequency : state.CurrentFrequency;
+  std::erase_if(channels, [chosen](int channel) { return static_cast<float>(channel) == chosen; });
+  const std::string text = NumberText(chosen) + " kHz";
+  return channels.empty() ? text : text + " with " + ChannelsText(channels);
+}
+
+/// The area shown, or more of the map around it where the place is larger, so that text keeps its 8 to 10
+/// points.
+SheetArea MapIn(const SheetArea& place, const SheetArea& shown) {
+  const float width = std::max(shown.Width, place.Width);
+  const float height = std::max(shown.Height, place.Height);
+  return {shown.Left - (width - shown.Width) / 2, shown.Top - (height - shown.Height) / 2, width, height};
+}
+
+/// A title over the framed map.
 std::vector<PagePane> TitledMap(PageSize page, const std::string& title, const std::string& source,
-                                std::function<void(Canvas&)> draw) {
+                                const SheetArea& shown, std::function<void(Canvas&)> draw) {
   constexpr float kTitleHeight = 2 * kLine + 60;
   const SheetArea frame = {0, kTitleHeight, page.Width, page.Height - kTitleHeight};
   std::vector<PagePane> panes;
@@ -55,7 +80,7 @@ std::vector<PagePane> TitledMap(PageSize page, const std::string& title, const s
     canvas.SetFont(kSmallFont);
     canvas.Text({0, kLine}, source);
   }));
-  panes.push_back({frame, MapIn(frame), std::move(draw)});
+  panes.push_back({frame, MapIn(frame, shown), std::move(draw)});
   panes.push_back(TextPane(frame, [frame](Canvas& canvas) {
     constexpr float kHair = 8;  // keeps the frame's line off the paper's edge
     canvas.SetColor(kTextColor);
@@ -133,12 +158,12 @@ PagePane TablePane(const SheetArea& place, std::vector<TowerRow> rows) {
 
 }  // namespace
 
-PrintedPage MapPage(const SessionState& state, const DataFolder& folder, const DisplayList& drawing) {
-  const float frequency = state.SelectedFrequency > 0 ? state.SelectedFrequency : state.CurrentFrequency;
-  const std::string title = NumberText(frequency) + " kHz    Home: " + HomePlace(state);
+PrintedPage MapPage(const SessionState& state, const DataFolder& folder, const ShownMap& map) {
+  const std::string title = ChannelsOn(map, state) + "    Home: " + HomePlace(state);
   const std::string source = folder.StationsLine();
-  const auto layout = [title, source, &drawing](PageSize page) {
-    return TitledMap(page, title, source, [&drawing](Canvas& canvas) { drawing.Play(canvas); });
+  const auto layout = [title, source, map](PageSize page) {
+    return TitledMap(page, title, source, map.Area,
+                     [&drawing = map.Drawing](Canvas& canvas) { drawing.Play(canvas); });
   };
   return {"KestrelII map", true, kSmallestMap, layout, GreysOf(state)};
 }
@@ -146,7 +171,7 @@ PrintedPage MapPage(const SessionState& state, const DataFolder& folder, const D
 PrintedPage OutlinePage(const SessionState& state, const DataFolder& folder) {
   const MapProjection projection(state.HomeLatitude, state.HomeLongitude, state.ScaleFactor);
   const auto layout = [projection, &folder, title = "Region 2    Home: " + HomePlace(state)](PageSize page) {
-    return TitledMap(page, title, {},
+    return TitledMap(page, title, {}, {},
                      [projection, &folder](Canvas& canvas) { DrawOutlineFiles(canvas, folder, projection); });
   };
   return {"KestrelII outline map", true, kSmallestMap, layout, GreysOf(state)};

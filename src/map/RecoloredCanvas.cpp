@@ -53,11 +53,11 @@ RecoloredCanvas::Mapping GreysOf(const SessionState& state) {
   constexpr ColorValue kRegionColor = 0xCC8888;
   constexpr ColorValue kStatesColor = 0xDD9999;
   return FromTable({{state.NightColor, {Grey(0), 1}},
-                    {state.UnlimitedColor, {Grey(0x38), 2.2F}},
-                    {state.DayColor, {Grey(0x70), 1}},
-                    {state.CriticalColor, {Grey(0x88), 2.2F}},
-                    {state.AdjacentColor, {Grey(0xA0), 1}},
-                    {kRegionColor, {Grey(0xB8), 0.8F}},
+                    {state.UnlimitedColor, {Grey(0x30), 2.2F}},
+                    {state.DayColor, {Grey(0x60), 1}},
+                    {state.CriticalColor, {Grey(0x80), 2.2F}},
+                    {state.AdjacentColor, {Grey(0x88), 1}},
+                    {kRegionColor, {Grey(0xB0), 1.2F}},
                     {kStatesColor, {Grey(0xC8), 0.8F}}});
 }
 
@@ -67,7 +67,7 @@ RecoloredCanvas::Mapping StationPlotGreys() {
                     {0x119911, {Grey(0x58), 1.5F}},
                     {0xCCCC11, {Grey(0x88), 1.5F}},
                     {0xFF4444, {Grey(0x70), 0.8F}},
-                    {0xDDDDDD, {Grey(0xE0), 1}}});
+                    {0xDDDDDD, {Grey(0xC8), 0.8F}}});
 }
 
 }  // namespace kestrel
