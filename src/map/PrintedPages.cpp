@@ -71,7 +71,10 @@ SheetArea MapIn(const SheetArea& place, const SheetArea& shown) {
 std::vector<PagePane> TitledMap(PageSize page, const std::string& title, const std::string& source,
                                 const SheetArea& shown, std::function<void(Canvas&)> draw) {
   constexpr float kTitleHeight = 2 * kLine + 60;
+  constexpr float kHair = 8;  // keeps the frame's line off the paper's edge, and the map inside the frame
   const SheetArea frame = {0, kTitleHeight, page.Width, page.Height - kTitleHeight};
+  const SheetArea inside = {frame.Left + 2 * kHair, frame.Top + 2 * kHair, frame.Width - 4 * kHair,
+                            frame.Height - 4 * kHair};
   std::vector<PagePane> panes;
   panes.push_back(TextPane({0, 0, page.Width, kTitleHeight}, [title, source](Canvas& canvas) {
     canvas.SetColor(kTextColor);
@@ -80,9 +83,8 @@ std::vector<PagePane> TitledMap(PageSize page, const std::string& title, const s
     canvas.SetFont(kSmallFont);
     canvas.Text({0, kLine}, source);
   }));
-  panes.push_back({frame, MapIn(frame, shown), std::move(draw)});
+  panes.push_back({inside, MapIn(inside, shown), std::move(draw)});
   panes.push_back(TextPane(frame, [frame](Canvas& canvas) {
-    constexpr float kHair = 8;  // keeps the frame's line off the paper's edge
     canvas.SetColor(kTextColor);
     canvas.Box({kHair, kHair}, {frame.Width - kHair, frame.Height - kHair});
   }));
@@ -128,7 +130,7 @@ PagePane WordsPane(const SheetArea& place, const SessionState& state, const Stat
       top += kLine;
     }
     canvas.SetFont(kSmallFont);
-    canvas.Text({0, top}, source);
+    canvas.Text({0, top + kLine / 4}, source);
   });
 }
 
@@ -136,7 +138,7 @@ PagePane TablePane(const SheetArea& place, std::vector<TowerRow> rows) {
   return TextPane(place, [rows = std::move(rows)](Canvas& canvas) {
     static constexpr std::array<const char*, TowerColumns> kUnits = {"ratio",   "degrees",  "degrees",
                                                                      "degrees", "deg true", ""};
-    constexpr float kNumberWidth = 600;
+    constexpr float kNumberWidth = 660;
     constexpr float kColumn = 1120;
     canvas.SetColor(kTextColor);
     canvas.SetFont(kTableFont);
@@ -148,6 +150,7 @@ PagePane TablePane(const SheetArea& place, std::vector<TowerRow> rows) {
     canvas.SetFont(kSmallFont);
     for (std::size_t i = 0; i < TowerColumns; ++i) canvas.Text({left(i), kLine}, kUnits[i]);
     canvas.SetFont(kTextFont);
+    if (rows.empty()) canvas.Text({0, 2 * kLine}, "No towers are known");
     for (std::size_t row = 0; row < rows.size(); ++row) {
       const float top = kLine * static_cast<float>(row + 2);
       canvas.Text({0, top}, ' ' + std::to_string(row + 1));
