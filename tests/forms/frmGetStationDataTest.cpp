@@ -1,6 +1,8 @@
 #include "forms/frmGetStationData.h"
 
 #include <QListWidget>
+#include <QScreen>
+#include <QScrollBar>
 
 #include "forms/FormFixture.h"
 #include "map/RecordingCanvas.h"
@@ -118,6 +120,20 @@ TEST_F(frmGetStationDataTest, ALongListScrollsAndKeepsThePlotInView) {
   QTest::keyClick(List(), Qt::Key_End);
   EXPECT_EQ(List()->currentRow(), 119);
   EXPECT_TRUE(List()->viewport()->rect().intersects(List()->visualItemRect(List()->item(119))));
+}
+
+TEST_F(frmGetStationDataTest, InANarrowWindowTheHeadsMoveWithTheList) {
+  Open("QABC");
+  EXPECT_LE(form_->width(), form_->screen()->availableSize().width());
+  form_->resize(520, 500);
+  ASSERT_EQ(form_->width(), 520) << "the heads do not widen the window";
+  auto* bar = List()->horizontalScrollBar();
+  ASSERT_GT(bar->maximum(), 0);
+  auto* heads = Find<QLabel>(*form_, "Label3");
+  const int left = heads->mapTo(form_.get(), QPoint()).x();
+  bar->setValue(bar->maximum());
+  EXPECT_EQ(heads->mapTo(form_.get(), QPoint()).x(), left - bar->maximum());
+  EXPECT_GE(List()->viewport()->height(), 2 * List()->sizeHintForRow(0)) << "the bar hides no line";
 }
 
 TEST_F(frmGetStationDataTest, ARecordWithoutAFieldRatioShowsItsTowersAlone) {

@@ -2,8 +2,10 @@
 
 #include <QClipboard>
 
+#include "draw/Fonts.h"
 #include "forms/FormFixture.h"
 #include "map/RecordingCanvas.h"
+#include "map/TowerSheet.h"
 #include "ui/MapSurface.h"
 
 namespace kestrel {
@@ -44,6 +46,12 @@ TEST_F(frmShowTowersTest, TheTableStandsInItsColumnsAndIsCopied) {
       ASSERT_NE(found, texts.end()) << row << ' ' << column;
       EXPECT_EQ(found->Text, words[6 * row + column]);
     }
+
+  const ScreenTwips twips = {static_cast<float>(screen.width()), static_cast<float>(screen.height())};
+  const double smallest =
+      Find<MapSurface>(form, "Table")->minimumWidth() / double{TowerSheetArea(twips).Width};
+  EXPECT_GE(smallest * TowerSheetFont(twips).Points * TwipsPerPoint * XHeightShare(FontFace::Sans), 6.99)
+      << "no column runs into the next one, however small the window";
 
   Use(form, [&form] {
     QTest::keyClick(&form, Qt::Key_C, Qt::ControlModifier);
