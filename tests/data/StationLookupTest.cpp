@@ -171,7 +171,7 @@ TEST(StationLookupTest, RecordsAreLoadedByCallHoursAndTowers) {
   const auto broken = TowerTable(load("WBRK", 0).at(0));
   ASSERT_EQ(broken.size(), 3U) << "a tower without a field ratio does not hide the next one";
   EXPECT_EQ(broken[1][0], " 0 ");
-  EXPECT_EQ(broken[2][4], " 180 ");
+  EXPECT_EQ(broken[2][3], " 180 ");
 }
 
 TEST(StationLookupTest, TheListGrowsToALimitAndShrinksForManyRows) {
