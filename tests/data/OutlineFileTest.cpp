@@ -4,6 +4,8 @@
 
 #include <string>
 
+#include "core/Numbers.h"
+
 namespace kestrel {
 namespace {
 
@@ -16,8 +18,7 @@ std::string Strokes(std::string_view bytes, CommentLines comments = CommentLines
   for (std::size_t i = 0; i <= outline.Latitude.size(); ++i) {
     for (; penUp != outline.PenUpBefore.end() && *penUp == i; ++penUp) text += "/ ";
     if (i == outline.Latitude.size()) break;
-    text += testing::PrintToString(outline.Latitude[i]) + ',' + testing::PrintToString(outline.Longitude[i]) +
-            ' ';
+    text += NumberText(outline.Latitude[i]) + ',' + NumberText(outline.Longitude[i]) + ' ';
   }
   EXPECT_EQ(penUp, outline.PenUpBefore.end()) << "pen-up marks ascend";
   return text;
@@ -37,7 +38,7 @@ TEST(OutlineFileTest, CutsStrokesFromLines) {
               {"1 2\n2000\n-200\n", "1,2 2000,0 -200,0 "},
               {"-100 100\n-100.5 -100\n-100 -100 x\n-1e2 -100.0\n", "-100,100 -100.5,-100 / / "},
               {"45\n", "45,0 "},
-              {"a b\n1x 2y\n.5. 1e2\n", "0,0 1,2 0.5,100 "},
+              {"a b\n1x 2y\n.5. 1e2\n", "0,0 1,2 .5,100 "},
               {"45.2\t-93.1\n", "45.2,0 "},
               {"1 -190\n1 361.5\n", "1,-190 1,361.5 "},
               {"> 5 6\n1 2\n", "0,5 1,2 "}};

@@ -57,6 +57,20 @@ TEST_F(frmOpeningTest, EscapeAndExitLeaveWithoutStarting) {
   }
 }
 
+TEST_F(frmOpeningTest, LoadsOnceShownUnlessItHasBeenLeft) {
+  for (const char* button : {"cmdEnter", "cmdExit"}) {
+    frmOpening opening(workspace_);
+    int loads = 0;
+    opening.FirstPainted = [&] { ++loads; };
+    opening.show();
+    opening.grab();  // paints it
+    QTest::mouseClick(opening.findChild<QPushButton*>(button), Qt::LeftButton);
+    EXPECT_EQ(loads, 0) << "painted first";
+    QCoreApplication::processEvents();
+    EXPECT_EQ(loads, button == std::string("cmdEnter") ? 1 : 0);
+  }
+}
+
 TEST_F(frmOpeningTest, MissingListEndsLoadingButStartStillReadsTheSession) {
   folder_.Put("Kestrel.CFG", "Frequency: 1230\nHome: Here\nLat: 40\nLon: 75\n");
   for (const char* list : {"Kestrel.lst", "StationsCall.DAT"}) {
