@@ -22,6 +22,15 @@ bool IsPlainAscii(std::string_view bytes) {
   return bits < 0x80;
 }
 
+/// A line as long as it may be, without a piece of a character at its end.
+std::string_view Cut(std::string_view line) {
+  if (line.size() <= LongestLine) return line;
+  const auto continues = [&line](std::size_t at) { return (line[at] & 0xC0) == 0x80; };
+  std::size_t length = LongestLine;
+  while (length > LongestLine - 3 && continues(length)) --length;
+  return line.substr(0, length);
+}
+
 }  // namespace
 
 LineReader::LineReader(std::string_view bytes) : bytes_(bytes) {
@@ -37,7 +46,7 @@ std::optional<std::string_view> LineReader::NextBytes() {
   if (nextCarriageReturn_ < position_) nextCarriageReturn_ = Find(bytes_, '\r', position_);
 
   const std::size_t end = std::min(nextLineFeed_, nextCarriageReturn_);
-  const std::string_view line = bytes_.substr(position_, end - position_);
+  const std::string_view line = Cut(bytes_.substr(position_, end - position_));
   const bool pair = end == nextCarriageReturn_ && nextLineFeed_ == end + 1;
   position_ = end + (pair ? 2 : 1);
   ++lineNumber_;
