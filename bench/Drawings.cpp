@@ -3,8 +3,9 @@
 #include "Rows.h"
 #include "Table.h"
 #include "draw/Fonts.h"
-#include "draw/Picture.h"
+#include "draw/RasterCanvas.h"
 #include "map/BandScan.h"
+#include "map/DisplayList.h"
 #include "map/MainMap.h"
 #include "map/Outlines.h"
 #include "straight/Drawing.h"
@@ -14,21 +15,39 @@ namespace {
 
 constexpr QSize kSize(1600, 1200);
 
+/// The map as a first start shows it.
 SessionState Session(float channel, bool adjacents) {
   SessionState state;
   state.CurrentFrequency = state.SelectedFrequency = channel;
   state.AdjacentsShown = adjacents ? 1 : 0;
+
   return state;
 }
 
-/// What a map surface keeps between drawings: the list's memory and the image.
+/// A map with nearly all of the outlines' vertices in view.
+SessionState AllOfRegion2(SessionState state) {
+  state.HomeLatitude = 9;
+  state.HomeLongitude = 80;
+  state.ScaleFactor = 50;
+  state.PatternSize = 2;
+  return state;
+}
+
+/// What a map surface keeps between drawings: the memory of the list and of the image, and the tools.
 struct Surface {
   PlatformTextMeasure Measure;
   DisplayList List{Measure};
+  DrawingTools Tools;
   QImage Image{kSize, QImage::Format_RGB32};
 
   void Show() {
-    Image = RenderImage(List, kSize);
+    SurfaceRules rules;
+    rules.Fit = FitSheet(static_cast<float>(kSize.width()), static_cast<float>(kSize.height()));
+    rules.Area = QRectF(Image.rect());
+    Image.fill(Qt::white);
+    RasterCanvas canvas(Image, rules, Tools);
+    List.Play(canvas);
+    canvas.Finish();
     Keep(Image.constBits());
   }
 };
@@ -68,6 +87,8 @@ void AddRedrawRow(const std::string& work, const Band& band, const SessionState&
 
 void AddDrawingRows(const Band& band) {
   AddRedrawRow("400 records", band, Session(ChannelOf(band, 400, false), false), {15, 16.7});
+  AddRedrawRow("400 records and all of Region 2", band,
+               AllOfRegion2(Session(ChannelOf(band, 400, false), false)), {15, 16.7});
   AddRedrawRow("with both adjacents", band, Session(ChannelOf(band, 1000, true), true), {8, 33});
   AddRow(
       "whole-band scan, " + band.Name, "straight code", {8, 45}, [=] { Scan(band, Session(1230, false)); },

@@ -2,7 +2,9 @@
 
 #include "Rows.h"
 #include "Table.h"
+#include "core/Numbers.h"
 #include "data/DataFolder.h"
+#include "data/StationLookup.h"
 #include "straight/Reading.h"
 
 namespace kestrel::bench {
@@ -45,6 +47,16 @@ void AddOutlineReaderRow() {
         const Outline outline = straight::ReadOutline(folder + "/REGION2.dat");
         Keep(&outline);
       });
+}
+
+void AddSearchRow(const Band& band) {
+  const float channel = ChannelOf(band, 1000, false);
+  const std::string callSign = ReadChannel(band, channel).back().CallSign;
+  AddRow("a station found by call sign, " + NumberText(channel) + " kHz, " + band.Name, {0, 2}, [=] {
+    const DataFolder folder(QString::fromStdString(band.Folder));
+    const SearchResult found = SearchStations(folder, channel, callSign);
+    Keep(found.Rows.data());
+  });
 }
 
 void AddStationReaderRow(const Band& band) {

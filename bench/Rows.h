@@ -11,7 +11,8 @@ void AddProjectionRows();
 void AddSweepRow(const Band& band);
 void AddOutlineReaderRow();
 void AddStationReaderRow(const Band& band);
-void AddDrawingRows(const Band& band);    ///< whole redraws and the scan
-void PrintProcessRows(const Band& band);  ///< programs from start to end, and their memory
+void AddSearchRow(const Band& band);
+void AddDrawingRows(const Band& band);  ///< whole redraws and the scan
+void PrintProcessRows();                ///< whole programs, after the table; for the machine's clock
 
 }  // namespace kestrel::bench

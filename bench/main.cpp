@@ -14,8 +14,9 @@ int main(int argc, char** argv) {
   for (const Band& band : Bands()) {
     AddSweepRow(band);
     AddStationReaderRow(band);
+    AddSearchRow(band);
     AddDrawingRows(band);
   }
   MeasureAndPrint(argc, argv);
-  PrintProcessRows(Bands().front());
+  PrintProcessRows();
 }

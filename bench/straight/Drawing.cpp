@@ -59,7 +59,7 @@ class Plot {
       if (!PassesHoursFilter(record->HoursCode, state_.HoursFilter)) continue;
       const Point at = Station(*record);
       const ColorValue color = Color(channel, record->HoursCode);
-      painter_.setPen(PlatformColor(color));
+      painter_.setPen(QPen(PlatformColor(color), PatternLineWidth));
       if (record->TowerCount > 0 && straight::ComputePattern(*record, values))
         Outline180(at, Factor(record->HoursCode), values);
       else

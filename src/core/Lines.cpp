@@ -15,8 +15,8 @@ std::size_t Find(std::string_view bytes, char wanted, std::size_t from) {
 }
 
 bool IsPlainAscii(std::string_view bytes) {
-  // Bit 7 of c or of c - 1 is set for what is not ASCII and for 0. Without an early end, so that many bytes are
-  // looked at together.
+  // Bit 7 of c or of c - 1 is set for what is not ASCII and for 0. Without an early end, so that many bytes
+  // are looked at together.
   unsigned char bits = 0;
   for (const char c : bytes) bits |= static_cast<unsigned char>(c | (c - 1));
   return bits < 0x80;
@@ -31,24 +31,37 @@ std::string_view Cut(std::string_view line) {
   return line.substr(0, length);
 }
 
+/// Whether a CR stands anywhere without an LF behind it. Without an early end, likewise.
+bool HasLoneReturn(std::string_view bytes) {
+  unsigned char lone = bytes.ends_with('\r');
+  for (std::size_t i = 1; i < bytes.size(); ++i)
+    lone |= static_cast<unsigned char>((bytes[i - 1] == '\r') & (bytes[i] != '\n'));
+  return lone != 0;
+}
+
 }  // namespace
 
 LineReader::LineReader(std::string_view bytes) : bytes_(bytes) {
   if (bytes_.starts_with("\xEF\xBB\xBF")) bytes_.remove_prefix(3);
   plain_ = IsPlainAscii(bytes_);
+  hasLoneReturn_ = HasLoneReturn(bytes_);
   nextLineFeed_ = Find(bytes_, '\n', 0);
-  nextCarriageReturn_ = Find(bytes_, '\r', 0);
 }
 
 std::optional<std::string_view> LineReader::NextBytes() {
   if (AtEnd()) return std::nullopt;
   if (nextLineFeed_ < position_) nextLineFeed_ = Find(bytes_, '\n', position_);
-  if (nextCarriageReturn_ < position_) nextCarriageReturn_ = Find(bytes_, '\r', position_);
-
-  const std::size_t end = std::min(nextLineFeed_, nextCarriageReturn_);
+  std::size_t end = nextLineFeed_;
+  std::size_t next = end + 1;
+  if (hasLoneReturn_) {
+    const std::size_t carriageReturn = Find(bytes_.substr(0, end), '\r', position_);
+    if (carriageReturn + 1 < end) next = carriageReturn + 1;
+    end = carriageReturn;
+  } else if (end > position_ && bytes_[end - 1] == '\r') {
+    --end;
+  }
   const std::string_view line = Cut(bytes_.substr(position_, end - position_));
-  const bool pair = end == nextCarriageReturn_ && nextLineFeed_ == end + 1;
-  position_ = end + (pair ? 2 : 1);
+  position_ = next;
   ++lineNumber_;
   return line;
 }

@@ -44,10 +44,10 @@ class LineReader {
 
  private:
   std::string_view bytes_;
-  bool plain_ = false;  // no byte needs mending
+  bool plain_ = false;          // no byte needs mending
+  bool hasLoneReturn_ = false;  // a line somewhere ends in CR alone
   std::size_t position_ = 0;
-  std::size_t nextLineFeed_ = 0;        // at or behind position_, bytes_.size() when there is no more
-  std::size_t nextCarriageReturn_ = 0;  // likewise
+  std::size_t nextLineFeed_ = 0;  // at or behind position_, bytes_.size() when there is no more
   int lineNumber_ = 0;
   std::string mended_;  // the line that Next() had to change
 };

@@ -40,12 +40,6 @@ std::size_t Advance(std::string_view text, std::size_t from, std::size_t count) 
 
 }  // namespace
 
-std::string_view Trim(std::string_view text) {
-  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
-  while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
-  return text;
-}
-
 bool IsUtf8(std::string_view bytes) {
   while (!bytes.empty()) {
     const std::size_t length = SequenceLength(bytes);

@@ -9,7 +9,11 @@
 namespace kestrel {
 
 /// Without the blanks (U+0020) at both ends.
-std::string_view Trim(std::string_view text);
+inline std::string_view Trim(std::string_view text) {
+  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
+  while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
+  return text;
+}
 
 /// Whether the bytes are well-formed UTF-8 (RFC 3629: no overlong form, no surrogate, at most U+10FFFF).
 bool IsUtf8(std::string_view bytes);

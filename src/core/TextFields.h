@@ -1,5 +1,9 @@
 #pragma once
 
+#include <array>
+#include <bit>
+#include <cstdint>
+#include <cstring>
 #include <optional>
 #include <string_view>
 
@@ -11,8 +15,8 @@
 
 namespace kestrel {
 
-/// Cuts the next field off `line`. Nothing, and an empty line, when only separators are left. Fields are a few
-/// characters long, so looking at one after the other is quicker than searching.
+/// Cuts the next field off `line`. Nothing, and an empty line, when only separators are left. Fields are a
+/// few characters long, so looking at one after the other is quicker than searching.
 inline std::optional<std::string_view> CutField(std::string_view& line, char separator) {
   const char* at = line.data();
   const char* const end = at + line.size();
@@ -31,6 +35,44 @@ inline std::optional<std::string_view> CutField(std::string_view& line, char sep
 /// Cuts the next comma-separated field off `line`.
 inline std::optional<std::string_view> NextField(std::string_view& line) {
   return CutField(line, ',');
+}
+
+/// The bits 7 of the bytes of `eight` that are commas, in the order of the bytes in memory from bit 7 on.
+inline std::uint64_t CommasAmong(const char* eight) {
+  constexpr std::uint64_t kLow7 = 0x7F7F7F7F7F7F7F7F;
+  std::uint64_t bytes = 0;
+  std::memcpy(&bytes, eight, sizeof bytes);
+  if constexpr (std::endian::native == std::endian::big) bytes = __builtin_bswap64(bytes);
+  const std::uint64_t differences = bytes ^ (0x0101010101010101 * ',');
+  // Bit 7 of a sum is set where the byte's low bits are not all 0; no sum carries into the next byte.
+  return ~(((differences & kLow7) + kLow7) | differences | kLow7);
+}
+
+/// The first N comma-separated fields of a line, as NextField cuts them one after the other; those that the
+/// line lacks are empty.
+template <std::size_t N>
+std::array<std::string_view, N> FirstFields(std::string_view line) {
+  std::array<std::string_view, N> fields;
+  std::size_t count = 0;
+  const char* at = line.data();
+  const char* const end = at + line.size();
+  const char* begin = at;  // of the present field
+  const auto endField = [&](const char* comma) {
+    if (comma != begin) fields[count++] = {begin, static_cast<std::size_t>(comma - begin)};
+    begin = comma + 1;
+  };
+  for (; end - at >= 8; at += 8)
+    for (std::uint64_t commas = CommasAmong(at); commas != 0; commas &= commas - 1) {
+      endField(at + std::countr_zero(commas) / 8);
+      if (count == N) return fields;
+    }
+  for (; at != end; ++at)
+    if (*at == ',') {
+      endField(at);
+      if (count == N) return fields;
+    }
+  endField(end);
+  return fields;
 }
 
 /// Cuts the next blank-separated field off `line`. Used by the states map.

@@ -3,22 +3,12 @@
 #include <bit>
 #include <cstdint>
 
+#include "core/VectorLevels.h"
+
 // Sine, cosine and arc tangent without a branch or a call, so that a loop over them becomes vector code. Only
 // the files with the loops ("kernels") include this; they are compiled with optimisation for loops and
 // without errno and traps, which alone keep the compiler from it. No step depends on the width of the
 // vectors, and contraction into fused operations is off, so every vector level gives the same bytes.
-
-// The kernels live in a namespace that a test replaces to compile them again, each vector level by itself.
-#ifndef KESTREL_KERNELS
-#define KESTREL_KERNELS kernels
-// One function compiled for several levels, the best one chosen when the program starts.
-#if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__)
-#define KESTREL_CLONES __attribute__((target_clones("default", "arch=x86-64-v3", "arch=x86-64-v4")))
-#endif
-#endif
-#ifndef KESTREL_CLONES
-#define KESTREL_CLONES
-#endif
 
 namespace kestrel::KESTREL_KERNELS {
 

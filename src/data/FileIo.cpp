@@ -28,8 +28,9 @@ bool WriteThrough(int file, std::string_view bytes) {
 
 Result<QByteArray> ReadFile(const QString& path, qint64 largest) {
   const QFileInfo info(path);
-  if (!info.exists()) return Failure(path, Error::Kind::NotFound, "there is no such file");
-  if (!info.isFile()) return Failure(path, Error::Kind::NotAFile, "is a folder or a device, not a file");
+  if (!info.isFile())
+    return info.exists() ? Failure(path, Error::Kind::NotAFile, "is a folder or a device, not a file")
+                         : Failure(path, Error::Kind::NotFound, "there is no such file");
   const auto tooLarge = [&] {
     return Failure(path, Error::Kind::TooLarge,
                    QString("is larger than %1 MB, the most that is read").arg(largest >> 20));
@@ -37,16 +38,11 @@ Result<QByteArray> ReadFile(const QString& path, qint64 largest) {
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
     return Failure(path, Error::Kind::Refused, file.errorString());
-  const qint64 size = file.size();
+  const qint64 size = info.size();
   if (size > largest) return tooLarge();
   QByteArray bytes(size + 1, Qt::Uninitialized);  // room for one byte more than there should be
-  qint64 length = 0;
-  while (length < bytes.size()) {
-    const qint64 count = file.read(bytes.data() + length, bytes.size() - length);
-    if (count < 0) return Failure(path, Error::Kind::Refused, file.errorString());
-    if (count == 0) break;
-    length += count;
-  }
+  const qint64 length = file.read(bytes.data(), bytes.size());
+  if (length < 0) return Failure(path, Error::Kind::Refused, file.errorString());
   if (length != size)
     return Failure(path, Error::Kind::Refused, "changed while it was read; try again when it is complete");
   bytes.truncate(size);

@@ -18,27 +18,20 @@ bool IsStationLine(std::string_view line) {
 }
 
 StationLine CutStationLine(std::string_view line) {
-  const auto next = [&line] { return NextField(line).value_or(std::string_view{}); };
-  StationLine fields;
-  for (std::string_view* field :
-       {&fields.Frequency, &fields.CallSign, &fields.City, &fields.State, &fields.Country, &fields.HoursCode,
-        &fields.Latitude, &fields.Longitude, &fields.PowerKW})
-    *field = next();
-  next();  // two fields that carry nothing
-  next();
-  fields.TowerCount = next();
-  return fields;
+  const auto fields = FirstFields<12>(line);  // the tenth and eleventh carry nothing
+  return {fields[0], fields[1], fields[2], fields[3], fields[4],
+          fields[5], fields[6], fields[7], fields[8], fields[11]};
 }
 
 void CutTowerLine(std::string_view line, int tower, StationRecord& record) {
-  const auto next = [&line] { return NextField(line).value_or(std::string_view{}); };
+  const auto fields = FirstFields<6>(line);
   const auto i = static_cast<std::size_t>(tower);
-  record.Switch[i] = next();
-  record.Fields[i] = Number(next());
-  record.Heights[i] = Number(next());
-  record.Phases[i] = Number(next());
-  record.Spacings[i] = Number(next());
-  record.Bearings[i] = Number(next());
+  record.Switch[i] = fields[0];
+  record.Fields[i] = Number(fields[1]);
+  record.Heights[i] = Number(fields[2]);
+  record.Phases[i] = Number(fields[3]);
+  record.Spacings[i] = Number(fields[4]);
+  record.Bearings[i] = Number(fields[5]);
 }
 
 double StoreStationLine(const StationLine& line, StationRecord& record) {
@@ -101,7 +94,8 @@ bool StationFileReader::ReadTowers() {
 void StationFileReader::Note(const std::string& text) {
   if (notes_.size() > MaxNotes) return;
   if (notes_.size() == MaxNotes) {
-    notes_.push_back(name_ + ": more than " + std::to_string(MaxNotes) + " faults; the others are not listed");
+    notes_.push_back(name_ + ": more than " + std::to_string(MaxNotes) +
+                     " faults; the others are not listed");
     return;
   }
   notes_.push_back(name_ + ':' + std::to_string(lines_.LineNumber()) + ": " + text);

@@ -5,9 +5,10 @@
 #include <cmath>
 
 #include "draw/Fonts.h"
-#include "draw/Mixed.h"
+#include "draw/Mixing.h"
 
 namespace kestrel {
+
 GlyphCache::GlyphCache(FontFace face, double pixels) {
   const QImage ordinary(1, 1, QImage::Format_RGB32);
   font_ = PlatformFont(face, pixels, ordinary.logicalDpiY());
@@ -39,11 +40,12 @@ const GlyphCache::Glyph& GlyphCache::Made(int letter, int step) {
   painter_->drawText(QPointF(origin_) + QPointF(static_cast<double>(step) / kSteps, 0),
                      QChar(kFirst + letter));
 
-  int left = scratch_.width(), right = -1, top = scratch_.height(), bottom = -1;
+  const int width = scratch_.width();
+  int left = width, right = -1, top = scratch_.height(), bottom = -1;
   const auto rowAt = [&](int y) { return reinterpret_cast<const QRgb*>(scratch_.constScanLine(y)); };
   for (int y = 0; y < scratch_.height(); ++y) {
     const QRgb* const row = rowAt(y);
-    for (int x = 0; x < scratch_.width(); ++x) {
+    for (int x = 0; x < width; ++x) {
       if (qGreen(row[x]) == 0) continue;
       left = std::min(left, x);
       right = std::max(right, x);
@@ -56,22 +58,28 @@ const GlyphCache::Glyph& GlyphCache::Made(int letter, int step) {
   glyph.top = top - origin_.y();
   glyph.width = right - left + 1;
   glyph.height = bottom - top + 1;
-  for (int y = top; y <= bottom; ++y)
-    for (int x = left; x <= right; ++x) glyph.ink.push_back(static_cast<std::uint8_t>(qGreen(rowAt(y)[x])));
+  glyph.step = (glyph.width + 7) / 8 * 8;
+  glyph.ink.resize(static_cast<std::size_t>(glyph.step * glyph.height));
+  std::uint8_t* ink = glyph.ink.data();
+  for (int y = top; y <= bottom; ++y, ink += glyph.step)
+    for (int x = left; x <= right; ++x) ink[x - left] = static_cast<std::uint8_t>(qGreen(rowAt(y)[x]));
   return glyph;
 }
 
-void GlyphCache::Blend(QImage& image, int x, int y, QRgb color, const Glyph& glyph) const {
-  const int firstRow = std::max(0, -y);
+void GlyphCache::Blend(QImage& image, int x, int y, QRgb color, const Glyph& glyph) {
+  const InkRows ink = {glyph.ink.data(), glyph.step};
+  const PixelRows pixels = {reinterpret_cast<QRgb*>(image.bits()),
+                            image.bytesPerLine() / static_cast<qsizetype>(sizeof(QRgb))};
+  if (x >= 0 && x + glyph.step <= image.width() && y >= 0 && y + glyph.height <= image.height())
+    return MixRows(color, ink, {pixels.pixels + y * pixels.step + x, pixels.step}, glyph.step / 8,
+                   glyph.height);
   const int lastRow = std::min(glyph.height, image.height() - y);
-  const int firstColumn = std::max(0, -x);
   const int lastColumn = std::min(glyph.width, image.width() - x);
-  for (int row = firstRow; row < lastRow; ++row) {
-    auto* const pixels = reinterpret_cast<QRgb*>(image.scanLine(y + row)) + x;
-    const std::uint8_t* const ink = glyph.ink.data() + row * glyph.width;
-    for (int column = firstColumn; column < lastColumn; ++column)
-      pixels[column] = Mixed(color, pixels[column], ink[column]);
-  }
+  for (int row = std::max(0, -y); row < lastRow; ++row)
+    for (int column = std::max(0, -x); column < lastColumn; ++column) {
+      QRgb& pixel = pixels.pixels[(y + row) * pixels.step + x + column];
+      pixel = Mixed(color, pixel, ink.ink[row * ink.step + column]);
+    }
 }
 
 void GlyphCache::Draw(QImage& image, int top, QPointF baseline, QRgb color, std::string_view text) {

@@ -13,8 +13,8 @@
 
 namespace kestrel {
 
-/// The letters of one font at one size as shares of ink, for texts that are drawn hundreds of times. It lives
-/// for one drawing. Letters stand on quarters of a pixel across and on whole pixels down.
+/// The letters of one font at one size as shares of ink, for texts that are drawn hundreds of times. Letters
+/// stand on quarters of a pixel across and on whole pixels down.
 class GlyphCache {
  public:
   /// `pixels` is the font's size.
@@ -37,11 +37,12 @@ class GlyphCache {
   struct Glyph {
     bool made = false;
     int left = 0, top = 0, width = 0, height = 0;  // of the ink, from the base line's beginning
+    int step = 0;                                  // from row to row of the ink, whole eights
     std::vector<std::uint8_t> ink;
   };
 
   const Glyph& Made(int letter, int step);
-  void Blend(QImage& image, int x, int y, QRgb color, const Glyph& glyph) const;
+  static void Blend(QImage& image, int x, int y, QRgb color, const Glyph& glyph);
 
   QFont font_;
   QPoint origin_;  // the base line's beginning on the scratch image, on which every letter fits

@@ -6,7 +6,7 @@
 #include <cstring>
 #include <utility>
 
-#include "draw/Mixed.h"
+#include "draw/Mixing.h"
 
 namespace kestrel {
 namespace {
@@ -17,10 +17,15 @@ constexpr int kBorder = 24;
 constexpr float kNear = 12;
 constexpr float kWidestLine = 14;
 
-/// The whole number below; for the places on a picture, quicker than the library's.
-int Floor(float x) {
-  const int whole = static_cast<int>(x);
-  return whole - (static_cast<float>(whole) > x ? 1 : 0);
+/// The shift of the smallest blocks of which 64 hold a row.
+int BlockShift(int pixels) {
+  int shift = 3;
+  while (pixels > 64 << shift) ++shift;
+  return shift;
+}
+
+int RoundUp(int pixels, int shift) {
+  return ((pixels - 1) >> shift << shift) + (1 << shift);
 }
 
 /// Adds a share of a pixel, 0 to 1, up to the whole pixel.
@@ -29,100 +34,109 @@ void Ink(std::uint8_t* pixel, float share) {
   *pixel = static_cast<std::uint8_t>(std::min(sum, 255));
 }
 
-/// Eight pixels' ink, the first in the lowest byte.
-std::uint64_t EightPixels(const std::uint8_t* ink) {
-  std::uint64_t eight = 0;
-  std::memcpy(&eight, ink, sizeof eight);
-  if constexpr (std::endian::native == std::endian::big) eight = __builtin_bswap64(eight);
-  return eight;
-}
-
 }  // namespace
 
 InkMask::InkMask(QSize size, int top)
     : width_(size.width()),
       height_(size.height()),
       top_(top),
-      stride_(size.width() + 2 * kBorder),
-      nearLeft_(-kNear),
-      nearRight_(static_cast<float>(width_) + kNear),
-      nearTop_(static_cast<float>(top) - kNear),
-      nearBottom_(static_cast<float>(top + height_) + kNear),
-      ink_(static_cast<std::size_t>(stride_) * static_cast<std::size_t>(height_ + 2 * kBorder)),
-      dirty_{stride_, height_ + 2 * kBorder, 0, 0} {}
+      rows_(height_ + 2 * kBorder),
+      blockShift_(BlockShift(width_ + 2 * kBorder)),
+      stride_(RoundUp(width_ + 2 * kBorder, blockShift_)),
+      nearLeft_(kBorder - kNear),
+      nearRight_(static_cast<float>(width_ + kBorder) + kNear),
+      nearTop_(static_cast<float>(top + kBorder) - kNear),
+      nearBottom_(static_cast<float>(top + height_ + kBorder) + kNear),
+      ink_(static_cast<std::size_t>(stride_) * static_cast<std::size_t>(rows_)),
+      touched_(static_cast<std::size_t>(rows_)),
+      firstTouched_(rows_),
+      lastTouched_(-1) {}
 
-void InkMask::Widen(float x0, float y0, float x1, float y1, float reach) {
-  const auto column = [&](float x) {
-    return static_cast<int>(std::clamp(x, nearLeft_, nearRight_) + kBorder);
+void InkMask::Touch(float left, float top, float right, float bottom) {
+  const auto block = [&](float x) {
+    return static_cast<int>(std::clamp(x, 0.0F, static_cast<float>(stride_ - 1))) >> blockShift_;
   };
   const auto row = [&](float y) {
-    return static_cast<int>(std::clamp(y, nearTop_, nearBottom_) + kBorder - static_cast<float>(top_));
+    return static_cast<int>(std::clamp(y - static_cast<float>(top_), 0.0F, static_cast<float>(rows_ - 1)));
   };
-  const int spread = std::min(static_cast<int>(reach) + 1, kBorder - 2);
-  dirty_.left = std::min(dirty_.left, column(std::min(x0, x1)) - spread);
-  dirty_.right = std::max(dirty_.right, column(std::max(x0, x1)) + spread + 1);
-  dirty_.top = std::min(dirty_.top, row(std::min(y0, y1)) - spread);
-  dirty_.bottom = std::max(dirty_.bottom, row(std::max(y0, y1)) + spread + 1);
+  const std::uint64_t blocks =
+      (~std::uint64_t{0} << block(left)) & (~std::uint64_t{0} >> (63 - block(right)));
+  const int firstRow = row(top);
+  const int lastRow = row(bottom);
+  for (int i = firstRow; i <= lastRow; ++i) touched_[static_cast<std::size_t>(i)] |= blocks;
+  firstTouched_ = std::min(firstTouched_, firstRow);
+  lastTouched_ = std::max(lastTouched_, lastRow);
 }
 
-void InkMask::AddSegment(float x0, float y0, float x1, float y1, float width) {
-  const bool steep = std::abs(y1 - y0) > std::abs(x1 - x0);
-  const bool nearby = IsNear(x0, y0) && IsNear(x1, y1);
-  float begin = steep ? y0 : x0;
-  float end = steep ? y1 : x1;
-  float minor = steep ? x0 : y0;
-  float minorEnd = steep ? x1 : y1;
+float InkMask::AddSegment(Point from, Point to, float width) {
+  const bool steep = std::abs(to.y - from.y) > std::abs(to.x - from.x);
+  float begin = steep ? from.y : from.x;
+  float end = steep ? to.y : to.x;
+  float minor = steep ? from.x : from.y;
+  float minorEnd = steep ? to.x : to.y;
   if (begin > end) {
     std::swap(begin, end);
     std::swap(minor, minorEnd);
   }
   const float length = end - begin;
-  if (!(length > 0) || !std::isfinite(length) || !std::isfinite(minorEnd - minor)) return;
+  if (!(length > 0) || !std::isfinite(length) || !std::isfinite(minorEnd - minor)) return 0;
+  const float lowest = steep ? nearTop_ : nearLeft_;
+  const float highest = steep ? nearBottom_ : nearRight_;
+  if (begin > highest || end < lowest) return 0;
+
   const float slope = (minorEnd - minor) / length;
   // A line of one pixel is one pixel wide along the axis, whatever its slope: as crisp as can be.
   const float half = width <= 1 ? width / 2 : std::min(width, kWidestLine) / 2 * std::sqrt(1 + slope * slope);
-
-  std::uint8_t* const origin = ink_.data() + (kBorder - top_) * std::ptrdiff_t{stride_} + kBorder;
+  const int pixelsAcross = static_cast<int>(std::ceil(2 * half)) + 1;
+  const float minorLowest = steep ? nearLeft_ : nearTop_;
+  const float minorHighest = steep ? nearRight_ : nearBottom_;
+  std::uint8_t* const origin = ink_.data() - top_ * std::ptrdiff_t{stride_};
   const std::ptrdiff_t along = steep ? stride_ : 1;
   const std::ptrdiff_t across = steep ? 1 : stride_;
-  const float lowest = (steep ? nearTop_ : nearLeft_);
-  const float highest = (steep ? nearBottom_ : nearRight_);
-  const float minorLowest = (steep ? nearLeft_ : nearTop_);
-  const float minorHighest = (steep ? nearRight_ : nearBottom_);
-  if (begin > highest || end < lowest) return;
-  const int first = Floor(std::max(begin, lowest));
-  const int last = Floor(std::min(end, highest));
+  // Near the picture no coordinate is negative: the whole number below is the number cut.
+  const int first = static_cast<int>(std::max(begin, lowest));
+  const int last = static_cast<int>(std::min(end, highest));
   for (int i = first; i <= last; ++i) {
-    const float from = std::max(begin, static_cast<float>(i));
-    const float to = std::min(end, static_cast<float>(i + 1));
-    const float share = to - from;
-    const float middle = minor + ((from + to) / 2 - begin) * slope;
-    if (!nearby && !(middle >= minorLowest && middle <= minorHighest)) continue;
+    const float left = std::max(begin, static_cast<float>(i));
+    const float right = std::min(end, static_cast<float>(i + 1));
+    const float middle = minor + ((left + right) / 2 - begin) * slope;
+    if (!(middle >= minorLowest && middle <= minorHighest)) continue;
     const float low = middle - half;
     const float high = middle + half;
-    int row = Floor(low);
-    const int lastRow = Floor(high);
+    const int row = static_cast<int>(low);
     std::uint8_t* pixel = origin + i * along + row * across;
-    if (row == lastRow) {
-      Ink(pixel, share * (high - low));
-      continue;
+    // Pixels that the line does not reach are given nothing, which is quicker than to ask.
+    for (int k = row; k < row + pixelsAcross; ++k, pixel += across) {
+      const float covered = std::min(high, static_cast<float>(k + 1)) - std::max(low, static_cast<float>(k));
+      Ink(pixel, (right - left) * std::max(covered, 0.0F));
     }
-    Ink(pixel, share * (static_cast<float>(row + 1) - low));
-    for (++row, pixel += across; row < lastRow; ++row, pixel += across) Ink(pixel, share);
-    Ink(pixel, share * (high - static_cast<float>(lastRow)));
   }
-  Widen(x0, y0, x1, y1, half + 1);
+  return half;
 }
 
-void InkMask::AddPolyline(std::span<const QPointF> points, float width) {
-  for (std::size_t i = 1; i < points.size(); ++i)
-    AddSegment(static_cast<float>(points[i - 1].x()), static_cast<float>(points[i - 1].y()),
-               static_cast<float>(points[i].x()), static_cast<float>(points[i].y()), width);
+void InkMask::AddPolyline(std::span<const Point> points, float width) {
+  constexpr std::size_t kChunk = 8;  // segments that are marked as touched together
+  const auto shifted = [](Point point) { return Point{point.x + kBorder, point.y + kBorder}; };
+  for (std::size_t i = 0; i + 1 < points.size(); i += kChunk) {
+    Point from = shifted(points[i]);
+    float left = nearRight_, top = nearBottom_, right = nearLeft_, bottom = nearTop_, reach = 0;
+    for (const Point& point : points.subspan(i + 1, std::min(kChunk, points.size() - i - 1))) {
+      const Point to = shifted(point);
+      if (const float half = AddSegment(from, to, width); half > 0) {
+        reach = std::max(reach, half);
+        left = std::min({left, from.x, to.x});
+        top = std::min({top, from.y, to.y});
+        right = std::max({right, from.x, to.x});
+        bottom = std::max({bottom, from.y, to.y});
+      }
+      from = to;
+    }
+    if (reach > 0) Touch(left - reach - 2, top - reach - 2, right + reach + 2, bottom + reach + 2);
+  }
 }
 
-void InkMask::AddDisc(QPointF center, float radius) {
-  const auto x = static_cast<float>(center.x());
-  const auto y = static_cast<float>(center.y());
+void InkMask::AddDisc(Point center, float radius) {
+  const auto [x, y] = center;
   const float reach = radius + 1;
   if (!(x + reach > 0 && x - reach < static_cast<float>(width_) && y + reach > static_cast<float>(top_) &&
         y - reach < static_cast<float>(top_ + height_) && std::isfinite(reach)))
@@ -141,45 +155,41 @@ void InkMask::AddDisc(QPointF center, float radius) {
       if (inside > 0) Ink(pixels + column, std::min(inside, most));
     }
   }
-  Widen(x - radius, y - radius, x + radius, y + radius, 1);
+  Touch(x + kBorder - reach, y + kBorder - reach, x + kBorder + reach, y + kBorder + reach);
 }
 
-void InkMask::AddPoint(QPointF center) {
-  const QPointF ends[] = {{center.x() - 0.5, center.y()}, {center.x() + 0.5, center.y()}};
+void InkMask::AddPoint(Point center) {
+  const Point ends[] = {{center.x - 0.5F, center.y}, {center.x + 0.5F, center.y}};
   AddPolyline(ends, 1);
 }
 
-void InkMask::Lay(QRgb color, QImage& image) {
-  const int firstRow = std::max(kBorder, dirty_.top);
-  const int lastRow = std::min(kBorder + height_, dirty_.bottom);
-  const int left = std::max(kBorder, dirty_.left) & ~7;
-  const int right = std::min(kBorder + width_, dirty_.right);
-  QRgb* pixels = reinterpret_cast<QRgb*>(image.bits());
-  const std::ptrdiff_t pixelsPerRow = image.bytesPerLine() / static_cast<qsizetype>(sizeof(QRgb));
-  for (int row = firstRow; row < lastRow; ++row) {
-    const std::uint8_t* const ink = ink_.data() + row * std::ptrdiff_t{stride_};
-    QRgb* const line = pixels + (row - kBorder) * pixelsPerRow;
-    for (int column = left; column < right; column += 8) {
-      for (std::uint64_t rest = EightPixels(ink + column); rest != 0;) {
-        const int bit = std::countr_zero(rest) & ~7;
-        const int x = column - kBorder + bit / 8;
-        const std::uint64_t share = rest >> bit & 0xFF;
-        if (x < width_) line[x] = Mixed(color, line[x], static_cast<std::uint32_t>(share));
-        rest &= ~(std::uint64_t{0xFF} << bit);
-      }
-    }
+void InkMask::LayBlock(int row, int block, QRgb color, QRgb* line) {
+  const int pixels = 1 << blockShift_;
+  std::uint8_t* const ink = ink_.data() + row * std::ptrdiff_t{stride_} + block * pixels;
+  const int left = block * pixels - kBorder;
+  if (left >= 0 && left + pixels <= width_) {
+    MixRows(color, {ink, 0}, {line + left, 0}, pixels / 8, 1);
+  } else {
+    for (int i = std::max(0, -left); i < std::min(pixels, width_ - left); ++i)
+      line[left + i] = Mixed(color, line[left + i], ink[i]);
   }
-  Clear();
 }
 
-void InkMask::Clear() {
-  const int left = std::max(0, dirty_.left);
-  const int right = std::min(stride_, dirty_.right);
-  for (int row = std::max(0, dirty_.top); row < std::min(height_ + 2 * kBorder, dirty_.bottom); ++row)
-    if (left < right)
-      std::memset(ink_.data() + row * std::ptrdiff_t{stride_} + left, 0,
-                  static_cast<std::size_t>(right - left));
-  dirty_ = {stride_, height_ + 2 * kBorder, 0, 0};
+void InkMask::Lay(QRgb color, QImage& image) {
+  auto* const pixels = reinterpret_cast<QRgb*>(image.bits());
+  const std::ptrdiff_t pixelsPerRow = image.bytesPerLine() / static_cast<qsizetype>(sizeof(QRgb));
+  for (int row = firstTouched_; row <= lastTouched_; ++row) {
+    const bool shown = row >= kBorder && row < kBorder + height_;
+    std::uint64_t blocks = std::exchange(touched_[static_cast<std::size_t>(row)], 0);
+    for (; blocks != 0; blocks &= blocks - 1) {
+      const int block = std::countr_zero(blocks);
+      if (shown) LayBlock(row, block, color, pixels + (row - kBorder) * pixelsPerRow);
+      std::memset(ink_.data() + row * std::ptrdiff_t{stride_} + (block << blockShift_), 0,
+                  std::size_t{1} << blockShift_);
+    }
+  }
+  firstTouched_ = rows_;
+  lastTouched_ = -1;
 }
 
 }  // namespace kestrel

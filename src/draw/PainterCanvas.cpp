@@ -45,8 +45,10 @@ void PainterCanvas::Line(Point from, Point to) {
 }
 
 void PainterCanvas::Polyline(std::span<const Point> points) {
-  view_.ForEachRun(points, [&](std::span<const QPointF> run) {
-    painter_.drawPolyline(run.data(), static_cast<int>(run.size()));
+  view_.ForEachRun(points, [&](std::span<const Point> run) {
+    QPolygonF line;
+    for (const Point& point : run) line << QPointF(point.x, point.y);
+    painter_.drawPolyline(line);
   });
 }
 

@@ -31,12 +31,13 @@ QByteArray PngBytes(const DisplayList& drawing, QSize size) {
   constexpr int kMostPixels = 16 << 20;  // drawn at a time, 64 MB
   const int most = std::max(1, kMostPixels / size.width());
   PngFile file(size);
+  DrawingTools tools;
   for (int top = 0; top < size.height(); top += most) {
     const int rows = std::min(most, size.height() - top);
     QImage band(size.width(), rows, QImage::Format_RGB32);
     if (band.isNull()) throw std::bad_alloc();
     band.fill(Qt::white);
-    RasterCanvas canvas(band, RulesFor(size), top);
+    RasterCanvas canvas(band, RulesFor(size), tools, top);
     drawing.Play(canvas);
     canvas.Finish();
     file.AddRows(band, 0, rows);
@@ -76,7 +77,8 @@ QByteArray PdfBytes(const DisplayList& drawing, QSize size) {
 QImage RenderImage(const DisplayList& drawing, QSize size) {
   QImage image(size, QImage::Format_RGB32);
   image.fill(Qt::white);
-  RasterCanvas canvas(image, RulesFor(size));
+  DrawingTools tools;
+  RasterCanvas canvas(image, RulesFor(size), tools);
   drawing.Play(canvas);
   canvas.Finish();
   return image;

@@ -10,12 +10,15 @@
 
 namespace kestrel {
 
-RasterCanvas::RasterCanvas(QImage& image, const SurfaceRules& rules, int top)
+RasterCanvas::RasterCanvas(QImage& image, const SurfaceRules& rules, DrawingTools& tools, int top)
     : image_(image),
       top_(top),
       view_(rules),
-      mask_(image.size(), top),
-      lineWidth_(static_cast<float>(rules.PixelSize)) {}
+      tools_(tools),
+      mask_(tools.Mask(image.size(), top)),
+      lineWidth_(static_cast<float>(rules.PixelSize)) {
+  tools_.ForgetOldGlyphs();
+}
 
 void RasterCanvas::LayInk() {
   if (inked_) mask_.Lay(color_, image_);
@@ -38,7 +41,7 @@ void RasterCanvas::Line(Point from, Point to) {
 }
 
 void RasterCanvas::Polyline(std::span<const Point> points) {
-  view_.ForEachRun(points, [&](std::span<const QPointF> run) {
+  view_.ForEachRun(points, [&](std::span<const Point> run) {
     mask_.AddPolyline(run, lineWidth_);
     inked_ = true;
   });
@@ -56,10 +59,11 @@ void RasterCanvas::Circle(Point center, float radius) {
   const Point at = view_.At(center);
   const double pixels = view_.Length(radius);
   const int corners = static_cast<int>(std::clamp(6 * std::sqrt(std::abs(pixels)), 12.0, 720.0));
-  std::vector<QPointF> outline;
+  std::vector<Point> outline;
   for (int i = 0; i <= corners; ++i) {
     const double angle = 2 * std::numbers::pi * i / corners;
-    outline.emplace_back(at.x + pixels * std::sin(angle), at.y - pixels * std::cos(angle));
+    outline.push_back({static_cast<float>(at.x + pixels * std::sin(angle)),
+                       static_cast<float>(at.y - pixels * std::cos(angle))});
   }
   mask_.AddPolyline(outline, lineWidth_);
   inked_ = true;
@@ -68,14 +72,16 @@ void RasterCanvas::Circle(Point center, float radius) {
 void RasterCanvas::FilledCircle(Point center, float radius) {
   if (!view_.Shows(center, radius)) return;
   const Point at = view_.At(center);
-  mask_.AddDisc({at.x, at.y}, static_cast<float>(view_.Length(radius)));
+  mask_.AddDisc(at, static_cast<float>(view_.Length(radius)));
   inked_ = true;
 }
 
 void RasterCanvas::Box(Point corner, Point opposite) {
   const QRectF box = view_.Outlined(corner, opposite);
+  const auto left = static_cast<float>(box.left()), right = static_cast<float>(box.right());
+  const auto top = static_cast<float>(box.top()), bottom = static_cast<float>(box.bottom());
   mask_.AddPolyline(
-      std::array{box.topLeft(), box.topRight(), box.bottomRight(), box.bottomLeft(), box.topLeft()},
+      std::array<Point, 5>{{{left, top}, {right, top}, {right, bottom}, {left, bottom}, {left, top}}},
       lineWidth_);
   inked_ = true;
 }
@@ -96,15 +102,8 @@ void RasterCanvas::FilledBox(Point corner, Point opposite) {
 
 void RasterCanvas::Dot(Point at) {
   if (!view_.Shows(at, 0)) return;
-  const Point point = view_.At(at);
-  mask_.AddPoint({point.x, point.y});
+  mask_.AddPoint(view_.At(at));
   inked_ = true;
-}
-
-GlyphCache& RasterCanvas::Glyphs(FontFace face, double size) {
-  for (SizedGlyphs& glyphs : glyphs_)
-    if (glyphs.face == face && glyphs.size == size) return *glyphs.cache;
-  return *glyphs_.emplace_back(SizedGlyphs{face, size, std::make_unique<GlyphCache>(face, size)}).cache;
 }
 
 const RasterCanvas::Style& RasterCanvas::PresentStyle() {
@@ -112,7 +111,7 @@ const RasterCanvas::Style& RasterCanvas::PresentStyle() {
     if (style.font == font_ && style.inPanel == inPanel_) return style;
   const double size = view_.FontSize(font_);
   return styles_.emplace_back(
-      Style{font_, inPanel_, size, measure_.Ascent(font_), &Glyphs(font_.Face, size)});
+      Style{font_, inPanel_, size, measure_.Ascent(font_), &tools_.Glyphs(font_.Face, size)});
 }
 
 void RasterCanvas::Text(Point topLeft, std::string_view text) {

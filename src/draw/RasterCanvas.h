@@ -1,12 +1,10 @@
 #pragma once
 
 #include <QImage>
-#include <memory>
 #include <vector>
 
+#include "draw/DrawingTools.h"
 #include "draw/Fonts.h"
-#include "draw/GlyphCache.h"
-#include "draw/InkMask.h"
 #include "draw/SurfaceView.h"
 
 namespace kestrel {
@@ -16,8 +14,8 @@ namespace kestrel {
 class RasterCanvas final : public Canvas {
  public:
   /// Draws the rows from `top` on that the image holds of a picture whose rules are given in pixels. The
-  /// image must be RGB32 and outlive the canvas.
-  RasterCanvas(QImage& image, const SurfaceRules& rules, int top = 0);
+  /// image must be RGB32; it and the tools must outlive the canvas.
+  RasterCanvas(QImage& image, const SurfaceRules& rules, DrawingTools& tools, int top = 0);
 
   /// Completes the image. Call at the end of the drawing.
   void Finish() { LayInk(); }
@@ -53,14 +51,14 @@ class RasterCanvas final : public Canvas {
   };
 
   const Style& PresentStyle();
-  GlyphCache& Glyphs(FontFace face, double size);
   void LayInk();
 
   QImage& image_;
   const int top_;
   SurfaceView view_;
   PlatformTextMeasure measure_;
-  InkMask mask_;
+  DrawingTools& tools_;
+  InkMask& mask_;
   bool inked_ = false;
   QRgb color_ = 0xFF000000;
   float lineWidth_ = 1;
@@ -68,12 +66,6 @@ class RasterCanvas final : public Canvas {
   bool inPanel_ = false;
   std::vector<Style> styles_;
   std::vector<Point> closed_;
-  struct SizedGlyphs {
-    FontFace face;
-    double size;
-    std::unique_ptr<GlyphCache> cache;
-  };
-  std::vector<SizedGlyphs> glyphs_;
 };
 
 }  // namespace kestrel

@@ -7,11 +7,10 @@
 
 namespace kestrel {
 
-Point SurfaceView::At(Point sheet) const {
-  if (panelGrowth_ == 1) return rules_.Fit.ToSurface(sheet);
+Point SurfaceView::Grown(Point sheet) const {
   const auto growth = static_cast<float>(panelGrowth_);
-  return rules_.Fit.ToSurface({panelAnchor_.x + (sheet.x - panelAnchor_.x) * growth,
-                               panelAnchor_.y + (sheet.y - panelAnchor_.y) * growth});
+  return {panelAnchor_.x + (sheet.x - panelAnchor_.x) * growth,
+          panelAnchor_.y + (sheet.y - panelAnchor_.y) * growth};
 }
 
 double SurfaceView::Growth(const Font& font) const {

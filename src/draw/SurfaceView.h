@@ -24,7 +24,7 @@ class SurfaceView {
  public:
   explicit SurfaceView(const SurfaceRules& rules) : rules_(rules) {}
 
-  Point At(Point sheet) const;
+  Point At(Point sheet) const { return rules_.Fit.ToSurface(panelGrowth_ == 1 ? sheet : Grown(sheet)); }
   double Length(double twips) const { return twips * rules_.Fit.Scale * panelGrowth_; }
   double PixelSize() const { return rules_.PixelSize; }
   const QRectF& Area() const { return rules_.Area; }
@@ -48,49 +48,61 @@ class SurfaceView {
 
   bool Shows(Point sheet, double radiusTwips) const;
 
-  /// Calls `draw(std::span<const QPointF>)` for each run of the polyline that may touch the surface's area.
+  /// Calls `draw(std::span<const Point>)`, on the surface, for each run of the polyline that may touch the
+  /// surface's area.
   template <typename Draw>
   void ForEachRun(std::span<const Point> points, Draw draw);
 
  private:
   double Growth(const Font& font) const;
+  /// A place of the present panel, which has grown.
+  Point Grown(Point sheet) const;
 
   SurfaceRules rules_;
   double panelGrowth_ = 1;
   Point panelAnchor_;
-  std::vector<QPointF> run_;
+  std::vector<Point> run_;
 };
 
-/// Which sides of the area a point lies beyond, a bit each; a segment whose ends share a bit cannot touch it.
-inline int Outside(const QRectF& area, const QPointF& point) {
-  return (point.x() < area.left()) | (point.x() > area.right()) << 1 | (point.y() < area.top()) << 2 |
-         (point.y() > area.bottom()) << 3;
-}
+/// The part of a surface that lines may touch, a little larger than what it shows.
+struct ClipArea {
+  float left, top, right, bottom;
+
+  ClipArea(const QRectF& area, double margin)
+      : left(static_cast<float>(area.left() - margin)),
+        top(static_cast<float>(area.top() - margin)),
+        right(static_cast<float>(area.right() + margin)),
+        bottom(static_cast<float>(area.bottom() + margin)) {}
+
+  /// Which sides of the area a point lies beyond, a bit each; a segment whose ends share a bit cannot touch
+  /// it.
+  int Outside(Point point) const {
+    return (point.x < left) | (point.x > right) << 1 | (point.y < top) << 2 | (point.y > bottom) << 3;
+  }
+};
 
 template <typename Draw>
 void SurfaceView::ForEachRun(std::span<const Point> points, Draw draw) {
-  const double margin = 4 * rules_.PixelSize;
-  const QRectF area = rules_.Area.adjusted(-margin, -margin, margin, margin);
-  const double closest = rules_.Thinning * rules_.PixelSize;
+  const ClipArea area(rules_.Area, 4 * rules_.PixelSize);
+  const auto closest = static_cast<float>(rules_.Thinning * rules_.PixelSize);
   run_.clear();
   const auto endRun = [&] {
-    if (run_.size() > 1) draw(std::span<const QPointF>(run_));
+    if (run_.size() > 1) draw(std::span<const Point>(run_));
     run_.clear();
   };
-  QPointF previous;
+  Point previous;
   int previousOutside = 0;
   for (std::size_t i = 0; i < points.size(); ++i) {
-    const Point at = At(points[i]);
-    const QPointF point(at.x, at.y);
-    const int outside = Outside(area, point);
+    const Point point = At(points[i]);
+    const int outside = area.Outside(point);
     if (i > 0 && (outside & previousOutside) != 0) {
       endRun();
     } else if (i > 0) {
       if (run_.empty()) run_.push_back(previous);
-      const QPointF step = point - run_.back();
+      const float right = point.x - run_.back().x;
+      const float down = point.y - run_.back().y;
       const bool last = i + 1 == points.size();
-      if (last || outside != 0 || step.x() * step.x() + step.y() * step.y() >= closest * closest)
-        run_.push_back(point);
+      if (last || outside != 0 || right * right + down * down >= closest * closest) run_.push_back(point);
     }
     previous = point;
     previousOutside = outside;

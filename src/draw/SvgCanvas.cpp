@@ -94,9 +94,9 @@ void SvgCanvas::Line(Point from, Point to) {
 }
 
 void SvgCanvas::Polyline(std::span<const Point> points) {
-  view_.ForEachRun(points, [&](std::span<const QPointF> run) {
+  view_.ForEachRun(points, [&](std::span<const Point> run) {
     QString text;
-    for (const QPointF& point : run) text += Number(point.x()) + ',' + Number(point.y()) + ' ';
+    for (const Point& point : run) text += Number(point.x) + ',' + Number(point.y) + ' ';
     text.chop(1);
     Begin("polyline");
     xml_.writeAttribute("points", text);

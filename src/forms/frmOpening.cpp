@@ -127,7 +127,8 @@ void frmOpening::RenderBackdrop() {
   rules.Fit = FitSheet(static_cast<float>(pixels.width()), static_cast<float>(pixels.height()), kDesign);
   rules.Area = QRectF(backdrop_.rect());
   rules.PixelSize = devicePixelRatio();
-  RasterCanvas canvas(backdrop_, rules);
+  DrawingTools tools;
+  RasterCanvas canvas(backdrop_, rules, tools);
   overview_.Play(canvas);
   canvas.Finish();
   backdropStale_ = false;

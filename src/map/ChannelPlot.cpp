@@ -17,6 +17,26 @@ constexpr float kLabelAbove = 210;
 constexpr Font kLabelFont = {FontFace::Sans, 8};
 constexpr Font kMapFont = {FontFace::Sans, 10};
 
+constexpr std::size_t kOutlinePoints = 180;
+
+struct Direction {
+  double sine, cosine;
+};
+using OutlineDirections = std::array<Direction, kOutlinePoints>;
+
+/// Of the outline's points as seen from the station: each second degree from north on.
+const OutlineDirections& Directions() {
+  static const OutlineDirections directions = [] {
+    OutlineDirections made;
+    for (std::size_t i = 0; i < made.size(); ++i) {
+      const double bearing = static_cast<double>(2 * i) / DegreesPerRadian;
+      made[i] = {std::sin(bearing), std::cos(bearing)};
+    }
+    return made;
+  }();
+  return directions;
+}
+
 /// Text in a bright colour is hard to read on white; this keeps the hue.
 ColorValue Darkened(ColorValue color) {
   const auto half = [](int part) { return part * 11 / 20; };
@@ -102,15 +122,14 @@ bool PassesHoursFilter(const std::string& hoursCode, int hoursFilter) {
 void DrawPattern(Canvas& canvas, const SessionState& state, Point station, const PatternStyle& style,
                  const PatternValues& values) {
   const double size = double{style.Factor} * state.PatternSize * state.ScaleFactor;
-  std::array<Point, 180> outline;
+  const OutlineDirections& directions = Directions();
+  std::array<Point, kOutlinePoints> outline;
   for (std::size_t i = 0; i < outline.size(); ++i) {
     // The outline stands one degree anticlockwise of the values, as it always has.
-    const std::size_t azimuth = 2 * i + 1;
-    const double bearing = static_cast<double>(azimuth - 1) / DegreesPerRadian;
-    const double magnitude = values[azimuth];
+    const double magnitude = values[2 * i + 1];
     outline[i] =
-        Clamped({static_cast<float>(station.x + state.AspectRatio * size * std::sin(bearing) * magnitude),
-                 static_cast<float>(station.y - size * std::cos(bearing) * magnitude)});
+        Clamped({static_cast<float>(station.x + state.AspectRatio * size * directions[i].sine * magnitude),
+                 static_cast<float>(station.y - size * directions[i].cosine * magnitude)});
   }
   canvas.Polygon(outline);
 }
@@ -122,7 +141,7 @@ ChannelOutcome PlotChannel(Canvas& canvas, const DataFolder& folder, const Sessi
   const Result<QByteArray> bytes = folder.Read(name);
   if (!bytes) return {true, {bytes.error().Message()}};
 
-  canvas.SetLineWidth(1);
+  canvas.SetLineWidth(PatternLineWidth);
   canvas.SetFont(kMapFont);
   ChannelPlotter plotter(canvas, state, projection, plotFrequency);
   StationFileReader reader(name.toStdString(), {bytes->constData(), static_cast<std::size_t>(bytes->size())});

@@ -13,6 +13,9 @@
 
 namespace kestrel {
 
+/// Width of a pattern's outline in pixels. Coasts and borders are 1 wide; the patterns stand out among them.
+inline constexpr float PatternLineWidth = 1.5F;
+
 /// What plotting a channel met.
 struct ChannelOutcome {
   bool FileMissing = false;

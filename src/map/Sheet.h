@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+
 #include "map/Canvas.h"
 
 // The sheet that the main map is drawn on, in twips. Home stands at a fixed place of it.
@@ -14,7 +16,10 @@ inline constexpr Point HomeOnSheet = {6000, 4500};
 inline constexpr float CoordinateLimit = 30000;
 
 /// The point with both coordinates limited to -30000 to 30000.
-Point Clamped(Point point);
+inline Point Clamped(Point point) {
+  return {std::clamp(point.x, -CoordinateLimit, CoordinateLimit),
+          std::clamp(point.y, -CoordinateLimit, CoordinateLimit)};
+}
 
 /// Where the sheet lies on a surface: scaled uniformly to fit, centred; what the surface shows beyond the
 /// sheet's edge shows more of the map.

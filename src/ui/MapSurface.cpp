@@ -57,7 +57,7 @@ void MapSurface::Play(std::size_t from) {
   rules.Area = QRectF(image_.rect());
   rules.PixelSize = image_.devicePixelRatio();
   rules.SmallestXHeight = smallestXHeight_;
-  RasterCanvas canvas(image_, rules);
+  RasterCanvas canvas(image_, rules, tools_);
   drawing_.PlayFrom(from, canvas);
   canvas.Finish();
   shown_ = drawing_.Length();

@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <functional>
 
+#include "draw/DrawingTools.h"
 #include "draw/Fonts.h"
 #include "map/DisplayList.h"
 #include "map/Sheet.h"
@@ -59,10 +60,11 @@ class MapSurface final : public QWidget {
   DisplayList drawing_{measure_};
   SheetArea area_;
   double smallestXHeight_;
-  QImage image_;        // the drawing at the widget's size
-  bool stale_ = true;   // the drawing has changed since
+  DrawingTools tools_;
+  QImage image_;           // the drawing at the widget's size
+  bool stale_ = true;      // the drawing has changed since
   std::size_t shown_ = 0;  // how much of it the image holds
-  int wheelAngle_ = 0;  // eighths of a degree not yet reported
+  int wheelAngle_ = 0;     // eighths of a degree not yet reported
 };
 
 }  // namespace kestrel

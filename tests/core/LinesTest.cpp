@@ -37,6 +37,7 @@ TEST(LineReaderTest, KnowsAllLineEnds) {
       {"a", {"a"}}, {"a\nb\r\nc\rd", {"a", "b", "c", "d"}}, {"a\n\n\nb\n", {"a", "", "", "b"}},
       {"a\r\rb\r", {"a", "", "b"}}, {"a\r\n\r\nb\r\n", {"a", "", "b"}}, {"\xEF\xBB\xBF", {}},
       {"\xEF\xBB\xBF" "a\n", {"a"}}, {"a\n\xEF\xBB\xBF" "b", {"a", "\xEF\xBB\xBF" "b"}},
+      {"a\r\nb\rc\nd\r\r\ne", {"a", "b", "c", "d", "", "e"}},
       {"a\0b\n\0"sv, {"a b", " "}}, {"Bogot\xE1\nBogot\xC3\xA1\n\xE1\0"sv, {"Bogotá", "Bogotá", "á "}}
   };
   // clang-format on

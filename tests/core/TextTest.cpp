@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
 #include <string>
 
 #include "core/TextFields.h"
@@ -40,6 +41,19 @@ TEST(TextFieldsTest, RunsOfSeparatorsCountAsOne) {
   std::string_view vertex = "   45.2   -93.1";
   EXPECT_EQ(NextBlankField(vertex), "45.2");
   EXPECT_EQ(vertex, "-93.1");
+}
+
+TEST(TextFieldsTest, FirstFieldsAreThoseCutOneAfterTheOther) {
+  // Signs whose bits lie next to the comma's, too, and bytes that are not ASCII.
+  constexpr std::string_view kSigns = ",,,-+.\xAC\x2C\x01\x80 a7";
+  std::mt19937 random(17);
+  for (int round = 0; round < 3000; ++round) {
+    std::string text(random() % 60, ' ');
+    for (char& c : text) c = kSigns[random() % kSigns.size()];
+    std::string_view rest = text;
+    for (const std::string_view field : FirstFields<6>(text))
+      ASSERT_EQ(field, NextField(rest).value_or("")) << text;
+  }
 }
 
 TEST(TextTest, ColumnsCountCharacters) {

@@ -30,7 +30,8 @@ QImage Paper() {
 template <typename Draw>
 QImage Rastered(Draw draw) {
   QImage image = Paper();
-  RasterCanvas canvas(image, Rules());
+  DrawingTools tools;
+  RasterCanvas canvas(image, Rules(), tools);
   draw(canvas);
   canvas.Finish();
   return image;
@@ -79,6 +80,8 @@ TEST(RasterCanvasTest, FiguresLookAsThePainterDrawsThem) {
     canvas.FilledCircle({9500, 7500}, 600);
     canvas.FilledBox({8000, 500}, {11000, 2000});
     canvas.Box({500, 7000}, {3000, 9000});
+    canvas.SetLineWidth(1.5F);
+    canvas.Circle({9500, 4500}, 1800);
   };
   const QImage rastered = Rastered(figures);
   const QImage painted = Painted(figures);
@@ -110,6 +113,38 @@ TEST(RasterCanvasTest, APolylineIsTheSameWholeAndInPieces) {
     for (std::size_t i = 0; i + 1 < points.size(); ++i) canvas.Line(points[i], points[i + 1]);
   });
   EXPECT_EQ(whole, pieces);
+}
+
+TEST(RasterCanvasTest, NothingOfADrawingComesBackInTheNext) {
+  // Lines of all widths and words, across and beyond the borders, in one picture and then in a wider one.
+  const auto scribble = [](Canvas& canvas) {
+    std::mt19937 random(5);
+    std::uniform_real_distribution<float> place(-3000, 15000);
+    for (int i = 0; i < 200; ++i) {
+      canvas.SetColor(i * 70001);
+      canvas.SetLineWidth(0.5F * static_cast<float>(i % 7 + 1));
+      canvas.Line({place(random), place(random)}, {place(random), place(random)});
+      canvas.FilledCircle({place(random), place(random)}, 300);
+      canvas.SetFont({FontFace::Sans, 14});
+      canvas.Text({place(random), place(random)}, "1230 QABC");
+    }
+  };
+  const auto drawn = [&](QSize size, DrawingTools& tools) {
+    SurfaceRules rules = Rules();
+    rules.Area = QRectF(QPointF(0, 0), QSizeF(size));
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    RasterCanvas canvas(image, rules, tools);
+    scribble(canvas);
+    canvas.Finish();
+    return image;
+  };
+  DrawingTools tools;
+  const QImage first = drawn(kSize, tools);
+  EXPECT_EQ(drawn(kSize, tools), first);
+  const QImage wide = drawn({2100, kSize.height()}, tools);
+  // Lines are cut at the picture's border, so a share may round the other way there.
+  EXPECT_LT(LargestLocalDifference(wide.copy(QRect(QPoint(0, 0), kSize)), first), 0.1);
 }
 
 TEST(RasterCanvasTest, NothingIsDrawnOutsideThePictureWhateverTheCoordinates) {

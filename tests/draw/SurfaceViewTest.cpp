@@ -22,7 +22,10 @@ SurfaceRules RulesFor(double width, double height) {
 
 std::vector<Stroke> StrokesOf(SurfaceView& view, const std::vector<Point>& points) {
   std::vector<Stroke> runs;
-  view.ForEachRun(points, [&](std::span<const QPointF> run) { runs.emplace_back(run.begin(), run.end()); });
+  view.ForEachRun(points, [&](std::span<const Point> run) {
+    Stroke& stroke = runs.emplace_back();
+    for (const Point& point : run) stroke.emplace_back(point.x, point.y);
+  });
   return runs;
 }
 

@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <random>
 
 #include "Samples.h"
+#include "draw/Mixing.h"
 #include "map/VertexPlaces.h"
 #include "pattern/PatternSweep.h"
 
@@ -15,6 +17,7 @@
   bool SweepPattern(const SweepTower* towers, int count, float* magnitudes);                        \
   void PlaceVertices(const ProjectionCenter& home, const float* latitudes, const float* longitudes, \
                      float* places, std::size_t count);                                             \
+  void MixRows(QRgb color, const InkRows& ink, const PixelRows& pixels, int eights, int rows);      \
   }
 
 namespace kestrel {
@@ -29,6 +32,7 @@ struct Level {
   bool Here;
   decltype(&SweepPattern) Sweep;
   decltype(&PlaceVertices) Place;
+  decltype(&MixRows) Mix;
 };
 
 // By their features, since Clang 14 does not know the levels by name.
@@ -44,9 +48,9 @@ bool HasLevel4() {
 
 std::vector<Level> LevelsHere() {
   const Level all[] = {
-      {"x86-64", true, x86_64::SweepPattern, x86_64::PlaceVertices},
-      {"x86-64-v3", HasLevel3(), x86_64_v3::SweepPattern, x86_64_v3::PlaceVertices},
-      {"x86-64-v4", HasLevel4(), x86_64_v4::SweepPattern, x86_64_v4::PlaceVertices},
+      {"x86-64", true, x86_64::SweepPattern, x86_64::PlaceVertices, x86_64::MixRows},
+      {"x86-64-v3", HasLevel3(), x86_64_v3::SweepPattern, x86_64_v3::PlaceVertices, x86_64_v3::MixRows},
+      {"x86-64-v4", HasLevel4(), x86_64_v4::SweepPattern, x86_64_v4::PlaceVertices, x86_64_v4::MixRows},
   };
   std::vector<Level> here;
   for (const Level& level : all)
@@ -84,6 +88,27 @@ TEST(LevelsTest, ProjectionGivesTheSameBytes) {
     for (std::size_t i = 0; i < count; ++i)
       level.Place(home, &vertices.Latitudes[i], &vertices.Longitudes[i], &places[2 * i], 1);
     EXPECT_EQ(std::memcmp(places.data(), expected.data(), sizeof(float) * places.size()), 0) << level.Name;
+  }
+}
+
+TEST(LevelsTest, MixingGivesTheColorsOfTheFormula) {
+  // Every share of ink over colours of all kinds, in rows with blank eights among them.
+  constexpr int kEights = 3, kRows = 96, kStep = 29;
+  std::mt19937 random(3);
+  std::vector<std::uint8_t> ink(kRows * kStep);
+  std::vector<QRgb> below(kRows * kStep);
+  for (std::size_t i = 0; i < ink.size(); ++i) {
+    ink[i] = i / 8 % 3 == 0 ? 0 : static_cast<std::uint8_t>(i);
+    below[i] = 0xFF000000 | (random() & 0xFFFFFF);
+  }
+  const QRgb color = 0xFF12C0FE;
+  std::vector<QRgb> expected = below;
+  for (std::size_t i = 0; i < ink.size(); ++i)
+    if (i % kStep < 8 * kEights) expected[i] = Mixed(color, below[i], ink[i]);
+  for (const Level& level : LevelsHere()) {
+    std::vector<QRgb> pixels = below;
+    level.Mix(color, {ink.data(), kStep}, {pixels.data(), kStep}, kEights, kRows);
+    EXPECT_EQ(pixels, expected) << level.Name;
   }
 }
 

@@ -1,0 +1,40 @@
+#include "draw/Mixing.h"
+
+#include <bit>
+#include <cstring>
+
+namespace kestrel::KESTREL_KERNELS {
+namespace {
+
+// Written with vectors, since the compiler unrolls a loop of eight rounds instead.
+using Eight [[gnu::vector_size(32)]] = std::uint32_t;
+
+/// The shifts that bring each of four bytes down to the lowest, in their order in memory.
+constexpr bool kLittle = std::endian::native == std::endian::little;
+constexpr Eight kShifts = kLittle ? Eight{0, 8, 16, 24, 0, 8, 16, 24} : Eight{24, 16, 8, 0, 24, 16, 8, 0};
+
+}  // namespace
+
+KESTREL_CLONES void MixRows(QRgb color, const InkRows& ink, const PixelRows& pixels, int eights, int rows) {
+  for (int row = 0; row < rows; ++row) {
+    const std::uint8_t* shares = ink.ink + row * ink.step;
+    QRgb* below = pixels.pixels + row * pixels.step;
+    for (int i = 0; i < eights; ++i, shares += 8, below += 8) {
+      std::uint32_t four[2];
+      std::memcpy(four, shares, sizeof four);
+      if ((four[0] | four[1]) == 0) continue;
+      Eight colors;
+      std::memcpy(&colors, below, sizeof colors);
+      const Eight fours = {four[0], four[0], four[0], four[0], four[1], four[1], four[1], four[1]};
+      const Eight share = fours >> kShifts & 0xFF;
+      const Eight of = share + (share >> 7);
+      const Eight rest = 256 - of;
+      const Eight redBlue = ((color & 0xFF00FF) * of + (colors & 0xFF00FF) * rest) >> 8 & 0xFF00FF;
+      const Eight green = ((color & 0x00FF00) * of + (colors & 0x00FF00) * rest) >> 8 & 0x00FF00;
+      colors = 0xFF000000 | redBlue | green;
+      std::memcpy(below, &colors, sizeof colors);
+    }
+  }
+}
+
+}  // namespace kestrel::KESTREL_KERNELS
