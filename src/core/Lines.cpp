@@ -35,7 +35,7 @@ std::string_view Cut(std::string_view line) {
 bool HasLoneReturn(std::string_view bytes) {
   unsigned char lone = bytes.ends_with('\r');
   for (std::size_t i = 1; i < bytes.size(); ++i)
-    lone |= static_cast<unsigned char>((bytes[i - 1] == '\r') & (bytes[i] != '\n'));
+    lone |= static_cast<unsigned char>(int{bytes[i - 1] == '\r'} & int{bytes[i] != '\n'});
   return lone != 0;
 }
 
