@@ -18,5 +18,5 @@ int main(int argc, char** argv) {
     AddDrawingRows(band);
   }
   MeasureAndPrint(argc, argv);
-  PrintProcessRows();
+  if (argc == 1) PrintProcessRows();
 }

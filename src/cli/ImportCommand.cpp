@@ -173,20 +173,11 @@ void Undo(const Request& request) {
   Print(json.BeginObject().Key("undone").Truth(true).Key("source").Text(line).EndObject().Finish());
 }
 
-std::vector<std::string> ReadCountries(const std::string& list) {
-  std::vector<std::string> codes;
-  std::string_view rest = list;
-  while (!rest.empty()) {
-    const std::size_t comma = std::min(rest.find(','), rest.size());
-    const std::string given = UpperCase(Trim(rest.substr(0, comma)));
-    rest.remove_prefix(std::min(comma + 1, rest.size()));
-    if (CountryName(given).empty())
-      throw WrongUse("--countries " + list + ": \"" + given +
-                     "\" is no country of the FCC's lists, as US, CA and MX are");
-    codes.emplace_back(CountryCode(given));
-  }
-  if (codes.empty()) throw WrongUse("--countries: give codes, as in US,CA,MX");
-  return codes;
+std::vector<std::string> WantedCountries(const std::string& list) {
+  const Result<std::vector<std::string>> codes = ReadCountries(list);
+  if (!codes) throw WrongUse("--countries " + list + ": " + codes.error().text);
+  if (codes->empty()) throw WrongUse("--countries: give codes, as in US,CA,MX");
+  return *codes;
 }
 
 void Choose(const Request& request, const ImportArguments& arguments) {
@@ -219,7 +210,7 @@ void AddImportCommand(CLI::App& app, Request& request) {
   command
       .add_option_function<std::string>(
           "--countries",
-          [arguments](const std::string& list) { arguments->options.countries = ReadCountries(list); },
+          [arguments](const std::string& list) { arguments->options.countries = WantedCountries(list); },
           "only these, by the FCC's codes, as in US,CA,MX")
       ->type_name("LIST");
   AddJson(command, request);

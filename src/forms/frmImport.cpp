@@ -6,6 +6,7 @@
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMimeData>
 #include <QPlainTextEdit>
@@ -16,6 +17,7 @@
 #include <QUrl>
 
 #include "data/FileIo.h"
+#include "import/Countries.h"
 #include "import/DataSwap.h"
 #include "ui/Controls.h"
 #include "ui/RowsModel.h"
@@ -115,7 +117,20 @@ QWidget* frmImport::MakeChoices() {
   for (QCheckBox* box : {chkSilent_, chkPermits_, chkDryRun_}) options->addWidget(box);
   options->addStretch();
   grid->addLayout(options, 9, 0, 1, 2);
+  grid->addLayout(MakeCountries(), 10, 0, 1, 2);
   return choices;
+}
+
+QLayout* frmImport::MakeCountries() {
+  txtCountries_ = new QLineEdit;
+  txtCountries_->setObjectName("txtCountries");
+  txtCountries_->setPlaceholderText("all; or the FCC's codes, as in US,CA,MX");
+  txtCountries_->setToolTip("Only the stations of these countries");
+  txtCountries_->setAcceptDrops(false);  // files dropped there are for the list
+  auto* row = new QHBoxLayout;
+  row->addWidget(MakeLabel("lblCountries", "Cou&ntries:", txtCountries_));
+  row->addWidget(txtCountries_, 1);
+  return row;
 }
 
 QWidget* frmImport::MakeResults() {
@@ -143,7 +158,14 @@ void frmImport::AddFiles(const QStringList& paths) {
 }
 
 void frmImport::Import() {
+  const Result<std::vector<std::string>> countries = ReadCountries(txtCountries_->text().toStdString());
+  if (!countries) {
+    workspace_.System.ShowMessage(this, "Countries: " + Text(countries.error().text));
+    txtCountries_->setFocus();
+    return txtCountries_->selectAll();
+  }
   ImportRequest request;
+  request.options.countries = *countries;
   for (int i = 0; i < lstFiles_->count(); ++i) request.files << lstFiles_->item(i)->text();
   request.options.includeSilent = chkSilent_->isChecked();
   request.options.includePermits = chkPermits_->isChecked();
@@ -160,13 +182,15 @@ void frmImport::Import() {
       });
   SetRunning(false);
   if (!outcome.failure && !request.dryRun) dataChanged_ = true;
-  ShowOutcome(outcome);
+  ShowOutcome(outcome, request.dryRun);
   UpdateCommands();
 }
 
-void frmImport::ShowOutcome(const ImportOutcome& outcome) {
-  const std::string heading =
-      outcome.failure ? "Nothing was written: " + outcome.failure->Message() + "\n\n" : std::string();
+void frmImport::ShowOutcome(const ImportOutcome& outcome, bool dryRun) {
+  std::string heading = "Imported: " + outcome.stationsLine;
+  if (dryRun) heading = "Nothing was written: this is what would change";
+  if (outcome.failure) heading = "Nothing was written: " + outcome.failure->Message();
+  heading += "\n\n";
   txtReport_->setPlainText(Text(heading + OutcomeText(outcome, kShownChanges)));
   wholeReport_ = heading + OutcomeText(outcome, 0);
   ShowChanges(outcome.changes);
@@ -210,7 +234,8 @@ void frmImport::SetRunning(bool running) {
   running_ = running;
   progress_->setValue(0);
   progress_->setFormat(running ? "%p %" : "");
-  for (QWidget* control : std::initializer_list<QWidget*>{lstFiles_, chkSilent_, chkPermits_, chkDryRun_})
+  for (QWidget* control :
+       std::initializer_list<QWidget*>{lstFiles_, chkSilent_, chkPermits_, chkDryRun_, txtCountries_})
     control->setEnabled(!running);
   UpdateCommands();
 }

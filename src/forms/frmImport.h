@@ -7,6 +7,8 @@
 #include "import/Import.h"
 
 class QCheckBox;
+class QLayout;
+class QLineEdit;
 class QListWidget;
 class QPlainTextEdit;
 class QProgressBar;
@@ -36,11 +38,12 @@ class frmImport final : public QDialog {
 
  private:
   QWidget* MakeChoices();
+  QLayout* MakeCountries();
   QWidget* MakeResults();
   void Import();
   void SaveReport();
   void Undo();
-  void ShowOutcome(const ImportOutcome& outcome);
+  void ShowOutcome(const ImportOutcome& outcome, bool dryRun);
   void ShowChanges(std::vector<Change> changes);
   void SetRunning(bool running);
   void UpdateCommands();
@@ -50,6 +53,7 @@ class frmImport final : public QDialog {
   QCheckBox* chkSilent_;
   QCheckBox* chkPermits_;
   QCheckBox* chkDryRun_;
+  QLineEdit* txtCountries_;
   QProgressBar* progress_;
   QTabWidget* results_;
   QPlainTextEdit* txtReport_;

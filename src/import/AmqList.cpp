@@ -158,9 +158,14 @@ void ReadAmqList(LineStream& lines, int file, const ImportOptions& options, AmqS
                  ImportReport& report) {
   Reader reader(options, stations);
   while (const auto line = lines.Next()) {
-    if (!line->starts_with('|')) continue;
     const RowPlace row{file, lines.LineNumber()};
+    const std::size_t bar = line->find('|');
+    if (bar == std::string_view::npos || (bar > 0 && !IsAmqRow(line->substr(bar)))) continue;
     report.Read(row);
+    if (bar > 0) {
+      report.LeaveOut(row, Finding::WrongForm, "something stands before the first bar");
+      continue;
+    }
     if (const std::optional<Fault> fault = reader.Add(*line, lines.WasCut(), row))
       report.LeaveOut(row, fault->finding, fault->text);
   }

@@ -30,8 +30,8 @@ struct AmqStations {
 bool IsAmqRow(std::string_view line);
 
 /// Reads the list to its end and adds its stations on the air. Each row that is not taken is left out in
-/// `report` with its reason; lines that do not begin with a bar are no rows. Rows taken are counted as taken
-/// only when the stations are merged.
+/// `report` with its reason; lines that do not begin with a bar are no rows, unless a whole one stands behind
+/// something else. Rows taken are counted as taken only when the stations are merged.
 void ReadAmqList(LineStream& lines, int file, const ImportOptions& options, AmqStations& stations,
                  ImportReport& report);
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstring>
+#include <string>
 #include <string_view>
 
 namespace kestrel {
@@ -14,6 +15,9 @@ class ByteStream {
 
   /// Copies at most `most` bytes to `to` and returns how many; 0 at the end and after a failure.
   virtual std::size_t Read(char* to, std::size_t most) = 0;
+
+  /// Why the bytes ended before their time; empty while all is well.
+  virtual std::string Problem() const { return {}; }
 };
 
 class MemoryStream : public ByteStream {

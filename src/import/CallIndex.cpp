@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <map>
+#include <set>
 #include <tuple>
 
 #include "core/Text.h"
@@ -55,9 +56,11 @@ std::string IndexLine(const Site& site) {
   constexpr std::size_t kNameWidth = 25;
   const Station& station = *site.station;
   const bool hasState = !station.state.empty() && station.state != "-";
-  const std::string region = hasState ? station.state : std::string(CountryName(station.country));
-  const std::size_t cityWidth = kNameWidth - std::min(kNameWidth - 1, CharacterCount(region) + 1);
-  const std::string name = std::string(Trim(Columns(Capitalised(station.city), 1, cityWidth))) + ' ' + region;
+  std::string region = hasState ? station.state : std::string(CountryName(station.country));
+  if (region.empty()) region = station.country;
+  const std::size_t cityWidth = kNameWidth - std::min(kNameWidth - 1, CharacterCount(region) + 2);
+  const std::string name =
+      std::string(Trim(Columns(Capitalised(station.city), 1, cityWidth))) + "  " + region;
 
   const std::string channel = std::to_string(station.channel);
   const std::string power = DecimalText(site.powerKW, 4, 6);
@@ -73,16 +76,49 @@ bool CanBeHome(const Site& site) {
   return p.latitude >= -88 && p.latitude <= 88 && p.longitude >= 30 && p.longitude <= 170;
 }
 
+/// "QABC 1230, SPRINGFIELD, IL, 1 kW"
+std::string Named(const Site& site) {
+  const Station& station = *site.station;
+  return station.callSign + ' ' + std::to_string(station.channel) + ", " + station.city + ", " +
+         station.state + ", " + DecimalText(site.powerKW, 4) + " kW";
+}
+
+/// The sites by their use for choosing home: first the strongest of each town, so that no town is without
+/// one; then the others by power; a station's further sites last.
+std::vector<const Site*> ByUse(std::vector<const Site*> sites) {
+  std::stable_sort(sites.begin(), sites.end(),
+                   [](const Site* a, const Site* b) { return a->powerKW > b->powerKW; });
+  enum Use { StrongestOfTown, FurtherStation, FurtherSite };
+  std::set<std::tuple<std::string, std::string, std::string>> towns;
+  std::set<std::pair<std::string, int>> calls;
+  std::vector<std::pair<Use, const Site*>> byUse;
+  for (const Site* site : sites) {
+    const Station& station = *site->station;
+    const bool newCall = calls.emplace(station.callSign, station.channel).second;
+    const bool newTown = newCall && towns.emplace(station.country, station.state, station.city).second;
+    byUse.emplace_back(newTown ? StrongestOfTown : newCall ? FurtherStation : FurtherSite, site);
+  }
+  std::stable_sort(byUse.begin(), byUse.end(),
+                   [](const auto& a, const auto& b) { return a.first < b.first; });
+  std::transform(byUse.begin(), byUse.end(), sites.begin(), [](const auto& entry) { return entry.second; });
+  return sites;
+}
+
 }  // namespace
 
-std::string CallIndexText(const std::vector<Station>& stations) {
+std::string CallIndexText(const std::vector<Station>& stations, ImportReport& report) {
   const std::map<SiteKey, Site> sites = SitesOf(stations);
   std::vector<const Site*> chosen;
-  for (const auto& [key, site] : sites)
-    if (CanBeHome(site)) chosen.push_back(&site);
+  for (const auto& [key, site] : sites) {
+    if (CanBeHome(site))
+      chosen.push_back(&site);
+    else
+      report.Remark(site.station->row, Finding::NoHome, Named(site));
+  }
   if (chosen.size() > MaxCalls) {
-    std::stable_sort(chosen.begin(), chosen.end(),
-                     [](const Site* a, const Site* b) { return a->powerKW > b->powerKW; });
+    chosen = ByUse(std::move(chosen));
+    for (std::size_t i = MaxCalls; i < chosen.size(); ++i)
+      report.Remark(chosen[i]->station->row, Finding::IndexFull, Named(*chosen[i]));
     chosen.resize(MaxCalls);
   }
   std::vector<std::string> lines;

@@ -4,6 +4,8 @@
 #include <array>
 #include <utility>
 
+#include "core/Text.h"
+
 namespace kestrel {
 namespace {
 
@@ -34,6 +36,20 @@ std::string_view CountryName(std::string_view code) {
 
 std::string_view CountryCode(std::string_view code) {
   return code == "MA" || code == "ME" ? "MX" : code;
+}
+
+Result<std::vector<std::string>> ReadCountries(std::string_view list) {
+  std::vector<std::string> codes;
+  for (std::string_view rest = Trim(list); !rest.empty();) {
+    const std::size_t comma = std::min(rest.find(','), rest.size());
+    const std::string given = UpperCase(Trim(rest.substr(0, comma)));
+    rest.remove_prefix(std::min(comma + 1, rest.size()));
+    if (CountryName(given).empty())
+      return Error{Error::Kind::Malformed, "", 0,
+                   '"' + given + "\" is no country of the FCC's lists, as US, CA and MX are"};
+    codes.emplace_back(CountryCode(given));
+  }
+  return codes;
 }
 
 }  // namespace kestrel

@@ -1,6 +1,10 @@
 #pragma once
 
+#include <string>
 #include <string_view>
+#include <vector>
+
+#include "core/Result.h"
 
 namespace kestrel {
 
@@ -10,5 +14,9 @@ std::string_view CountryName(std::string_view code);
 
 /// The code under which the country is known: "MX" for the miscoded "MA" and "ME", else `code` itself.
 std::string_view CountryCode(std::string_view code);
+
+/// The codes of a list as people type it, "us, CA,MX"; none for a blank one. Errors: Malformed, without file
+/// and line; the text names what is no country.
+Result<std::vector<std::string>> ReadCountries(std::string_view list);
 
 }  // namespace kestrel

@@ -37,6 +37,8 @@ class Exchange {
     lock_->setStaleLockTime(0);  // a lock holds as long as its process
     return lock_->tryLock(0);
   }
+  /// Whether it is another import that holds the lock.
+  bool IsBusy() const { return lock_->error() == QLockFile::LockFailedError; }
 
   bool Exists(const QString& name) const { return QFileInfo::exists(dir_.filePath(name)); }
   const std::optional<Stopped>& Failure() const { return stopped_; }
@@ -170,9 +172,9 @@ bool IsOurs(const SwapJournal& journal) {
          std::all_of(files.begin(), files.end(), IsOfTheSet);
 }
 
-Error Busy(const DataFolder& folder) {
+Error NotLocked(const Exchange& exchange, const DataFolder& folder) {
   return {Error::Kind::Refused, folder.Path().toStdString(), 0,
-          "cannot be written to, or another import is at work in it"};
+          exchange.IsBusy() ? "another import is at work in it" : "cannot be written to"};
 }
 
 /// With the folder locked: what an interrupted run left is finished or taken back.
@@ -195,7 +197,7 @@ Result<Done> Recover(Exchange& exchange, const QString& folder) {
 
 Result<Done> SwapInStations(const DataFolder& folder, const StationSet& files, const SwapStep& step) {
   Exchange exchange(folder.Path(), step);
-  if (!exchange.Lock()) return Busy(folder);
+  if (!exchange.Lock()) return NotLocked(exchange, folder);
   if (const Result<Done> recovered = Recover(exchange, folder.Path()); !recovered) return recovered;
 
   SwapJournal journal{false, kNewSet, PresentFiles(folder.Path()), {}};
@@ -215,7 +217,7 @@ Result<Done> SwapInStations(const DataFolder& folder, const StationSet& files, c
 
 Result<Done> UndoImport(const DataFolder& folder, const SwapStep& step) {
   Exchange exchange(folder.Path(), step);
-  if (!exchange.Lock()) return Busy(folder);
+  if (!exchange.Lock()) return NotLocked(exchange, folder);
   if (const Result<Done> recovered = Recover(exchange, folder.Path()); !recovered) return recovered;
   if (!exchange.Exists(kKeptSet))
     return Error{Error::Kind::NotFound, folder.Path().toStdString(), 0,
@@ -229,7 +231,7 @@ Result<Done> UndoImport(const DataFolder& folder, const SwapStep& step) {
 
 Result<Done> RecoverImport(const DataFolder& folder, const SwapStep& step) {
   Exchange exchange(folder.Path(), step);
-  if (!exchange.Exists(kJournal) && !exchange.Exists(kNewSet)) return Done{};
+  if (!exchange.Exists(kJournal) && !exchange.Exists(kNewSet) && !exchange.Exists(kOldSet)) return Done{};
   if (!exchange.Lock()) return Done{};
   return Recover(exchange, folder.Path());
 }

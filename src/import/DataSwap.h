@@ -18,7 +18,7 @@ using SwapStep = std::function<bool()>;
 /// those for UndoImport; what was kept before goes. No other file of the folder is touched. The new files are
 /// written beside the old ones first; interrupted before all are whole, the old set stays, later the new one
 /// is completed by RecoverImport. A failure brings the old set back. Errors: Refused, with the file that made
-/// the trouble, or the folder when another import is at work in it.
+/// the trouble, or the folder when it cannot be written to or another import is at work in it.
 Result<Done> SwapInStations(const DataFolder& folder, const StationSet& files, const SwapStep& step = {});
 
 /// Brings the set back that the last import replaced, and keeps the present one in its turn: done twice, all

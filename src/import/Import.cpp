@@ -32,6 +32,8 @@ class ProgressStream : public ByteStream {
     return passed_(count) ? count : 0;
   }
 
+  std::string Problem() const override { return stream_.Problem(); }
+
  private:
   ByteStream& stream_;
   const std::function<bool(std::size_t)>& passed_;
@@ -77,6 +79,8 @@ std::optional<Error> ReadAll(const ImportRequest& request, const ImportProgress&
       };
       ProgressStream counted(**stream, passed);
       ReadSourceFile(counted, part.name, request.options, readings, report);
+      if (const std::string problem = counted.Problem(); !problem.empty())
+        fail({Error::Kind::Malformed, part.name, 0, problem});
     }
   }
   return cancelled ? kCancelled : failure;
@@ -118,7 +122,10 @@ ImportOutcome RunImport(const ImportRequest& request, const DataFolder& folder,
   ImportOutcome outcome;
   Readings readings;
   outcome.failure = ReadAll(request, progress, readings, outcome.report);
-  if (outcome.failure && outcome.failure->text == kCancelled.text) return outcome;
+  if (outcome.failure && outcome.failure->text == kCancelled.text) {
+    outcome.report = {};  // its counts would not add up
+    return outcome;
+  }
   const auto goesOn = [&](double done, std::string_view what) {
     if (progress && !progress(done, what) && !outcome.failure) outcome.failure = kCancelled;
   };
@@ -148,7 +155,8 @@ ImportOutcome RunImport(const ImportRequest& request, const DataFolder& folder,
 }
 
 std::string OutcomeText(const ImportOutcome& outcome, std::size_t mostChanges) {
-  std::string text = ReportText(outcome.report);
+  if (outcome.report.Files().empty() && outcome.report.Refusals().empty()) return {};
+  const std::string text = ReportText(outcome.report);
   if (outcome.failure) return text;
   return text + "\nChanges\n" + ChangesText(outcome.changes, mostChanges);
 }

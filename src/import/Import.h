@@ -28,9 +28,10 @@ using ImportProgress = std::function<bool(double done, std::string_view what)>;
 
 struct ImportOutcome {
   ImportReport report;
-  std::vector<Change> changes;   ///< against what the folder held before, by channel
-  std::string stationsLine;      ///< the new line of "Stations.txt"
-  std::optional<Error> failure;  ///< why nothing was written; the report says what had been read until then
+  std::vector<Change> changes;  ///< against what the folder held before, by channel
+  std::string stationsLine;     ///< the new line of "Stations.txt"
+  std::optional<Error>
+      failure;  ///< why nothing was written; the report says what was read, cancelled nothing
 };
 
 /// Reads the files, puts the stations together, compares them with those in `folder` and puts them in their

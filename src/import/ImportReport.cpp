@@ -64,6 +64,8 @@ std::string_view FindingTitle(Finding finding) {
       return "directional antennas whose towers are not known";
     case Finding::TooManyTowers:
       return "arrays of more than 12 towers, taken without their pattern";
+    case Finding::TowersPassedOver:
+      return "non-directional antennas taken with one tower, those of the tables being incomplete";
     case Finding::TowersDisagree:
       return "antennas listed as non-directional, drawn with the towers of the tables";
     case Finding::CountryUnknown:
@@ -74,6 +76,10 @@ std::string_view FindingTitle(Finding finding) {
       return "names with a comma, now a blank";
     case Finding::NameEmpty:
       return "empty names, now a dash";
+    case Finding::NoHome:
+      return "stations not in the call-sign list, because home cannot be there";
+    case Finding::IndexFull:
+      return "stations not in the call-sign list, which holds 9000: the weaker ones of their towns";
   }
   return {};
 }

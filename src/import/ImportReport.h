@@ -34,13 +34,16 @@ enum class Finding {
   LastLeftOut = NotUsed,
   TowersUnknown,
   TooManyTowers,
-  TowersDisagree,  ///< listed as non-directional, yet the tables hold an array
+  TowersPassedOver,  ///< non-directional, and the tables' array is not whole
+  TowersDisagree,    ///< listed as non-directional, yet the tables hold an array
   CountryUnknown,
   NameCut,
   NameBlanked,
   NameEmpty,
+  NoHome,     ///< a site where home cannot be, so not in the call-sign index
+  IndexFull,  ///< a site that the call-sign index has no room for
 };
-inline constexpr std::size_t FindingCount = static_cast<std::size_t>(Finding::NameEmpty) + 1;
+inline constexpr std::size_t FindingCount = static_cast<std::size_t>(Finding::IndexFull) + 1;
 
 /// "rows off the channel raster": how the report names a kind of finding.
 std::string_view FindingTitle(Finding finding);

@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
 
 #include "import/ZipIntake.h"
 
@@ -10,18 +11,26 @@ namespace {
 
 class FileStream : public ByteStream {
  public:
-  explicit FileStream(const QString& path) : file_(path) {}
+  FileStream(const QString& path, std::uint64_t size) : file_(path), left_(size) {}
 
   bool Open() { return file_.open(QIODevice::ReadOnly | QIODevice::Unbuffered); }
-  QString Problem() const { return file_.errorString(); }
+  std::string SystemsWord() const { return file_.errorString().toStdString(); }
 
   std::size_t Read(char* to, std::size_t most) override {
     const qint64 count = file_.read(to, static_cast<qint64>(most));
-    return count > 0 ? static_cast<std::size_t>(count) : 0;
+    if (count < 0) problem_ = "cannot be read to its end: " + SystemsWord();
+    const auto got = static_cast<std::uint64_t>(std::max<qint64>(count, 0));
+    if (count >= 0 && (got > left_ || (got == 0 && left_ > 0))) problem_ = "changed while it was read";
+    left_ -= std::min(got, left_);
+    return problem_.empty() ? got : 0;
   }
+
+  std::string Problem() const override { return problem_; }
 
  private:
   QFile file_;
+  std::uint64_t left_;  // of its size
+  std::string problem_;
 };
 
 class PlainIntake : public Intake {
@@ -31,9 +40,8 @@ class PlainIntake : public Intake {
   }
 
   Result<std::unique_ptr<ByteStream>> Open(std::size_t) override {
-    auto stream = std::make_unique<FileStream>(path_);
-    if (!stream->Open())
-      return Error{Error::Kind::Refused, parts_.front().name, 0, stream->Problem().toStdString()};
+    auto stream = std::make_unique<FileStream>(path_, parts_.front().size);
+    if (!stream->Open()) return Error{Error::Kind::Refused, parts_.front().name, 0, stream->SystemsWord()};
     return std::unique_ptr<ByteStream>(std::move(stream));
   }
 

@@ -26,9 +26,9 @@ class Intake {
   };
   const std::vector<Part>& Parts() const { return parts_; }
 
-  /// The content of a part, from its front. The intake must outlive the stream. An entry of a zip is unpacked
-  /// once beforehand, to the end, so that a damaged one gives nothing rather than a half. Errors: Malformed
-  /// for an entry that is encrypted, damaged or longer than it says; Refused.
+  /// The content of a part, from its front; never more than its size. The intake must outlive the stream,
+  /// which has a Problem when the part turns out to be damaged or of another size. Errors: Malformed for an
+  /// entry that is encrypted or cannot be unpacked; Refused.
   virtual Result<std::unique_ptr<ByteStream>> Open(std::size_t part) = 0;
 
  protected:

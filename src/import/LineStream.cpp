@@ -65,7 +65,8 @@ std::optional<std::string_view> LineStream::Next() {
 }
 
 std::string_view LineStream::AsText(std::string_view line) {
-  if (std::all_of(line.begin(), line.end(), [](char c) { return c > 0; })) return line;
+  if (std::all_of(line.begin(), line.end(), [](char c) { return static_cast<signed char>(c) > 0; }))
+    return line;
   mended_ = IsUtf8(line) ? std::string(line) : FromLatin1(line);
   std::replace(mended_.begin(), mended_.end(), '\0', ' ');
   return mended_;

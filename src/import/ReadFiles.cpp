@@ -48,8 +48,10 @@ void ReadSourceFile(ByteStream& bytes, const std::string& name, const ImportOpti
                     Readings& readings, ImportReport& report) {
   LineStream lines(bytes);
   const std::string_view head = lines.Head();
-  if (const std::string_view foreign = ForeignContent(head); !foreign.empty())
-    return report.Refuse(name, std::string(foreign));
+  const auto refuse = [&](std::string_view reason) {
+    if (bytes.Problem().empty()) report.Refuse(name, std::string(reason));
+  };
+  if (const std::string_view foreign = ForeignContent(head); !foreign.empty()) return refuse(foreign);
   const FirstLines first = LookForAmq(head);
   if (first.amq) {
     readings.hasAmq = true;
@@ -66,7 +68,7 @@ void ReadSourceFile(ByteStream& bytes, const std::string& name, const ImportOpti
   else if (first.barFields > 0 && head.find("|^|") == std::string_view::npos)
     reason = "is neither an AM Query list nor an antenna table: rows of " +
              std::to_string(first.barFields - 1) + " fields, 31 to 33 expected";
-  report.Refuse(name, reason);
+  refuse(reason);
 }
 
 }  // namespace kestrel

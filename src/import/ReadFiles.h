@@ -21,7 +21,8 @@ struct Readings {
 };
 
 /// Reads a file of any kind, recognised by its content, to its end; adds it to `report` under `name`. A file
-/// that is none of those the importer knows is refused there, with the reason.
+/// that is none of those the importer knows is refused there, with the reason, unless `bytes` has a problem:
+/// that is for who opened it to tell.
 void ReadSourceFile(ByteStream& bytes, const std::string& name, const ImportOptions& options,
                     Readings& readings, ImportReport& report);
 

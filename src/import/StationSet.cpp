@@ -70,7 +70,7 @@ StationSet MakeStationSet(const std::vector<Station>& stations, std::string_view
     files[FileName(station.channel)] += StationRecordText(station.channel, ToRecord(station), changes);
     RemarkOnNames(station, changes, report);
   }
-  files[std::string(kCallIndex)] = CallIndexText(stations);
+  files[std::string(kCallIndex)] = CallIndexText(stations, report);
   files[std::string(kStationsLine)] = std::string(stationsLine) + "\r\n";
   report.stations = SiteCount(stations);
   report.records = static_cast<int>(stations.size());

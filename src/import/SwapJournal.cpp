@@ -36,7 +36,8 @@ std::optional<SwapJournal> ReadJournal(std::string_view text) {
   while (const auto line = lines.Next()) {
     if (*line == kEnd) return journal.source.isEmpty() ? std::nullopt : std::optional(journal);
     const std::string_view key = line->substr(0, line->find(' ') + 1);
-    const QString name = QString::fromUtf8(line->data() + key.size(), static_cast<qsizetype>(line->size() - key.size()));
+    const QString name =
+        QString::fromUtf8(line->data() + key.size(), static_cast<qsizetype>(line->size() - key.size()));
     if (!IsPlainName(name)) return std::nullopt;
     if (key == kSource)
       journal.source = name;

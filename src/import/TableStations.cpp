@@ -23,6 +23,11 @@ std::string Named(const AntennaSystem& system) {
   return "antenna system " + system.id;
 }
 
+/// "WAAA D", or with a fault "WAAA D, 2 of 3 towers".
+std::string Named(const Station& station, const std::string& fault) {
+  return station.callSign + ' ' + station.hours + (fault.empty() ? "" : ", " + fault);
+}
+
 }  // namespace
 
 TableStations::TableStations(const AntennaTables& tables, const ImportOptions& options, ImportReport& report)
@@ -142,29 +147,22 @@ void TableStations::UseFor(std::size_t index, Station& station) {
   if (!joined.used) report_.Take(system.row);
   joined.used = true;
 
-  const auto towers = tables_.towers.find(system.id);
-  if (towers == tables_.towers.end()) {
-    station.directional = station.directional || system.directional || system.towerCount > 1;
-    return UseNothingFor(station);
+  const auto rows = tables_.towers.find(system.id);
+  if (rows == tables_.towers.end()) {
+    const std::string none = "0 of " + std::to_string(system.towerCount) + " towers";
+    return DoWithoutArray(station, Finding::TowersUnknown, system.towerCount > 1 ? none : "");
   }
-  TowerArray array = ResolveTowers(towers->second, system.towerCount);
-  if (!array.fault.empty()) {
-    report_.Remark(station.row, Finding::TowersUnknown,
-                   station.callSign + ' ' + station.hours + ", " + array.fault);
-  } else if (array.tooMany) {
-    report_.Remark(
-        station.row, Finding::TooManyTowers,
-        station.callSign + ' ' + station.hours + ", " + std::to_string(array.towers.size()) + " towers");
-  } else {
-    std::set<int> fieldless;
-    for (const RowPlace& row : array.fieldless) fieldless.insert(row.line);
-    TakeTowers(system.id, fieldless);
-    if (!station.directional && array.towers.size() > 1)
-      report_.Remark(
-          station.row, Finding::TowersDisagree,
-          station.callSign + ' ' + station.hours + ", " + std::to_string(array.towers.size()) + " towers");
-    station.towers = std::move(array.towers);
-  }
+  TowerArray array = ResolveTowers(rows->second, system.towerCount);
+  const std::string count = std::to_string(array.towers.size()) + " towers";
+  if (!array.fault.empty()) return DoWithoutArray(station, Finding::TowersUnknown, array.fault);
+  if (array.tooMany) return DoWithoutArray(station, Finding::TooManyTowers, count);
+
+  std::set<int> fieldless;
+  for (const RowPlace& row : array.fieldless) fieldless.insert(row.line);
+  TakeTowers(system.id, fieldless);
+  if (!station.directional && array.towers.size() > 1)
+    report_.Remark(station.row, Finding::TowersDisagree, Named(station, count));
+  station.towers = std::move(array.towers);
 }
 
 void TableStations::TakeTowers(const std::string& id, const std::set<int>& fieldless) {
@@ -179,10 +177,18 @@ void TableStations::TakeTowers(const std::string& id, const std::set<int>& field
 }
 
 void TableStations::UseNothingFor(Station& station) {
-  if (station.directional)
-    report_.Remark(station.row, Finding::TowersUnknown, station.callSign + ' ' + station.hours);
-  else
+  DoWithoutArray(station, Finding::TowersUnknown, {});
+}
+
+/// A non-directional station radiates all around whatever the tables lack: one tower. Of a directional one
+/// the pattern stays unknown.
+void TableStations::DoWithoutArray(Station& station, Finding why, const std::string& fault) {
+  if (!station.directional) {
     station.towers.assign(1, Tower{});
+    if (why == Finding::TowersUnknown) why = Finding::TowersPassedOver;
+    if (fault.empty()) return;
+  }
+  report_.Remark(station.row, why, Named(station, fault));
 }
 
 void TableStations::CloseAccounts() {

@@ -65,6 +65,7 @@ class TableStations {
   std::optional<Standing> StandingOf(const AntennaSystem& system, const ApplicationRow* engineering) const;
   bool IsOnAir(const System& system) const;
   void TakeTowers(const std::string& id, const std::set<int>& fieldless);
+  void DoWithoutArray(Station& station, Finding why, const std::string& fault);
 
   const AntennaTables& tables_;
   const ImportOptions& options_;

@@ -1,6 +1,7 @@
 #include "import/ZipIntake.h"
 
 #include <QFile>
+#include <algorithm>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -33,20 +34,24 @@ std::string Shown(std::string_view name) {
 
 class EntryStream : public ByteStream {
  public:
-  explicit EntryStream(Entry entry) : entry_(std::move(entry)) {}
+  EntryStream(Entry entry, std::uint64_t size) : entry_(std::move(entry)), left_(size) {}
 
   std::size_t Read(char* to, std::size_t most) override {
-    const zip_int64_t count = zip_fread(entry_.get(), to, most);
-    failed_ = failed_ || count < 0;
-    return count > 0 ? static_cast<std::size_t>(count) : 0;
+    const zip_int64_t count = problem_.empty() ? zip_fread(entry_.get(), to, most) : 0;
+    if (count < 0) problem_ = std::string("is damaged: ") + zip_file_strerror(entry_.get());
+    const auto got = static_cast<std::uint64_t>(std::max<zip_int64_t>(count, 0));
+    if (got > left_) problem_ = "is longer than the zip says";
+    if (count == 0 && left_ > 0 && problem_.empty()) problem_ = "is shorter than the zip says";
+    left_ -= std::min(got, left_);
+    return problem_.empty() ? got : 0;
   }
 
-  bool Failed() const { return failed_; }
-  std::string Problem() const { return zip_file_strerror(entry_.get()); }
+  std::string Problem() const override { return problem_; }
 
  private:
   Entry entry_;
-  bool failed_ = false;
+  std::uint64_t left_;  // of the size that the zip's list gives
+  std::string problem_;
 };
 
 class ZipIntake : public Intake {
@@ -62,7 +67,6 @@ class ZipIntake : public Intake {
     bool encrypted = false;
   };
 
-  Result<std::unique_ptr<EntryStream>> OpenEntry(std::size_t part);
   Error Malformed(std::size_t part, std::string text) const {
     return {Error::Kind::Malformed, parts_[part].name, 0, std::move(text)};
   }
@@ -97,29 +101,11 @@ Result<Done> ZipIntake::List(const std::string& name, std::uint64_t largest) {
   return Done{};
 }
 
-Result<std::unique_ptr<EntryStream>> ZipIntake::OpenEntry(std::size_t part) {
-  Entry entry(zip_fopen_index(archive_.get(), entries_[part].index, 0));
-  if (!entry) return Malformed(part, std::string("cannot be unpacked: ") + zip_strerror(archive_.get()));
-  return std::make_unique<EntryStream>(std::move(entry));
-}
-
 Result<std::unique_ptr<ByteStream>> ZipIntake::Open(std::size_t part) {
   if (entries_[part].encrypted) return Malformed(part, "is encrypted; unpack it and give the file itself");
-  {
-    Result<std::unique_ptr<EntryStream>> trial = OpenEntry(part);
-    if (!trial) return trial.error();
-    std::vector<char> buffer(64 << 10);
-    std::uint64_t length = 0;
-    while (const std::size_t count = (*trial)->Read(buffer.data(), buffer.size())) {
-      length += count;
-      if (length > parts_[part].size) return Malformed(part, "is longer than the zip says");
-    }
-    if ((*trial)->Failed()) return Malformed(part, "is damaged: " + (*trial)->Problem());
-    if (length < parts_[part].size) return Malformed(part, "is shorter than the zip says");
-  }
-  Result<std::unique_ptr<EntryStream>> stream = OpenEntry(part);
-  if (!stream) return stream.error();
-  return std::unique_ptr<ByteStream>(std::move(*stream));
+  Entry entry(zip_fopen_index(archive_.get(), entries_[part].index, 0));
+  if (!entry) return Malformed(part, std::string("cannot be unpacked: ") + zip_strerror(archive_.get()));
+  return std::unique_ptr<ByteStream>(std::make_unique<EntryStream>(std::move(entry), parts_[part].size));
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QDragEnterEvent>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMimeData>
 #include <QPlainTextEdit>
@@ -104,6 +105,31 @@ TEST_F(frmImportTest, DryRunCancelAndRefusedFilesWriteNothing) {
   EXPECT_EQ(platform_.Messages.size(), 1) << "nothing to undo";
 }
 
+TEST_F(frmImportTest, OnlyTheStationsOfTheCountriesWanted) {
+  std::string mexican = Row("XEAA", "1.0", "21");
+  mexican.replace(mexican.find("|LIC|PLANO|TX|US|"), 17, "|CP|SALTILLO|CI|MX|");
+  folder_.Write("amq.txt", Row("KAAA", "5.0", "11") + mexican);
+  frmImport form(workspace_);
+  form.show();
+  form.AddFiles({folder_.Path("amq.txt")});
+  auto* countries = form.findChild<QLineEdit*>("txtCountries");
+  countries->setText("us, uk");
+  Press(form, "cmdImport");
+  ASSERT_EQ(platform_.Messages.size(), 1);
+  EXPECT_EQ(platform_.Messages[0],
+            "Countries: \"UK\" is no country of the FCC's lists, as US, CA and MX are");
+  EXPECT_EQ(Report(form), "");
+  EXPECT_FALSE(form.DataChanged());
+
+  countries->setText("mx");
+  Press(form, "cmdImport");
+  EXPECT_EQ(folder_.Text("620x.dat").find("KAAA"), std::string::npos);
+  EXPECT_NE(folder_.Text("620x.dat").find("XEAA"), std::string::npos) << Report(form).toStdString();
+  countries->clear();
+  Press(form, "cmdImport");
+  EXPECT_NE(folder_.Text("620x.dat").find("KAAA"), std::string::npos);
+}
+
 TEST_F(frmImportTest, FilesMayBeDropped) {
   frmImport form(workspace_);
   QMimeData data;
@@ -111,6 +137,14 @@ TEST_F(frmImportTest, FilesMayBeDropped) {
   QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
   QApplication::sendEvent(&form, &enter);
   EXPECT_TRUE(enter.isAccepted());
+  // Over the text boxes too, which do not take them for a text.
+  for (const char* box : {"txtCountries", "txtReport"}) {
+    QDragEnterEvent over({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    over.ignore();
+    QApplication::sendEvent(form.findChild<QWidget*>(box), &over);
+    EXPECT_TRUE(over.isAccepted()) << box;
+  }
+  EXPECT_EQ(form.findChild<QLineEdit*>("txtCountries")->text(), "");
   QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
   QApplication::sendEvent(&form, &drop);
   ASSERT_EQ(form.findChild<QListWidget*>("lstFiles")->count(), 1);

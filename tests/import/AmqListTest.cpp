@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "ImportTesting.h"
+#include "import/Countries.h"
 
 namespace kestrel {
 namespace {
@@ -167,6 +168,22 @@ TEST(AmqList, CountriesAreChosenByTheListsCodes) {
   const TextImport mexico = ImportRows(text, {.countries = {"MX", "CA"}});
   EXPECT_EQ(mexico.stations.size(), 1U);
   EXPECT_EQ(mexico.report.Of(Finding::OtherCountry).rows, 2);
+}
+
+TEST(AmqList, ARowBehindSomethingElseIsNotLostUnseen) {
+  const TextImport import = ImportRows("<pre>" + ListRow{}.Text() + "Call | Frequency | Service\n" +
+                                       ListRow{.facility = "2"}.Text());
+  EXPECT_EQ(import.stations.size(), 1U);
+  EXPECT_EQ(import.report.Total().rows, 2);
+  EXPECT_EQ(import.Examples(Finding::WrongForm), "amq.txt:1: something stands before the first bar\n");
+}
+
+TEST(Countries, AListIsReadAsPeopleTypeIt) {
+  EXPECT_EQ(*ReadCountries(" us, Mx,ME,"), (std::vector<std::string>{"US", "MX", "MX"}));
+  EXPECT_TRUE(ReadCountries("  ")->empty());
+  for (const char* list : {"US,,CA", "US CA", "UK", ","}) EXPECT_FALSE(ReadCountries(list)) << list;
+  EXPECT_EQ(ReadCountries("US,uk").error().text,
+            "\"UK\" is no country of the FCC's lists, as US, CA and MX are");
 }
 
 }  // namespace

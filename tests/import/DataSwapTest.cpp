@@ -180,7 +180,7 @@ TEST_F(DataSwapTest, TwoImportsDoNotMeet) {
   QLockFile other(folder.Path() + "/.import-lock");
   ASSERT_TRUE(other.tryLock(0));
   QDir(folder.Path()).mkdir(".import-new");
-  EXPECT_FALSE(SwapInStations(folder, Set("new")));
+  EXPECT_EQ(SwapInStations(folder, Set("new")).error().text, "another import is at work in it");
   EXPECT_FALSE(UndoImport(folder));
   EXPECT_TRUE(RecoverImport(folder));
   EXPECT_TRUE(QFileInfo::exists(folder.Path() + "/.import-new"));  // the other one's

@@ -98,6 +98,21 @@ TEST_F(IntakeTest, WhatCannotBeReadStopsTheImportAndIsNamed) {
   }
 }
 
+TEST_F(IntakeTest, AFileThatChangesWhileItIsReadStopsTheImport) {
+  std::string list;
+  for (int i = 1; i <= 5000; ++i) list += ListRow{.facility = std::to_string(i)}.Text();
+  for (const int change : {-1, 1}) {
+    const QString path = Plain("amq.txt", list);
+    const auto resize = [&](double, std::string_view) {
+      return QFile::resize(path, static_cast<qint64>(list.size()) + change);
+    };
+    const ImportOutcome outcome = RunImport({{path}, {}, false}, DataFolder(dir_.path()), resize);
+    ASSERT_TRUE(outcome.failure);
+    EXPECT_EQ(outcome.failure->Message(), "amq.txt: changed while it was read");
+    EXPECT_FALSE(DataFolder(dir_.path()).Has("1230x.dat"));
+  }
+}
+
 TEST_F(IntakeTest, ABombIsRefusedBeforeItIsUnpacked) {
   const std::string zeros(2 << 20, '\0');
   const QString path = Zip("bomb.zip", {{"a", zeros}, {"b", zeros}});
@@ -116,7 +131,12 @@ TEST_F(IntakeTest, ABombIsRefusedBeforeItIsUnpacked) {
   for (std::size_t at = liar.find(size); at != std::string::npos; at = liar.find(size, at + 4))
     liar.replace(at, 4, std::string("\5\0\0\0", 4));
   const auto hiding = OpenIntake(Plain("liar.zip", liar));
-  EXPECT_FALSE(hiding && (*hiding)->Open(0));
+  if (hiding) {
+    const auto stream = (*hiding)->Open(0);
+    char bytes[16];
+    while (stream && (*stream)->Read(bytes, sizeof bytes) > 0) ASSERT_EQ((*stream)->Problem(), "");
+    EXPECT_FALSE(stream && (*stream)->Problem().empty());
+  }
 
   std::vector<ZipEntry> many(1001, {"", ""});
   for (std::size_t i = 0; i < many.size(); ++i) many[i].name = std::to_string(i);
@@ -154,6 +174,7 @@ TEST_F(IntakeTest, AnImportIsWrittenUnlessItIsDryOrCancelled) {
         RunImport({{list}, {}, false}, folder, [&](double, std::string_view) { return calls++ != call; });
     ASSERT_TRUE(cancelled.failure);
     EXPECT_EQ(cancelled.failure->Message(), "cancelled; the station files are as they were");
+    ExpectCountsAddUp(cancelled.report);
     EXPECT_FALSE(folder.Has("1230x.dat"));
   }
   const ImportOutcome outcome = Run({list}, false);

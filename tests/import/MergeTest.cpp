@@ -74,7 +74,8 @@ TEST(Merge, WithoutTowersTheListSaysWhatIsKnown) {
   EXPECT_EQ(WithTables(listed.Text()).Examples(Finding::TowersDisagree), "amq.txt:1: WQAA D, 3 towers\n");
 }
 
-TEST(Merge, ManyTowersLeaveThePatternOpen) {
+/// The sample tables with WQAA's day array grown to 13 towers.
+std::vector<std::pair<std::string, std::string>> TablesWithManyTowers() {
   auto texts = SampleTables(Order::A, true);
   for (auto& [name, text] : texts) {
     if (name == "am_ant_sys.dat") text.replace(text.find("|3|C|"), 5, "|13|C|");
@@ -83,10 +84,38 @@ TEST(Merge, ManyTowersLeaveThePatternOpen) {
       text += "701||90|1.0|||||0|0||" + std::to_string(number) + "|0|||||" + std::to_string(number) +
               "||0|||||01/02/2024|^|\n";
   }
-  const TextImport import = ImportTexts(texts);
+  return texts;
+}
+
+TEST(Merge, ManyTowersLeaveThePatternOpen) {
+  const TextImport import = ImportTexts(TablesWithManyTowers());
   EXPECT_EQ(Summary(import, "WQAA"), "D0N1");
   EXPECT_EQ(import.Examples(Finding::TooManyTowers), "am_ant_sys.dat:2: WQAA D, 13 towers\n");
   ExpectCountsAddUp(import.report);
+}
+
+TEST(Merge, ANonDirectionalStationHasATowerWhateverTheTablesLack) {
+  ListRow listed = ListedWqaa();
+  listed.directional = "";
+  const auto import = [&](std::vector<std::pair<std::string, std::string>> texts) {
+    texts.emplace_back("amq.txt", listed.Text());
+    const TextImport result = ImportTexts(texts);
+    EXPECT_EQ(Summary(result, "WQAA"), "D1N1");
+    EXPECT_EQ(result.report.Of(Finding::TowersUnknown).rows, 0);
+    ExpectCountsAddUp(result.report);
+    return result;
+  };
+  EXPECT_EQ(import(TablesWithManyTowers()).Examples(Finding::TooManyTowers),
+            "amq.txt:1: WQAA D, 13 towers\n");
+
+  auto incomplete = SampleTables(Order::A, false);
+  std::string& towers = incomplete.at(1).second;
+  towers.erase(0, towers.find('\n') + 1);
+  EXPECT_EQ(import(incomplete).Examples(Finding::TowersPassedOver), "amq.txt:1: WQAA D, 2 of 3 towers\n");
+
+  auto without = SampleTables(Order::A, false);
+  without.erase(without.begin() + 1);
+  EXPECT_EQ(import(without).Examples(Finding::TowersPassedOver), "amq.txt:1: WQAA D, 0 of 3 towers\n");
 }
 
 TEST(Merge, TheBestStatusCountsAndOfEqualsTheLast) {

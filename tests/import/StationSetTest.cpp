@@ -86,24 +86,33 @@ TEST(CallIndex, ALineForEachSiteInTheColumnsOfTheReader) {
   ASSERT_EQ(entries->size(), 2U);  // Iceland's longitude is no home of the program
   const Place first = CutCall(entries->at(0));
   EXPECT_EQ(first.CallSign, "QBBB    ");
-  EXPECT_EQ(first.Name, "S\xC3\xA3o Jo\xC3\xA3o Dos Campo Brazil");
+  EXPECT_EQ(first.Name, "S\xC3\xA3o Jo\xC3\xA3o Dos Camp  Brazil");
   EXPECT_EQ(first.LatitudeText, "-23.5");
   EXPECT_EQ(first.LongitudeText, "46.6167");
-  EXPECT_EQ(entries->at(1), "QZZZ     1230 Springfield IL                 1 kW DN   39.7817   89.6501");
+  EXPECT_EQ(entries->at(1), "QZZZ     1230 Springfield  IL                1 kW DN   39.7817   89.6501");
   EXPECT_TRUE(index.ends_with("\r\n"));
+  EXPECT_EQ(import.Examples(Finding::NoHome), "amq.txt:4: QCCC 1230, ICE, IL, 1 kW\n");
 }
 
-TEST(CallIndex, TheMostPowerfulComeFirstWhenThereAreTooMany) {
+TEST(CallIndex, WhatHasNoRoomIsWeakOrASecondSiteAndReported) {
+  // 8998 strong stations of a large town, and four that compete for the last two places.
   std::string text;
-  for (int i = 0; i < 9001; ++i)
-    text += ListRow{.call = "Q" + std::to_string(i),
-                    .power = i == 4711 ? "0.1 kW" : "1 kW",
-                    .facility = std::to_string(i + 1)}
-                .Text();
-  const auto entries = ReadPlaceList(ImportTexts({{"amq.txt", text}}).files.at("StationsCall.DAT"), MaxCalls);
-  ASSERT_TRUE(entries);
-  EXPECT_EQ(entries->size(), MaxCalls);
-  for (const std::string& entry : *entries) EXPECT_NE(CutCall(entry).CallSign, "Q4711   ");
+  for (int i = 1; i <= 8998; ++i)
+    text += ListRow{.call = "Q" + std::to_string(i), .power = "5 kW", .facility = std::to_string(i)}.Text();
+  text +=
+      ListRow{.call = "QFAR", .city = "ELSEWHERE", .power = "0.1 kW", .facility = "9001"}.Text() +
+      ListRow{.call = "QMORE", .power = "1 kW", .facility = "9002"}.Text() +
+      ListRow{.call = "QLESS", .power = "0.5 kW", .facility = "9003"}.Text() +
+      ListRow{.call = "Q1", .hours = "Nighttime", .power = "4.9 kW", .facility = "1", .latitude = "N|40|0|0"}
+          .Text();
+  const TextImport import = ImportTexts({{"amq.txt", text}});
+  const std::string& index = import.files.at("StationsCall.DAT");
+  EXPECT_EQ(ReadPlaceList(index, MaxCalls)->size(), MaxCalls);
+  EXPECT_NE(index.find("QFAR"), std::string::npos) << "a town is never without a station";
+  EXPECT_NE(index.find("QMORE"), std::string::npos);
+  EXPECT_EQ(
+      import.Examples(Finding::IndexFull),
+      "amq.txt:9001: QLESS 1230, SPRINGFIELD, IL, 0.5 kW\namq.txt:9002: Q1 1230, SPRINGFIELD, IL, 4.9 kW\n");
 }
 
 }  // namespace
