@@ -13,7 +13,7 @@ namespace kestrel::cli {
 namespace {
 
 void ReadSessionFile(const std::string& path, MissingSession missing, SessionState& state) {
-  const Result<QByteArray> bytes = ReadFile(QString::fromStdString(path));
+  const Result<QByteArray> bytes = ReadFile(QString::fromStdString(path), LargestSessionFile);
   if (bytes)
     ReadSession(std::string_view(bytes->constData(), static_cast<std::size_t>(bytes->size())), state);
   else if (missing == MissingSession::IsFirstStart && bytes.error().kind == Error::Kind::NotFound)

@@ -58,7 +58,7 @@ void Scan(const Request& request) {
 
   const PlatformTextMeasure measure;
   DisplayList drawing(measure);
-  DrawOutlineFiles(drawing, folder, projection);
+  Say(DrawOutlineFiles(drawing, folder, projection));
   DrawBand(folder, projection, drawing);
   const Result<Done> written = WritePicture(drawing, request.Size, QString::fromStdString(request.Output));
   if (!written) Fail(request.Output, written.error(), "the picture was not written");

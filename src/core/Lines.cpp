@@ -22,11 +22,20 @@ bool IsPlainAscii(std::string_view bytes) {
   return bits < 0x80;
 }
 
+/// A line as long as it may be, without a piece of a character at its end.
+std::string_view Cut(std::string_view line) {
+  if (line.size() <= LongestLine) return line;
+  const auto continues = [&line](std::size_t at) { return (line[at] & 0xC0) == 0x80; };
+  std::size_t length = LongestLine;
+  while (length > LongestLine - 3 && continues(length)) --length;
+  return line.substr(0, length);
+}
+
 /// Whether a CR stands anywhere without an LF behind it. Without an early end, likewise.
 bool HasLoneReturn(std::string_view bytes) {
   unsigned char lone = bytes.ends_with('\r');
   for (std::size_t i = 1; i < bytes.size(); ++i)
-    lone |= static_cast<unsigned char>((bytes[i - 1] == '\r') & (bytes[i] != '\n'));
+    lone |= static_cast<unsigned char>(int{bytes[i - 1] == '\r'} & int{bytes[i] != '\n'});
   return lone != 0;
 }
 
@@ -51,7 +60,7 @@ std::optional<std::string_view> LineReader::NextBytes() {
   } else if (end > position_ && bytes_[end - 1] == '\r') {
     --end;
   }
-  const std::string_view line = bytes_.substr(position_, end - position_);
+  const std::string_view line = Cut(bytes_.substr(position_, end - position_));
   position_ = next;
   ++lineNumber_;
   return line;

@@ -8,10 +8,14 @@
 
 namespace kestrel {
 
+/// No line is longer; what stands behind the first so many bytes of a longer one is passed over.
+inline constexpr std::size_t LongestLine = 4096;
+
 /// Walks over the lines of a file's bytes.
 ///
 /// A line ends at CR LF, LF or CR; the last one may lack its end, and a UTF-8 byte-order mark at the front
-/// is passed over. A file that ends in a line end has no further, empty line behind it.
+/// is passed over. A file that ends in a line end has no further, empty line behind it. A line is cut at
+/// LongestLine bytes, or before the character that lies across that place.
 class LineReader {
  public:
   /// The bytes must outlive the reader.

@@ -1,14 +1,27 @@
 #include "data/FileIo.h"
 
+#include <unistd.h>
+
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <cerrno>
 
 namespace kestrel {
 namespace {
 
 Error Failure(const QString& path, Error::Kind kind, const QString& text) {
   return {kind, QFileInfo(path).fileName().toStdString(), 0, text.toStdString()};
+}
+
+/// Writes all and waits until it is on the disk, where the system can do so; else false and errno.
+bool WriteThrough(int file, std::string_view bytes) {
+  while (!bytes.empty()) {
+    const ssize_t count = write(file, bytes.data(), bytes.size());
+    if (count < 0 && errno != EINTR) return false;
+    if (count > 0) bytes.remove_prefix(static_cast<std::size_t>(count));
+  }
+  return fdatasync(file) == 0 || errno == EINVAL;
 }
 
 }  // namespace
@@ -41,9 +54,10 @@ Result<Done> WriteFile(const QString& path, std::string_view bytes) {
   if (info.exists() && !info.isFile())
     return Failure(path, Error::Kind::NotAFile, "is a folder or a device, not a file");
   QSaveFile file(path);
-  const auto length = static_cast<qint64>(bytes.size());
-  if (!file.open(QIODevice::WriteOnly) || file.write(bytes.data(), length) != length || !file.commit())
-    return Failure(path, Error::Kind::Refused, file.errorString());
+  if (!file.open(QIODevice::WriteOnly)) return Failure(path, Error::Kind::Refused, file.errorString());
+  // Past the file's own buffer: what does not fit on the disk when that is emptied, commit() does not notice.
+  if (!WriteThrough(file.handle(), bytes)) return Failure(path, Error::Kind::Refused, qt_error_string(errno));
+  if (!file.commit()) return Failure(path, Error::Kind::Refused, file.errorString());
   return Done{};
 }
 

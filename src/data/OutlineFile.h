@@ -23,7 +23,8 @@ struct Outline {
 enum class CommentLines { Skip, Read };
 
 /// Reads vertices up to the end mark -2000 or the end of the file. Empty lines are skipped; a vertex of
-/// -100 -100 is a pen-up mark. Reading ends behind MaxVertices vertices or pen-up marks. A malformed number reads as its leading part or 0.
+/// -100 -100 is a pen-up mark. Reading ends behind MaxVertices vertices or pen-up marks. A malformed
+/// number reads as its leading part or 0; all are finite, of whatever size.
 Outline ReadOutline(std::string_view bytes, CommentLines comments = CommentLines::Read);
 
 }  // namespace kestrel

@@ -14,8 +14,8 @@
 namespace kestrel {
 
 inline constexpr int MaxTowers = 12;
-inline constexpr int MaxRecords = 10000;  ///< of a channel; the busiest one has some hundreds
-inline constexpr int MaxNotes = 100;      ///< of a file; what is left out beyond is not reported
+inline constexpr int MaxRecords = 10000;       ///< of a channel; the busiest one has some hundreds
+inline constexpr int MaxNotes = 100;           ///< of a file; what is left out beyond is not reported
 inline constexpr float LowestChannel = 530;    ///< kHz
 inline constexpr float HighestChannel = 1700;  ///< kHz
 inline constexpr float ChannelStep = 10;       ///< kHz
@@ -65,8 +65,8 @@ double StoreStationLine(const StationLine& line, StationRecord& record);
 ///
 /// A line that stands where a station line should and is none, and a record with a tower count outside 0 to
 /// MaxTowers, are left out up to the next station line, and noted: "1030x.dat:17: 14 towers, at most 12".
-/// A malformed number reads as its leading part or 0. A record whose tower lines the file breaks off is not
-/// handed out. Reading ends behind MaxRecords records, which is noted.
+/// A malformed number reads as its leading part or 0; all are finite, of whatever size. A record whose tower
+/// lines the file breaks off is not handed out. Reading ends behind MaxRecords records, which is noted.
 class StationFileReader {
  public:
   /// The bytes must outlive the reader; `name` is used in notes.

@@ -12,15 +12,18 @@ namespace kestrel {
 std::vector<std::string> DrawMainMap(Canvas& canvas, const DataFolder& folder, const SessionState& state,
                                      MapGround ground) {
   const MapProjection projection(state.HomeLatitude, state.HomeLongitude, state.ScaleFactor);
-  if (ground == MapGround::Empty) DrawOutlineFiles(canvas, folder, projection);
+  std::vector<std::string> notes;
+  if (ground == MapGround::Empty) notes = DrawOutlineFiles(canvas, folder, projection);
 
-  ChannelOutcome outcome = PlotChannel(canvas, folder, state, projection, state.CurrentFrequency);
-  std::vector<std::string> notes = std::move(outcome.Notes);
+  const ChannelOutcome outcome = PlotChannel(canvas, folder, state, projection, state.CurrentFrequency);
+  notes.insert(notes.end(), outcome.Notes.begin(), outcome.Notes.end());
   if (state.AdjacentsShown == 1) {
     for (const float step : {-ChannelStep, ChannelStep}) {
-      const ChannelOutcome adjacent =
-          PlotChannel(canvas, folder, state, projection, state.CurrentFrequency + step);
-      if (!adjacent.FileMissing) notes.insert(notes.end(), adjacent.Notes.begin(), adjacent.Notes.end());
+      const float channel = state.CurrentFrequency + step;
+      const ChannelOutcome adjacent = PlotChannel(canvas, folder, state, projection, channel);
+      // A neighbour without a file is nothing to speak of, one whose file cannot be read is.
+      if (!adjacent.FileMissing || folder.Has(StationFileName(channel)))
+        notes.insert(notes.end(), adjacent.Notes.begin(), adjacent.Notes.end());
     }
   }
   DrawLegend(canvas, state);

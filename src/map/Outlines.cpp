@@ -24,12 +24,21 @@ void DrawHomeMark(Canvas& canvas) {
   canvas.Line({x, y - kHomeRadius}, {x, y + kHomeRadius});
 }
 
-void DrawFile(Canvas& canvas, const DataFolder& folder, const QString& name, ColorValue color,
-              const MapProjection& projection) {
+Result<Outline> ReadOutlineFile(const DataFolder& folder, const QString& name) {
   const Result<QByteArray> bytes = folder.Read(name);
-  if (!bytes) return;
+  if (!bytes) return bytes.error();
+  return ReadOutline({bytes->constData(), static_cast<std::size_t>(bytes->size())});
+}
+
+void DrawFile(Canvas& canvas, const DataFolder& folder, const QString& name, ColorValue color,
+              const MapProjection& projection, std::vector<std::string>& notes) {
+  const Result<Outline> outline = ReadOutlineFile(folder, name);
+  if (!outline) {
+    if (outline.error().kind != Error::Kind::NotFound) notes.push_back(outline.error().Message());
+    return;
+  }
   canvas.SetColor(color);
-  DrawOutline(canvas, ReadOutline({bytes->constData(), static_cast<std::size_t>(bytes->size())}), projection);
+  DrawOutline(canvas, *outline, projection);
 }
 
 }  // namespace
@@ -56,11 +65,14 @@ void JoinVertices(Canvas& canvas, const Outline& outline, std::span<const Point>
   endStroke();
 }
 
-void DrawOutlineFiles(Canvas& canvas, const DataFolder& folder, const MapProjection& projection) {
+std::vector<std::string> DrawOutlineFiles(Canvas& canvas, const DataFolder& folder,
+                                          const MapProjection& projection) {
+  std::vector<std::string> notes;
   canvas.SetLineWidth(1);
-  DrawFile(canvas, folder, "STATES.dat", StatesOutlineColor, projection);
+  DrawFile(canvas, folder, "STATES.dat", StatesOutlineColor, projection, notes);
   DrawHomeMark(canvas);
-  DrawFile(canvas, folder, "REGION2.dat", RegionOutlineColor, projection);
+  DrawFile(canvas, folder, "REGION2.dat", RegionOutlineColor, projection, notes);
+  return notes;
 }
 
 }  // namespace kestrel

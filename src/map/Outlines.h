@@ -1,6 +1,8 @@
 #pragma once
 
 #include <span>
+#include <string>
+#include <vector>
 
 #include "data/DataFolder.h"
 #include "data/OutlineFile.h"
@@ -23,8 +25,8 @@ void DrawOutline(Canvas& canvas, const Outline& outline, const MapProjection& pr
 /// as many points as vertices.
 void JoinVertices(Canvas& canvas, const Outline& outline, std::span<const Point> points);
 
-/// Draws "STATES.dat", the home mark and "REGION2.dat", each in its colour. A file that cannot be read draws
-/// nothing.
-void DrawOutlineFiles(Canvas& canvas, const DataFolder& folder, const MapProjection& projection);
+/// Draws "STATES.dat", the home mark and "REGION2.dat", each in its colour. A file that is missing or cannot be
+/// read draws nothing; returns why one that is there cannot, a line for each.
+std::vector<std::string> DrawOutlineFiles(Canvas& canvas, const DataFolder& folder, const MapProjection& projection);
 
 }  // namespace kestrel

@@ -76,6 +76,7 @@ TEST(SessionFileTest, OnlyTheOrderCounts) {
 
 /// One line of the good file replaced, and what becomes of its value.
 TEST(SessionFileTest, RowsOfTheReadersRules) {
+  const std::string nines(400, '9');
   // clang-format off
   const struct {
     int line;
@@ -90,7 +91,11 @@ TEST(SessionFileTest, RowsOfTheReadersRules) {
       {11, "C: 0", "1 2 3", "65280 2 3"}, {12, "C: 0", "1 2 3", "1 0 3"}, {13, "C: 0", "3 4 5", "255 4 5"},
       {14, "C: x", "3 4 5", "3 16776960 5"}, {15, "C: .4", "3 4 5", "3 4 208931"},
       {15, "C: 16777215", "3 4 5", "3 4 16777215"}, {16, "G: ", "[fr]", "[]"}, {17, "A: 0", "0.75", "0.75"},
-      {17, "A: .3", "0.75", "0.6"}, {17, "A: 2", "0.75", "1.5"}, {17, "A: -1", "0.75", "0.6"}
+      {17, "A: .3", "0.75", "0.6"}, {17, "A: 2", "0.75", "1.5"}, {17, "A: -1", "0.75", "0.6"},
+      {4, "F: inf", "1230 ", "0 "}, {4, "F: 1e400", "1230 ", "1e+10 "}, {6, "L: -0", "42.65", "-0"},
+      {6, "L: nan", "42.65", "0"}, {8, "P: nan", "0.25", "0.02"}, {9, "S: -1e400", "400", "100"},
+      {17, "A: inf", "0.75", "0.75"}, {17, "A: 1e400", "0.75", "1.5"}, {9, nines.c_str(), "400", "10000"},
+      {10, "D: -0", "1 1 2", "0 1 2"}
   };
   // clang-format on
   for (const auto& row : rows) {

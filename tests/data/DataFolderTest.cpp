@@ -75,6 +75,17 @@ TEST_F(DataFolderTest, ALongFileIsRefused) {
   EXPECT_EQ(Text(ReadFile(Path("empty"))), "");
 }
 
+TEST_F(DataFolderTest, AFileThatChangesWhileItIsReadIsRefused) {
+  // The system's own files give more, or less, than the size they have: as a file does that another program
+  // is writing.
+  for (const char* file : {"/proc/self/status", "/sys/devices/system/cpu/online"}) {
+    if (QFile::exists(file)) {
+      EXPECT_EQ(Text(ReadFile(file)), QFileInfo(file).fileName().toStdString() +
+                                          ": changed while it was read; try again when it is complete");
+    }
+  }
+}
+
 TEST_F(DataFolderTest, AFailedWriteLeavesWhatWasThere) {
   // Failures that a privileged user meets too: a folder in the file's place, and a file in the folder's.
   ASSERT_TRUE(QDir(folder_.Path()).mkpath("Kestrel.CFG/inside"));

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <string>
 
 #include "core/Numbers.h"
@@ -63,6 +64,22 @@ TEST(OutlineFileTest, EveryTruncation) {
       EXPECT_EQ(Strokes(good.substr(0, length)), "/ 45.5,266.25 46,267 / 10,20 ");
     }
   }
+}
+
+TEST(OutlineFileTest, ReadingEndsAtMaxVertices) {
+  std::string bytes;
+  for (std::size_t i = 0; i < MaxVertices - 1; ++i) bytes += "1 2\n";
+  bytes += "-100 -100\n3 4\n";
+  const Outline outline = ReadOutline(bytes);
+  EXPECT_EQ(outline.Latitude.size(), MaxVertices - 1);
+  EXPECT_EQ(outline.PenUpBefore.size(), 1U);
+}
+
+TEST(OutlineFileTest, NumbersStayWithinTheirRange) {
+  const std::string nines(400, '9');
+  const std::string most = testing::PrintToString(std::numeric_limits<float>::max());
+  EXPECT_EQ(Strokes("1e400 -1e400\n" + nines + " -" + nines + "\nnan inf\n1e-400 -0\n"),
+            most + ",-" + most + ' ' + most + ",-" + most + " 0,0 0,-0 ");
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -168,6 +169,52 @@ TEST(StationLineReaderTest, PassesOverTowerLines) {
   while (const auto line = reader.Next()) calls.emplace_back(line->CallSign);
   EXPECT_EQ(calls, (Texts{" WXYZ ", "WABC", "CDEF"}));
   for (const char* line : {"", "0,1", " 1230", ",1230", "x", "-1"}) EXPECT_FALSE(IsStationLine(line)) << line;
+}
+
+TEST(StationFileTest, ReadingEndsAtItsLimits) {
+  std::string bytes;
+  for (int i = 0; i < MaxRecords; ++i) bytes += "1230,A,c,s,u,U,1,2,3,-,-,0\n";
+  EXPECT_EQ(ReadAll(bytes).notes, Texts{});
+  bytes += "1230,Z,c,s,u,U,1,2,3,-,-,0\n";
+  StationFileReader reader("1230x.dat", bytes);
+  int records = 0;
+  while (reader.Next()) ++records;
+  EXPECT_EQ(records, MaxRecords);
+  EXPECT_EQ(reader.Notes(), Texts{"1230x.dat:10001: more than 10000 records; the rest is left out"});
+  StationLineReader lines(bytes);
+  int count = 0;
+  while (lines.Next()) ++count;
+  EXPECT_EQ(count, MaxRecords);
+
+  std::string faults;
+  for (int i = 0; i < MaxNotes + 50; ++i) faults += "1230,A,c,s,u,U,1,2,3,-,-,13\n";
+  const Texts notes = ReadAll(faults + "1230,Z,c,s,u,U,1,2,3,-,-,0\n").notes;
+  ASSERT_EQ(notes.size(), MaxNotes + 1U);
+  EXPECT_EQ(notes[MaxNotes - 1], "1230x.dat:100: 13 towers, at most 12");
+  EXPECT_EQ(notes[MaxNotes], "1230x.dat: more than 100 faults; the others are not listed");
+}
+
+// Whatever the field, numbers beyond all ranges are finite.
+TEST(StationFileTest, NumbersStayWithinTheirRange) {
+  constexpr float kLargest = std::numeric_limits<float>::max();
+  const std::string nines(400, '9');
+  const struct {
+    std::string text;
+    float value;
+  } rows[] = {{"1e400", kLargest}, {"-1e400", -kLargest}, {nines, kLargest}, {"." + nines, 1},
+              {"1e-400", 0},       {"-0", -0.0F},         {"nan", 0},        {"inf", 0},
+              {"-inf", 0}};
+  for (const auto& [text, value] : rows) {
+    const std::string bytes = "1230,A,c,s,u,U," + text + ',' + text + ',' + text + ",-,-,1\n0," + text + ',' +
+                              text + ',' + text + ',' + text + ',' + text + '\n';
+    StationFileReader reader("1230x.dat", bytes);
+    const StationRecord* record = reader.Next();
+    ASSERT_NE(record, nullptr) << text;
+    for (const float number :
+         {record->Latitude, record->Longitude, record->PowerKW, record->Fields[1], record->Heights[1],
+          record->Phases[1], record->Spacings[1], record->Bearings[1]})
+      EXPECT_EQ(number, value) << text;
+  }
 }
 
 }  // namespace

@@ -52,7 +52,7 @@ TEST(OutlinesTest, FilesInTheirColoursWithTheHomeMarkBetween) {
   files.Put("states.DAT", "0 285\n1 285\n-2000\n");
   files.Put("REGION2.dat", "0 285\n0 286\n");
   RecordingCanvas canvas;
-  DrawOutlineFiles(canvas, files.Folder(), MapProjection(0, 75, 750));
+  EXPECT_TRUE(DrawOutlineFiles(canvas, files.Folder(), MapProjection(0, 75, 750)).empty());
   const std::string home =
       "Circle 0000FF (6000,4500) r50\n"
       "Line 0000FF (5950,4500) (6050,4500)\n"
@@ -62,8 +62,11 @@ TEST(OutlinesTest, FilesInTheirColoursWithTheHomeMarkBetween) {
 
   const TestFolder empty;
   canvas.Clear();
-  DrawOutlineFiles(canvas, empty.Folder(), MapProjection(0, 75, 750));
+  EXPECT_TRUE(DrawOutlineFiles(canvas, empty.Folder(), MapProjection(0, 75, 750)).empty());
   EXPECT_EQ(canvas.Readable(), home);
+  QDir(empty.Folder().Path()).mkdir("region2.dat");
+  EXPECT_EQ(DrawOutlineFiles(canvas, empty.Folder(), MapProjection(0, 75, 750)),
+            std::vector<std::string>{"region2.dat: is a folder or a device, not a file"});
 }
 
 }  // namespace
