@@ -108,7 +108,7 @@ TEST_F(frmImportTest, DryRunCancelAndRefusedFilesWriteNothing) {
 TEST_F(frmImportTest, OnlyTheStationsOfTheCountriesWanted) {
   std::string mexican = Row("XEAA", "1.0", "21");
   mexican.replace(mexican.find("|LIC|PLANO|TX|US|"), 17, "|CP|SALTILLO|CI|MX|");
-  folder_.Write("amq.txt", Row("KAAA", "5.0", "11") + mexican);
+  folder_.Put("amq.txt", Row("KAAA", "5.0", "11") + mexican);
   frmImport form(workspace_);
   form.show();
   form.AddFiles({folder_.Path("amq.txt")});
