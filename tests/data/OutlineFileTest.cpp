@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 #include <string>
 
@@ -77,9 +78,10 @@ TEST(OutlineFileTest, ReadingEndsAtMaxVertices) {
 
 TEST(OutlineFileTest, NumbersStayWithinTheirRange) {
   const std::string nines(400, '9');
-  const std::string most = testing::PrintToString(std::numeric_limits<float>::max());
+  const std::string most = NumberText(std::numeric_limits<float>::max());
   EXPECT_EQ(Strokes("1e400 -1e400\n" + nines + " -" + nines + "\nnan inf\n1e-400 -0\n"),
-            most + ",-" + most + ' ' + most + ",-" + most + " 0,0 0,-0 ");
+            most + ",-" + most + ' ' + most + ",-" + most + " 0,0 0,0 ");
+  EXPECT_TRUE(std::signbit(ReadOutline("1 -0\n").Longitude.at(0)));
 }
 
 }  // namespace

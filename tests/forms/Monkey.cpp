@@ -132,10 +132,10 @@ std::string FccRow(const std::string& call, const std::string& frequency, const 
 
 }  // namespace
 
-Monkey::Monkey(unsigned seed, int commands, const Folder& folder)
+Monkey::Monkey(unsigned seed, int commands, const SampleFolder& folder)
     : random_(seed), commands_(commands), folder_(folder) {
-  folder_.Write("amq.txt", FccRow("KAAA", "620", "11") + FccRow("KBBB", "1230", "12") + "|KCUT|62");
-  folder_.Write("letter.txt", "Dear listener,\n");
+  folder_.Put("amq.txt", FccRow("KAAA", "620", "11") + FccRow("KBBB", "1230", "12") + "|KCUT|62");
+  folder_.Put("letter.txt", "Dear listener,\n");
   for (const char* name : {"REGION2.dat", "STATES.dat", "620x.dat", "630x.dat", "1230x.dat", "Kestrel.lst",
                            "StationsCall.DAT", "Stations.txt"})
     whole_.emplace_back(name, folder_.Text(name));
@@ -288,10 +288,10 @@ void Monkey::Resize(QWidget& window) {
 void Monkey::ChangeFile() {
   const auto& [name, whole] = OneOf(whole_);
   const int choice = Below(4);
-  Say("file " + QString::fromStdString(name) + ' ' + QString::number(choice));
-  if (choice == 0) return folder_.Remove(name);
-  if (choice == 1) return folder_.Write(name, whole.substr(0, 90) + ",,\xff\xfe,1e999\r\n\n");
-  for (const auto& [any, text] : whole_) folder_.Write(any, text);
+  Say("file " + name + ' ' + QString::number(choice));
+  if (choice == 0) return void(QFile::remove(folder_.Path(name)));
+  if (choice == 1) return folder_.Put(name, whole.substr(0, 90) + ",,\xff\xfe,1e999\r\n\n");
+  for (const auto& [any, text] : whole_) folder_.Put(any, text);
 }
 
 QStringList Monkey::SomeFiles() {
@@ -316,7 +316,7 @@ QStringList Monkey::ChooseFiles(QWidget*, const QString&) {
 }
 
 QString Monkey::ChooseFileToWrite(QWidget*, const QString&, const QString& offered) {
-  const std::array names = {offered.toStdString(), std::string("no folder/report.txt"), std::string(".")};
+  const std::array names = {offered, QString("no folder/report.txt"), QString(".")};
   return Below(4) == 0 ? QString() : folder_.Path(OneOf(names));
 }
 

@@ -5,7 +5,7 @@
 #include <functional>
 #include <random>
 
-#include "forms/Folder.h"
+#include "forms/SampleFolder.h"
 #include "ui/Platform.h"
 
 namespace kestrel {
@@ -16,7 +16,7 @@ namespace kestrel {
 /// same.
 class Monkey final : public QObject, public Platform {
  public:
-  Monkey(unsigned seed, int commands, const Folder& folder);
+  Monkey(unsigned seed, int commands, const SampleFolder& folder);
 
   /// Begins with the event loop; when the commands are used up, all windows are closed.
   void Start() { Schedule(); }
@@ -69,8 +69,8 @@ class Monkey final : public QObject, public Platform {
   int commands_;
   int done_ = 0;
   int roundsWithoutWindow_ = 0;
-  const Folder& folder_;
-  std::vector<std::pair<std::string, std::string>> whole_;  ///< the folder's files by name, undamaged
+  const SampleFolder& folder_;
+  std::vector<std::pair<QString, std::string>> whole_;  ///< the folder's files by name, undamaged
 };
 
 }  // namespace kestrel

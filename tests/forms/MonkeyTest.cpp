@@ -123,7 +123,7 @@ void ExpectKept(const DataFolder& folder, const SessionState& held) {
 
 /// The folder of the form tests with more to find: on every channel one array of twelve towers, on one of
 /// them rows that are damaged; odd places.
-void FillFolder(const Folder& folder) {
+void FillFolder(const SampleFolder& folder) {
   std::string towers;
   for (int i = 0; i < 12; ++i)
     towers += "1," + std::to_string(90 * i) + ",90," + std::to_string(30 * i) + ",80,0\r\n";
@@ -131,17 +131,17 @@ void FillFolder(const Folder& folder) {
     const std::string channel = std::to_string(kilohertz);
     std::string file =
         channel + ", QARR, \xc3\x96RT, KS, United States, N, 33.5, 96.5, 5,-,-, 12\r\n" + towers;
-    if (kilohertz % 50 == 30) file += Folder::Channel(channel);
+    if (kilohertz % 50 == 30) file += SampleFolder::Channel(channel);
     if (kilohertz == 630)
       file +=
           "630, QCUT, TOWN, KS\r\n630, QARR, TOWN, KS, United States, U, 33, 97, 0,-,-, "
           "1\r\n0,1,90,0,0,0\r\n";
-    folder.Write(channel + "x.dat", file);
+    folder.Put(QString::fromStdString(channel) + "x.dat", file);
   }
-  folder.Write("Kestrel.lst",
-               "           Plano  TX                  33.0198   96.6989\r\n"
-               "    12,345 Quotes \"and\", commas: KS    37.1     97.3\r\n"
-               "        1                              0         0\r\n");
+  folder.Put("Kestrel.lst",
+             "           Plano  TX                  33.0198   96.6989\r\n"
+             "    12,345 Quotes \"and\", commas: KS    37.1     97.3\r\n"
+             "        1                              0         0\r\n");
 }
 
 TEST(Monkey, BreaksNothingLosesNothingAndLeavesNothing) {
@@ -150,9 +150,9 @@ TEST(Monkey, BreaksNothingLosesNothingAndLeavesNothing) {
   std::cout << "KESTREL_MONKEY_SEED=" << seed << " KESTREL_MONKEY_COMMANDS=" << commands << std::endl;
   QApplication::setKeyboardInputInterval(0);  // each key for itself, however fast they come
 
-  const Folder files;
+  const SampleFolder files;
   FillFolder(files);
-  const DataFolder folder = files.Data();
+  const DataFolder folder = files.Folder();
   Monkey monkey(seed, commands, files);
   monkey.Speaks = qEnvironmentVariableIsSet("KESTREL_MONKEY_TRACE");
   int lives = 0;
