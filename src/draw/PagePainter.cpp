@@ -1,5 +1,7 @@
 #include "draw/PagePainter.h"
 
+#include <algorithm>
+
 #include "draw/PainterCanvas.h"
 
 namespace kestrel {
@@ -10,6 +12,10 @@ constexpr double kHairsPerInch = 200;
 constexpr double kSmallestPoints = 8;
 constexpr double kPointsPerInch = 72;
 
+// On paper so small that the page is shrunk, text does not grow beyond this size on the laid-out page, or
+// lines and columns would run together.
+constexpr double kMostPointsOfLayout = 10;
+
 SurfaceRules RulesFor(const PagePane& pane, double unitsPerTwip, double unitsPerInch) {
   SurfaceRules rules;
   rules.Area = QRectF(pane.Place.Left * unitsPerTwip, pane.Place.Top * unitsPerTwip,
@@ -19,7 +25,9 @@ SurfaceRules RulesFor(const PagePane& pane, double unitsPerTwip, double unitsPer
   rules.Fit.Left += static_cast<float>(rules.Area.left());
   rules.Fit.Top += static_cast<float>(rules.Area.top());
   rules.PixelSize = unitsPerInch / kHairsPerInch;
-  rules.SmallestXHeight = kSmallestPoints / kPointsPerInch * kHairsPerInch * XHeightShare(FontFace::Sans);
+  const double shrinking = unitsPerTwip * kTwipsPerInch / unitsPerInch;
+  const double points = std::min(kSmallestPoints, kMostPointsOfLayout * shrinking);
+  rules.SmallestXHeight = points / kPointsPerInch * kHairsPerInch * XHeightShare(FontFace::Sans);
   return rules;
 }
 

@@ -52,8 +52,8 @@ frmPlot::frmPlot(const Workspace& workspace) : workspace_(workspace) {
     for (int i = 0; i < std::abs(steps); ++i) Button(steps > 0 ? "cmdIn" : "cmdOut")->click();
   };
   surface_->TipWanted = [this](Point place) { return TipAt(place); };
-  surface_->MousePressed = [this](Point place, Qt::MouseButton button) {
-    if (button == Qt::LeftButton && !scanning_) ClickAt(place);
+  surface_->Clicked = [this](Point place) {
+    if (!scanning_) ClickAt(place);
   };
 
   auto* column = new CommandColumn(this);

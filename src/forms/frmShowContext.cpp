@@ -57,8 +57,12 @@ QPushButton* frmShowContext::AddButton(const char* name, const QString& caption,
 
 void frmShowContext::Zoom(void (ContextZoom::*step)()) {
   (zoom_.*step)();
+  const QWidget* focus = focusWidget();
   cmdLess_->setEnabled(zoom_.MayZoomOut);
   cmdMore_->setEnabled(zoom_.MayZoomIn);
+  // The next key of a series must not press what stands behind the button that has just gone.
+  if (focus == cmdLess_ && !cmdLess_->isEnabled()) cmdMore_->setFocus();
+  if (focus == cmdMore_ && !cmdMore_->isEnabled()) cmdLess_->setFocus();
   Draw();
 }
 

@@ -22,6 +22,7 @@ constexpr Font kSmallFont = {FontFace::Sans, 8};
 constexpr float kLine = 250;  // from line to line
 constexpr PageSize kSmallestMap = {9000, 7500};
 constexpr PageSize kSmallestStation = {9600, 10800};
+constexpr PageSize kSmallestWideStation = {13500, 7200};
 
 /// A pane that is a part of the page itself, drawn at its true size.
 PagePane TextPane(const SheetArea& place, std::function<void(Canvas&)> draw) {
@@ -96,6 +97,12 @@ struct LabelledValue {
   std::string Value;
 };
 
+/// "night (N)"; a code that is none of the four as it stands.
+std::string HoursText(const std::string& code) {
+  const std::string word = HoursWord(code);
+  return word == code ? code : word + " (" + code + ')';
+}
+
 /// What the record says, a label and a value a line.
 std::vector<LabelledValue> StationWords(const SessionState& state, const StationSelection& selection) {
   const auto degrees = [](float value, const char* positive, const char* negative) {
@@ -104,9 +111,9 @@ std::vector<LabelledValue> StationWords(const SessionState& state, const Station
   return {{"Call sign", selection.SelectedCallSign},
           {"Frequency", NumberText(state.CurrentFrequency) + " kHz"},
           {"City", selection.City},
-          {"State", selection.State},
+          {"State", selection.State == "-" ? "" : selection.State},
           {"Country", selection.Country},
-          {"Hours", HoursWord(selection.SelectedHoursCode) + " (" + selection.SelectedHoursCode + ')'},
+          {"Hours", HoursText(selection.SelectedHoursCode)},
           {"Power", PowerText(selection.PowerKW)},
           {"Latitude", degrees(selection.Latitude, "north", "south")},
           {"Longitude", degrees(selection.Longitude, "west", "east")},
@@ -168,7 +175,7 @@ PrintedPage MapPage(const SessionState& state, const DataFolder& folder, const S
     return TitledMap(page, title, source, map.Area,
                      [&drawing = map.Drawing](Canvas& canvas) { drawing.Play(canvas); });
   };
-  return {"KestrelII map", true, kSmallestMap, layout, GreysOf(state)};
+  return {"KestrelII map", true, kSmallestMap, kSmallestMap, layout, GreysOf(state)};
 }
 
 PrintedPage OutlinePage(const SessionState& state, const DataFolder& folder) {
@@ -177,7 +184,7 @@ PrintedPage OutlinePage(const SessionState& state, const DataFolder& folder) {
     return TitledMap(page, title, {}, {},
                      [projection, &folder](Canvas& canvas) { DrawOutlineFiles(canvas, folder, projection); });
   };
-  return {"KestrelII outline map", true, kSmallestMap, layout, GreysOf(state)};
+  return {"KestrelII outline map", true, kSmallestMap, kSmallestMap, layout, GreysOf(state)};
 }
 
 PrintedPage StationPage(const SessionState& state, const DataFolder& folder,
@@ -190,11 +197,10 @@ PrintedPage StationPage(const SessionState& state, const DataFolder& folder,
     constexpr float kTableHeight = (MaxTowers + 2) * kLine;
     constexpr float kTableWidth = 7600;
     constexpr float kGap = 300;
-    constexpr float kWide = 1.25F;  // of the height: then words and table stand side by side
     const auto drawPlot = [&state, records](Canvas& canvas) {
       DrawStationPlot(canvas, state.AspectRatio, records);
     };
-    const bool wide = page.Width > kWide * page.Height;
+    const bool wide = IsWide(page);  // words and table stand side by side
     const float fitting = page.Width * StationPlotArea.Height / StationPlotArea.Width;
     const float left = page.Height - kWordsHeight - (wide ? kGap : kTableHeight + 2 * kGap);
     const SheetArea plot = {0, kWordsHeight + kGap / 2, page.Width,
@@ -206,12 +212,13 @@ PrintedPage StationPage(const SessionState& state, const DataFolder& folder,
     return std::vector<PagePane>{
         {plot, StationPlotArea, drawPlot}, WordsPane(words, state, shown, source), TablePane(table, rows)};
   };
-  return {"KestrelII station data", false, kSmallestStation, layout, StationPlotGreys()};
+  return {"KestrelII station data", false,  kSmallestStation,
+          kSmallestWideStation,     layout, StationPlotGreys()};
 }
 
 PageSize LayoutSize(const PrintedPage& page, PageSize paper) {
-  const float growth =
-      std::max({1.0F, page.Smallest.Width / paper.Width, page.Smallest.Height / paper.Height});
+  const PageSize& smallest = IsWide(paper) ? page.SmallestWide : page.Smallest;
+  const float growth = std::max({1.0F, smallest.Width / paper.Width, smallest.Height / paper.Height});
   return {paper.Width * growth, paper.Height * growth};
 }
 

@@ -29,11 +29,18 @@ struct PagePane {
   std::function<void(Canvas&)> Draw;
 };
 
+/// Whether there is room side by side for what stands one below the other on upright paper.
+inline bool IsWide(PageSize paper) {
+  return paper.Width > 1.25F * paper.Height;
+}
+
 /// One printed page.
 struct PrintedPage {
   std::string Name;       ///< of the document, as print queues show it
   bool Landscape = true;  ///< how it is offered first
-  PageSize Smallest;      ///< on smaller paper the page is laid out in this size and shrunk
+  // On smaller paper the page is laid out in this size and shrunk.
+  PageSize Smallest;
+  PageSize SmallestWide;  ///< on paper that IsWide
   std::function<std::vector<PagePane>(PageSize)> Layout;
   RecoloredCanvas::Mapping Greys;  ///< its colours on a black-and-white printer
 };

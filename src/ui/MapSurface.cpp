@@ -76,6 +76,11 @@ void MapSurface::mousePressEvent(QMouseEvent* event) {
   if (MousePressed) MousePressed(ToSheet(event->position()), event->button());
 }
 
+void MapSurface::mouseReleaseEvent(QMouseEvent* event) {
+  const bool here = rect().contains(event->position().toPoint());
+  if (Clicked && event->button() == Qt::LeftButton && here) Clicked(ToSheet(event->position()));
+}
+
 bool MapSurface::event(QEvent* event) {
   if (event->type() != QEvent::ToolTip || !TipWanted) return QWidget::event(event);
   const auto* help = static_cast<QHelpEvent*>(event);

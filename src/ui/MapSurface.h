@@ -37,6 +37,8 @@ class MapSurface final : public QWidget {
   /// Called with the position in twips. Mouse tracking is on when MouseMoved is set.
   std::function<void(Point)> MouseMoved;
   std::function<void(Point, Qt::MouseButton)> MousePressed;
+  /// Called when the left button has been pressed and released on the surface.
+  std::function<void(Point)> Clicked;
   /// Called when the mouse rests at a position; what it returns is shown there, unless it is empty.
   std::function<QString(Point)> TipWanted;
   /// Called with the wheel's whole steps, away from the user positive.
@@ -48,6 +50,7 @@ class MapSurface final : public QWidget {
   void paintEvent(QPaintEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
   bool event(QEvent* event) override;
 

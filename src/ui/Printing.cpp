@@ -1,12 +1,24 @@
 #include "ui/Printing.h"
 
-#include <QFileInfo>
+#include <QFile>
 #include <QPainter>
 #include <QPrinter>
+#include <algorithm>
 
 #include "draw/PagePainter.h"
 
 namespace kestrel {
+namespace {
+
+bool IsWholePdf(const QString& path) {
+  constexpr qint64 kTail = 64;  // the end mark stands behind a few bytes at most
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) return false;
+  file.seek(std::max<qint64>(0, file.size() - kTail));
+  return file.readAll().contains("%%EOF");
+}
+
+}  // namespace
 
 PrinterDevice::PrinterDevice(std::unique_ptr<QPrinter> printer) : printer_(std::move(printer)) {}
 
@@ -22,9 +34,10 @@ bool PrinterDevice::InColor() const {
 
 bool PrinterDevice::Failed() const {
   if (printer_->printerState() == QPrinter::Error) return true;
-  // A file may stay empty where the disk is full or the folder went away; the printer does not tell.
+  // Where the disk is full or the folder went away, a file stays empty or breaks off; the printer does not
+  // tell.
   const QString file = printer_->outputFileName();
-  return !file.isEmpty() && QFileInfo(file).size() == 0;
+  return !file.isEmpty() && !IsWholePdf(file);
 }
 
 PrintEnd PrintPage(PrintDevice& device, const PrintedPage& page) {

@@ -1,5 +1,7 @@
 #include "forms/frmGetStationData.h"
 
+#include <cmath>
+
 #include <QListWidget>
 #include <QScreen>
 #include <QScrollBar>
@@ -80,6 +82,21 @@ TEST_F(frmGetStationDataTest, OneEnterShowsAPatternAndTheArrowsTheNextOne) {
   EXPECT_EQ(night.All("Circle").size(), 1U + 4 + 1);
   ClickRow(*form_, "lstGetData", 0);
   EXPECT_EQ(Plotted().List, day.List);
+
+  // A circle around the centre of the plot, as wide as the session's aspect says.
+  State.AspectRatio = 1.5F;
+  ClickRow(*form_, "lstGetData", 0);
+  const std::vector<Point> round = day.All("Polyline").at(0).Points;
+  const std::vector<Point> wide = Plotted().All("Polyline").at(0).Points;
+  ASSERT_EQ(wide.size(), round.size());
+  const float center = (round[90].x + round[270].x) / 2;
+  const float radius = (round[90].x - round[270].x) / 2;
+  for (std::size_t i = 0; i < wide.size(); ++i) {
+    const double bearing = static_cast<double>(i) / 57.29578;
+    EXPECT_NEAR(round[i].x, center + radius * std::sin(bearing), 2) << i;
+    EXPECT_NEAR(wide[i].x - wide[0].x, 1.5F * (round[i].x - round[0].x), 2) << i;
+    EXPECT_NEAR(wide[i].y, round[i].y, 0.5) << i;
+  }
 
   LookFor("qtwo");
   EXPECT_EQ(List()->count(), 2) << "the list is filled anew";

@@ -71,7 +71,9 @@ class frmPlotTest : public ::testing::Test {
   }
 
   /// The first line of the tip that is shown; nothing when there is none.
-  static std::string TipShown() { return QToolTip::text().section('\n', 0, 0).toStdString(); }
+  static std::string TipShown() {
+    return QToolTip::isVisible() ? QToolTip::text().section('\n', 0, 0).toStdString() : "";
+  }
   static void ForgetTip() {
     for (QWidget* window : QApplication::topLevelWidgets())
       if (window->inherits("QTipLabel")) delete window;
@@ -281,16 +283,22 @@ TEST_F(frmPlotTest, AClickOpensTheLookupForStationsOfTheChannelOnly) {
 TEST_F(frmPlotTest, PrintOffersTheMapAsItIsShown) {
   std::string title;
   SheetArea onPage;
+  RecordingCanvas mapOnPage;
   platform_.NextPrint = [&](const PrintOffer& offer) {
     const std::vector<PagePane> panes = offer.Page.Layout({14688, 11088});
     RecordingCanvas canvas;
     panes.at(0).Draw(canvas);
     title = canvas.Texts().at(0);
     onPage = panes.at(1).Sheet;
+    mapOnPage.Clear();
+    panes.at(1).Draw(mapOnPage);
     return std::nullopt;
   };
   const auto printed = [&] {
     Press("cmdPrint");
+    RecordingCanvas shown;
+    plot_->Surface().Drawing().Play(shown);
+    EXPECT_EQ(mapOnPage.List, shown.List);
     return title.substr(0, title.find("    Home: "));
   };
   Open();
@@ -305,6 +313,7 @@ TEST_F(frmPlotTest, PrintOffersTheMapAsItIsShown) {
   PressInForm("cmdAll", "", "cmdAlterNo");
   EXPECT_EQ(printed(), "620, 630, 1230 kHz");
   Press("cmdIn");
+  Press("cmdCompass");
   EXPECT_EQ(printed(), "1230 kHz");
   EXPECT_TRUE(platform_.Messages.isEmpty()) << "cancelled";
 }

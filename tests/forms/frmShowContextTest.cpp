@@ -61,6 +61,18 @@ TEST_F(frmShowContextTest, ZoomReachesItsLimitsAndClosesTheWayOnePressLater) {
   });
 }
 
+TEST_F(frmShowContextTest, ASeriesOfKeysZoomsAndOpensNoAddress) {
+  frmShowContext form(Everything, nullptr, selection_);
+  Use(form, [&form] {
+    const float atOne = LineHeight(form);
+    for (int i = 0; i < 5; ++i) QTest::keyClick(form.focusWidget(), Qt::Key_Space);
+    EXPECT_NEAR(LineHeight(form), 4 * atOne, 0.5) << "four presses in, and the fifth out again";
+    for (int i = 0; i < 9; ++i) QTest::keyClick(form.focusWidget(), Qt::Key_Space);
+    Press(form, "cmdClose");
+  });
+  EXPECT_EQ(System.Addresses, QStringList());
+}
+
 TEST_F(frmShowContextTest, TheWebMapOpensAtTheStationInTheLanguageChosen) {
   frmShowContext form(Everything, nullptr, selection_);
   Use(form, [&form] {

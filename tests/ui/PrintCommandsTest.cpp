@@ -1,9 +1,12 @@
 #include "ui/PrintCommands.h"
 
 #include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/resource.h>
 
 #include <QPrinter>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
@@ -188,6 +191,39 @@ TEST_F(PrintCommandsTest, SmallPaperKeepsLettersLegible) {
     const QSizeF points = QPageSize(paper).size(QPageSize::Point);
     ExpectVectorPage(static_cast<int>(points.height()), static_cast<int>(points.width()));
   }
+}
+
+TEST_F(PrintCommandsTest, NothingOfTheStationPageRunsTogetherOnSmallPaper) {
+  if (!CanReadPdf()) GTEST_SKIP() << "no pdftotext to read the page's text with";
+  const StationSelection selection = SelectRow(SearchStations(data_.Folder(), 1230, "QABC").Rows.at(0));
+  for (const QPageSize::PageSizeId paper : {QPageSize::Letter, QPageSize::A5, QPageSize::A6})
+    for (const auto orientation : {QPageLayout::Landscape, QPageLayout::Portrait}) {
+      Choose([&] {
+        std::unique_ptr<QPrinter> printer = Printer(pdf_, paper);
+        printer->setPageOrientation(orientation);
+        return std::make_unique<PrinterDevice>(std::move(printer));
+      });
+      PrintStation(system_, data_.Folder(), state_, selection, nullptr);
+      const QStringList words = PdfText().split(QRegularExpression("\\s+"));
+      for (const char* word : {"Tower", "Fields", "Heights", "Phases", "Spacings", "Bearings", "Switch",
+                               "QABC", "SPRINGFIELD", "STATES", "96.54139", "home", "330"})
+        EXPECT_TRUE(words.contains(word)) << word << " on paper " << paper << ' ' << orientation << '\n'
+                                          << PdfText().toStdString();
+    }
+}
+
+TEST_F(PrintCommandsTest, AFileThatBreaksOffIsNotPrinted) {
+  rlimit whole{};
+  getrlimit(RLIMIT_FSIZE, &whole);
+  const auto before = signal(SIGXFSZ, SIG_IGN);
+  const rlimit little{3000, whole.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &little);
+  ChoosePdf();
+  PrintTheMap();
+  setrlimit(RLIMIT_FSIZE, &whole);
+  signal(SIGXFSZ, before);
+  EXPECT_EQ(QFileInfo(pdf_).size(), 3000);
+  EXPECT_EQ(Said(), QStringList("Printer Error"));
 }
 
 TEST_F(PrintCommandsTest, ACancelledDialogPrintsNothingAndSaysNothing) {

@@ -21,8 +21,8 @@ namespace {
 class PrintPreviewTest : public ::testing::Test {
  protected:
   PrintPreviewTest() {
-    offer_.Page = {"A page", true, {1000, 1000}, LaidOut(pageSizes_), {}};
-    offer_.Outlines = PrintedPage{"Outlines", true, {1000, 1000}, LaidOut(outlineSizes_), {}};
+    offer_.Page = {"A page", true, {1000, 1000}, {1000, 1000}, LaidOut(pageSizes_), {}};
+    offer_.Outlines = PrintedPage{"Outlines", true, {1000, 1000}, {1000, 1000}, LaidOut(outlineSizes_), {}};
   }
 
   static std::function<std::vector<PagePane>(PageSize)> LaidOut(std::vector<PageSize>& sizes) {
