@@ -7,6 +7,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QStyle>
 #include <algorithm>
@@ -90,6 +91,13 @@ void frmGetStationData::LayOutList(QVBoxLayout* rows) {
   lstGetData_->setFont(courier);
   QLabel* label3 = MakeLabel("Label3", Text(ListHeads()));
   label3->setFont(courier);
+  for (QWidget* columns : {static_cast<QWidget*>(label3), static_cast<QWidget*>(lstGetData_)})
+    columns->setLayoutDirection(Qt::LeftToRight);
+  // On a small screen the heads are cut and follow the list sideways.
+  label3->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  label3->setAttribute(Qt::WA_ContentsMarginsRespectsSafeArea, false);  // or no margin could be negative
+  connect(lstGetData_->horizontalScrollBar(), &QScrollBar::valueChanged, label3,
+          [label3](int left) { label3->setContentsMargins(-left, 0, 0, 0); });
   // The heads begin where the list's text does.
   label3->setIndent(lstGetData_->frameWidth() + style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
   connect(lstGetData_, &QListWidget::currentRowChanged, this, [this](int row) { ShowRecord(row); });
@@ -184,7 +192,9 @@ void frmGetStationData::FitList() {
   const int row =
       lstGetData_->count() > 0 ? lstGetData_->sizeHintForRow(0) : lstGetData_->fontMetrics().height();
   const double rows = double{ListHeight(rows_.size())} / RowTwips;
-  const double wanted = rows * row + 2 * lstGetData_->frameWidth();
+  const bool scrolls = lstGetData_->sizeHintForColumn(0) > lstGetData_->viewport()->width();
+  const double wanted = rows * row + 2 * lstGetData_->frameWidth() +
+                        (scrolls ? lstGetData_->horizontalScrollBar()->sizeHint().height() : 0);
   lstGetData_->setFixedHeight(static_cast<int>(std::min(wanted, height() * kListOfWindow)));
 }
 

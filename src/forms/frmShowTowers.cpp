@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "map/TowerSheet.h"
 #include "ui/Controls.h"
@@ -15,6 +16,7 @@ namespace kestrel {
 namespace {
 
 constexpr float kTwipsPerPixel = 15;
+constexpr int kLeastCharacters = 100;  // that the window is wide
 
 }  // namespace
 
@@ -47,7 +49,9 @@ frmShowTowers::frmShowTowers(const Workspace& workspace, QWidget* parent, const 
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(table, 1);
   layout->addWidget(close, 0, Qt::AlignLeft);
-  resize(screenSize / 2);
+  // Half the screen; on a small one more, or the heads of the columns would run into each other.
+  const int leastWidth = std::min(screenSize.width(), fontMetrics().averageCharWidth() * kLeastCharacters);
+  resize((screenSize / 2).expandedTo({leastWidth, leastWidth * screenSize.height() / screenSize.width()}));
 }
 
 void frmShowTowers::keyPressEvent(QKeyEvent* event) {

@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTest>
 #include <QTimer>
 
@@ -89,6 +90,15 @@ class StationDataTest : public ::testing::Test {
   Workspace workspace_{state_, data_.Folder(), system_};
   std::unique_ptr<frmGetStationData> form_;
 };
+
+TEST_F(StationDataTest, FitsASmallScreenItsHeadsFollowingTheList) {
+  Open("QABC").resize(500, 400);
+  EXPECT_EQ(form_->width(), 500);
+  QScrollBar* sideways = Find<QListWidget>("lstGetData")->horizontalScrollBar();
+  ASSERT_GT(sideways->maximum(), 0);
+  sideways->setValue(sideways->maximum());
+  EXPECT_EQ(Find<QLabel>("Label3")->contentsMargins().left(), -sideways->maximum());
+}
 
 TEST_F(StationDataTest, OneEnterShowsAPatternAndTheArrowsTheNextOne) {
   Open();
