@@ -24,8 +24,8 @@ frmPlotStates::frmPlotStates(const Workspace& workspace, QWidget* parent)
   DrawStatesMap(map_->Drawing(), workspace_.Folder);
 
   // Its texts stand side by side and must not grow into each other.
-  constexpr double kTextKeepsItsSize = 0;
-  readout_ = new MapSurface(this, StatesReadoutArea, kTextKeepsItsSize);
+  constexpr double kSmallestXHeight = 4.5;
+  readout_ = new MapSurface(this, StatesReadoutArea, kSmallestXHeight);
   readout_->setObjectName("Readout");
 
   QPushButton* exit = MakeButton("cmdExit", "&Return", "Back to the home window without a change");
@@ -39,7 +39,9 @@ frmPlotStates::frmPlotStates(const Workspace& workspace, QWidget* parent)
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(map_, 1);
   layout->addLayout(strip);
-  resize(screen()->availableSize() * 0.85);
+  const QSize available = screen()->availableSize();
+  constexpr QSize kReadable(800, 0);
+  resize((available * 0.85).expandedTo(available.boundedTo(kReadable)));
   ShowReadout(std::nullopt);
 }
 

@@ -1,10 +1,23 @@
 #include "ui/Controls.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
 namespace kestrel {
+namespace {
+
+/// The theme's colours; a hint has the text's, paler: some dark themes leave it black.
+QPalette BoxPalette() {
+  QPalette palette;
+  QColor hint = QApplication::palette("QLineEdit").color(QPalette::Text);
+  hint.setAlphaF(0.5F);
+  palette.setColor(QPalette::PlaceholderText, hint);
+  return palette;
+}
+
+}  // namespace
 
 QPushButton* MakeButton(const char* name, const QString& caption, const QString& tip) {
   auto* button = new QPushButton(caption);
@@ -25,12 +38,14 @@ QLineEdit* MakeBox(const char* name, const QString& tip) {
   auto* box = new QLineEdit;
   box->setObjectName(name);
   box->setToolTip(tip);
+  box->setLayoutDirection(Qt::LeftToRight);  // or a minus would stand behind its number
+  box->setPalette(BoxPalette());
   box->setMinimumWidth(box->fontMetrics().horizontalAdvance("-123.456789 W"));
   return box;
 }
 
 void MarkBox(QLineEdit* box, bool marked) {
-  QPalette palette;  // of the theme
+  QPalette palette = BoxPalette();
   if (marked) {
     palette.setColor(QPalette::Base, QColor(255, 224, 204));
     palette.setColor(QPalette::Text, Qt::black);

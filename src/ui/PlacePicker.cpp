@@ -48,7 +48,8 @@ QVariant PlaceTable::data(const QModelIndex& index, int role) const {
 QVariant PlaceTable::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal) return {};
   if (role == Qt::DisplayRole) return look_.Columns[section].Header;
-  if (role == Qt::TextAlignmentRole) return QVariant(look_.Columns[section].Alignment | Qt::AlignVCenter);
+  if (role == Qt::TextAlignmentRole)
+    return QVariant(look_.Columns[section].Alignment | Qt::AlignVCenter | Qt::AlignAbsolute);
   return {};
 }
 
@@ -71,6 +72,7 @@ PlacePicker::PlacePicker(const char* listName, const char* searchName, const QSt
   list_->setObjectName(listName);
   table_ = new PlaceTable(lines, look, list_);
   list_->setModel(table_);
+  list_->setLayoutDirection(Qt::LeftToRight);  // its lines are columns of English text and numbers
   list_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   list_->setSelectionBehavior(QAbstractItemView::SelectRows);
   list_->setSelectionMode(QAbstractItemView::SingleSelection);
