@@ -112,6 +112,9 @@ void frmGetStationData::LayOutList(QVBoxLayout* rows) {
   lineWidth_ = label3->sizeHint().width();
   label3->setFixedWidth(2 * lineWidth_);  // lines may be longer than the heads
   auto* heads = new QScrollArea;
+  // Columns of English text and numbers, whatever the desktop's direction.
+  heads->setLayoutDirection(Qt::LeftToRight);
+  lstGetData_->setLayoutDirection(Qt::LeftToRight);
   heads->setWidget(label3);
   heads->setFixedHeight(label3->sizeHint().height());
   heads->setFrameShape(QFrame::NoFrame);
