@@ -59,7 +59,8 @@ class Plot {
       if (!PassesHoursFilter(record->HoursCode, state_.HoursFilter)) continue;
       const Point at = Station(*record);
       const ColorValue color = Color(channel, record->HoursCode);
-      painter_.setPen(QPen(PlatformColor(color), PatternLineWidth));
+      const bool adjacent = state_.AdjacentsShown == 1 && channel != state_.SelectedFrequency;
+      painter_.setPen(QPen(PlatformColor(color), adjacent ? 1 : PatternLineWidth));
       if (record->TowerCount > 0 && straight::ComputePattern(*record, values))
         Outline180(at, Factor(record->HoursCode), values);
       else

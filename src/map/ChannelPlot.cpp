@@ -52,7 +52,9 @@ class ChannelPlotter {
         state_(state),
         projection_(projection),
         plotFrequency_(plotFrequency),
-        adjacent_(state.AdjacentsShown == 1 && plotFrequency != state.SelectedFrequency) {}
+        adjacent_(state.AdjacentsShown == 1 && plotFrequency != state.SelectedFrequency) {
+    canvas_.SetLineWidth(adjacent_ ? 1 : PatternLineWidth);
+  }
 
   void Draw(StationRecord& record) {
     if (!PassesHoursFilter(record.HoursCode, state_.HoursFilter)) return;
@@ -141,7 +143,6 @@ ChannelOutcome PlotChannel(Canvas& canvas, const DataFolder& folder, const Sessi
   const Result<QByteArray> bytes = folder.Read(name);
   if (!bytes) return {true, {bytes.error().Message()}};
 
-  canvas.SetLineWidth(PatternLineWidth);
   canvas.SetFont(kMapFont);
   ChannelPlotter plotter(canvas, state, projection, plotFrequency);
   StationFileReader reader(name.toStdString(), {bytes->constData(), static_cast<std::size_t>(bytes->size())});

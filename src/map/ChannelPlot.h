@@ -13,7 +13,8 @@
 
 namespace kestrel {
 
-/// Width of a pattern's outline in pixels. Coasts and borders are 1 wide; the patterns stand out among them.
+/// Width of a pattern's outline in pixels. Coasts, borders and the patterns of adjacent channels are 1 wide;
+/// those of the channel chosen stand out among them.
 inline constexpr float PatternLineWidth = 1.5F;
 
 /// What plotting a channel met.
