@@ -7,12 +7,10 @@ namespace kestrel {
 
 std::vector<TowerRow> TowerTable(const StationRecord& record) {
   std::vector<TowerRow> rows;
-  for (std::size_t i = 1; i <= static_cast<std::size_t>(record.TowerCount); ++i) {
+  for (std::size_t i = 1; i <= static_cast<std::size_t>(record.TowerCount); ++i)
     rows.push_back({DisplayNumberText(record.Fields[i]), DisplayNumberText(record.Heights[i]),
                     DisplayNumberText(record.Phases[i]), DisplayNumberText(record.Spacings[i]),
                     DisplayNumberText(record.Bearings[i]), record.Switch[i]});
-    if (record.Fields[i] == 0) break;
-  }
   return rows;
 }
 

@@ -16,7 +16,7 @@ inline constexpr std::array<const char*, TowerColumns> TowerHeads = {"Fields",  
 /// One tower's values as texts: the five numbers in their display form, the switch as the file has it.
 using TowerRow = std::array<std::string, TowerColumns>;
 
-/// The rows of a record as the file holds it. A tower without a field ratio is the last one shown.
+/// A row for each tower of a record as the file holds it, those without a field ratio too.
 std::vector<TowerRow> TowerTable(const StationRecord& record);
 
 /// Heads and rows as text, columns parted by tabs, lines ended by a line feed; for pasting elsewhere.

@@ -7,6 +7,8 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QStyle>
 #include <algorithm>
@@ -24,10 +26,24 @@ namespace {
 
 constexpr double kWidthOfScreen = 0.75;
 constexpr double kHeightOfScreen = 0.85;
-constexpr double kListOfWindow = 0.3;  // the list takes no more of the height
+constexpr double kListOfWindow = 0.3;   // the list takes no more of the height
+constexpr double kLineOfScreen = 0.92;  // a line's heads take no more of the width
+constexpr double kSmallestPoints = 8;   // unless they would be too small to read
 
 QString Text(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+/// The list's font, smaller where the screen is too narrow for a whole line.
+QFont ListFont(int screenWidth) {
+  QFont courier = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  courier.setFamilies({"Courier New", "DejaVu Sans Mono", "Liberation Mono", "Courier"});
+  courier.setStyleHint(QFont::Monospace);
+  const double share =
+      kLineOfScreen * screenWidth / QFontMetricsF(courier).horizontalAdvance(Text(ListHeads()));
+  const double points = QFontInfo(courier).pointSizeF();
+  if (share < 1) courier.setPointSizeF(std::max(std::min(points, kSmallestPoints), points * share));
+  return courier;
 }
 
 }  // namespace
@@ -41,8 +57,11 @@ frmGetStationData::frmGetStationData(const Workspace& workspace, QWidget* parent
   LayOutList(rows);
   LayOutPlot(rows);
   const QSize available = screen()->availableSize();
-  resize(static_cast<int>(available.width() * kWidthOfScreen),
-         static_cast<int>(available.height() * kHeightOfScreen));
+  const QMargins margins = rows->contentsMargins();
+  const int wholeLines = lineWidth_ + margins.left() + margins.right();
+  resize(
+      std::min(available.width(), std::max(wholeLines, static_cast<int>(available.width() * kWidthOfScreen))),
+      static_cast<int>(available.height() * kHeightOfScreen));
   FitList();
 
   txtGetData_->setText(callSign.isEmpty() ? Text(UpperCase(workspace_.State.RememberedCallSign)) : callSign);
@@ -81,17 +100,27 @@ void frmGetStationData::LayOutEntry(QVBoxLayout* rows) {
 }
 
 void frmGetStationData::LayOutList(QVBoxLayout* rows) {
-  QFont courier = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-  courier.setFamilies({"Courier New", "DejaVu Sans Mono", "Liberation Mono", "Courier"});
-  courier.setStyleHint(QFont::Monospace);
+  const QFont courier = ListFont(screen()->availableSize().width());
   lstGetData_ = new QListWidget;
   lstGetData_->setObjectName("lstGetData");
   lstGetData_->setAccessibleName("Stations found");
   lstGetData_->setFont(courier);
   QLabel* label3 = MakeLabel("Label3", Text(ListHeads()));
   label3->setFont(courier);
-  // The heads begin where the list's text does.
+  // The heads begin where the list's text does, and move with it where the window is too narrow for a line.
   label3->setIndent(lstGetData_->frameWidth() + style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
+  lineWidth_ = label3->sizeHint().width();
+  label3->setFixedWidth(2 * lineWidth_);  // lines may be longer than the heads
+  auto* heads = new QScrollArea;
+  heads->setWidget(label3);
+  heads->setFixedHeight(label3->sizeHint().height());
+  heads->setFrameShape(QFrame::NoFrame);
+  heads->setFocusPolicy(Qt::NoFocus);
+  heads->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  heads->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  lstGetData_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+  connect(lstGetData_->horizontalScrollBar(), &QScrollBar::valueChanged, heads->horizontalScrollBar(),
+          &QScrollBar::setValue);
   connect(lstGetData_, &QListWidget::currentRowChanged, this, [this](int row) { ShowRecord(row); });
   connect(lstGetData_, &QListWidget::itemClicked, this, [this] { ShowRecord(lstGetData_->currentRow()); });
   for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
@@ -99,7 +128,7 @@ void frmGetStationData::LayOutList(QVBoxLayout* rows) {
     enter->setContext(Qt::WidgetShortcut);
     connect(enter, &QShortcut::activated, this, [this] { ShowRecord(lstGetData_->currentRow()); });
   }
-  rows->addWidget(label3);
+  rows->addWidget(heads);
   rows->addWidget(lstGetData_);
 }
 
@@ -184,7 +213,9 @@ void frmGetStationData::FitList() {
   const int row =
       lstGetData_->count() > 0 ? lstGetData_->sizeHintForRow(0) : lstGetData_->fontMetrics().height();
   const double rows = double{ListHeight(rows_.size())} / RowTwips;
-  const double wanted = rows * row + 2 * lstGetData_->frameWidth();
+  const bool scrolls = lstGetData_->sizeHintForColumn(0) > lstGetData_->viewport()->width();
+  const int scrollBar = scrolls ? lstGetData_->horizontalScrollBar()->sizeHint().height() : 0;
+  const double wanted = rows * row + scrollBar + 2 * lstGetData_->frameWidth();
   lstGetData_->setFixedHeight(static_cast<int>(std::min(wanted, height() * kListOfWindow)));
 }
 

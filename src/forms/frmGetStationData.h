@@ -47,6 +47,7 @@ class frmGetStationData final : public QDialog {
   QLabel* label5_ = nullptr;
   MapSurface* plot_ = nullptr;
   std::vector<QPushButton*> commands_;
+  int lineWidth_ = 0;  // pixels of the list's heads
 };
 
 }  // namespace kestrel

@@ -137,7 +137,11 @@ void frmOpening::RenderBackdrop() {
 void frmOpening::paintEvent(QPaintEvent*) {
   RenderBackdrop();
   QPainter(this).drawImage(0, 0, backdrop_);
-  if (FirstPainted) QTimer::singleShot(0, this, std::exchange(FirstPainted, nullptr));
+  if (!FirstPainted) return;
+  QTimer::singleShot(0, this, [this, load = std::exchange(FirstPainted, nullptr)] {
+    // A screen left by Exit before that has nothing to load, and its message would outlive the last window.
+    if (isVisible() || sessionRead_) load();
+  });
 }
 
 void frmOpening::resizeEvent(QResizeEvent*) {

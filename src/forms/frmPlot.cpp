@@ -7,24 +7,18 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QSettings>
-#include <QShortcut>
 #include <QToolTip>
 #include <algorithm>
 #include <tuple>
 #include <utility>
 
-#include "core/ChannelChoice.h"
 #include "data/StationFile.h"
-#include "forms/CommandIcons.h"
-#include "forms/frmAbout.h"
 #include "forms/frmAspect.h"
-#include "forms/frmGetDistance.h"
 #include "forms/frmGetFrequency.h"
 #include "forms/frmGetHome.h"
 #include "forms/frmGetStationData.h"
 #include "forms/frmImport.h"
 #include "forms/frmOptions.h"
-#include "forms/frmShowHets.h"
 #include "forms/frmShowStations.h"
 #include "map/BandScan.h"
 #include "map/Compass.h"
@@ -87,72 +81,11 @@ QPushButton* frmPlot::Button(const char* name) const {
   return findChild<QPushButton*>(name);
 }
 
-void frmPlot::AddCommands(CommandColumn& column) {
-  SessionState& state = workspace_.State;
-  column.AddCommand("cmdFreq", "&Frequency", "Chooses the channel", {Qt::Key_F},
-                    [this] { ChooseFrequency(); });
-  column.AddCommand("cmdData", "Station da&ta", "Looks a station up: its data and its pattern", {Qt::Key_S},
-                    [this] { LookUp({}); });
-  column.AddCommand("cmdHome", "&Home", "Chooses the home around which the map is drawn", {Qt::Key_M},
-                    [this] { ChooseHome(); });
-  column.AddCommand("cmdAll", "&All", "Shows where the stations of all channels are", {Qt::Key_A},
-                    [this] { ChooseScan(); });
-  AddViewCommands(column);
-  column.AddCommand("cmdHets", "H&ets", "Lists the beat notes on the channel", {Qt::Key_B},
-                    [this] { RunForm(frmShowHets(workspace_, this)); });
-  column.AddCommand("cmdDistance", "&Distance", "Distance and bearing from home to a place", {Qt::Key_D},
-                    [this] { RunForm(frmGetDistance(workspace_, this)); });
-  column.AddCommand("cmdOptions", "&Options", "Colours, map language, aspect", {Qt::Key_O},
-                    [this] { ChooseOptions(); });
-  column.AddCommand("cmdPrint", "&Print", "Prints the map", {QKeySequence::Print}, [this] {
-    PrintMap(workspace_.System, workspace_.Folder, workspace_.State, surface_->Drawing(), this);
-  });
-  column.AddCommand("cmdImport", "I&mport", "Makes the station files from the FCC's files", {Qt::Key_I},
-                    [this] { ImportStations(); });
-  column.AddCommand("cmdAbout", "A&bout", "Version, licence, where the data come from", {Qt::Key_F1},
-                    [this] { RunForm(frmAbout(workspace_, this)); });
-  column.AddGap();
-  column.AddCommand("cmdExit", "E&xit", "Saves the session and ends the program", {Qt::CTRL | Qt::Key_Q},
-                    [this] { close(); });
-  column.AddCommand("cmdStop", "&Stop", "Ends the plot of all stations before its next channel",
-                    {Qt::Key_Escape}, [&state] { state.StopRequested = true; });
-  progress_ = new QProgressBar;
-  progress_->setObjectName("prgChannel");
-  progress_->setRange(static_cast<int>(LowestChannel), static_cast<int>(HighestChannel));
-  column.AddWidget(progress_);
-
-  const auto addStep = [this](Qt::Key key, std::optional<std::string> (*step)(SessionState&)) {
-    connect(new QShortcut(key, this), &QShortcut::activated, this, [this, step] { StepChannel(step); });
-  };
-  addStep(Qt::Key_PageUp, StepUp);
-  addStep(Qt::Key_PageDown, StepDown);
-}
-
-void frmPlot::AddViewCommands(CommandColumn& column) {
-  const QColor ink = palette().color(QPalette::ButtonText);
-  const auto view = [this](void (*change)(SessionState&)) { return [this, change] { ChangeView(change); }; };
-  column.AddGap();
-  column.AddCommand("cmdHours", "Hour&s", "Shows all patterns, those of the day, those of the night",
-                    {Qt::Key_H}, [this] { NextHoursFilter(); });
-  column.AddCommand("cmdCompass", "&Compass", "Lays bearings from home over the map", {Qt::Key_C},
-                    [this] { ToggleCompass(); });
-  column.AddCommand("cmdIn", "&In", "Zooms in", {Qt::Key_Plus, Qt::Key_Equal}, view(ZoomIn))
-      ->setIcon(ZoomIcon(true, ink));
-  column.AddCommand("cmdOut", "O&ut", "Zooms out", {Qt::Key_Minus}, view(ZoomOut))
-      ->setIcon(ZoomIcon(false, ink));
-  column
-      .AddCommand("cmdLarger", "&Larger", "Draws the patterns larger", {Qt::SHIFT | Qt::Key_Up},
-                  view(EnlargePatterns))
-      ->setIcon(PatternIcon(true, ink));
-  column
-      .AddCommand("cmdSmaller", "Smalle&r", "Draws the patterns smaller", {Qt::SHIFT | Qt::Key_Down},
-                  view(ShrinkPatterns))
-      ->setIcon(PatternIcon(false, ink));
-  column.AddGap();
-}
-
 void frmPlot::Redraw(MapGround ground) {
-  if (ground == MapGround::Empty) surface_->Drawing().Clear();
+  if (ground == MapGround::Empty) {
+    surface_->Drawing().Clear();
+    scanned_ = false;
+  }
   DrawMainMap(surface_->Drawing(), workspace_.Folder, workspace_.State, ground);
   ground == MapGround::Empty ? surface_->ShowDrawing() : surface_->ShowAdditions();
   UpdateZoomCommands();
@@ -254,6 +187,14 @@ void frmPlot::ChangeView(void (*change)(SessionState&)) {
   Redraw();
 }
 
+void frmPlot::Print() {
+  const Point corner = surface_->ToSheet({0, 0});
+  const Point opposite = surface_->ToSheet(QPointF(surface_->width(), surface_->height()));
+  const SheetArea shown = {corner.x, corner.y, opposite.x - corner.x, opposite.y - corner.y};
+  PrintMap(workspace_.System, workspace_.Folder, workspace_.State, {surface_->Drawing(), shown, scanned_},
+           this);
+}
+
 void frmPlot::ChooseScan() {
   RunForm(frmShowStations(workspace_, this));
   if (workspace_.State.PlotAllStations != 1) return;
@@ -278,6 +219,7 @@ void frmPlot::ScanOnce() {
   SessionState& state = workspace_.State;
   state.StopRequested = false;
   surface_->Drawing().Clear();
+  scanned_ = true;
   const MapProjection projection(state.HomeLatitude, state.HomeLongitude, state.ScaleFactor);
   DrawOutlineFiles(surface_->Drawing(), workspace_.Folder, projection);
   surface_->ShowDrawing();

@@ -49,6 +49,7 @@ class frmPlot final : public QWidget {
   void NextHoursFilter();
   void ToggleCompass();
   void ChangeView(void (*change)(SessionState&));
+  void Print();
 
   void ChooseScan();
   void Scan();
@@ -69,6 +70,7 @@ class frmPlot final : public QWidget {
   QLabel* savedNotice_;
   QPointer<frmAspect> aspect_;  // while it is open
   bool scanning_ = false;
+  bool scanned_ = false;     // the map began with the stations of a scan
   bool scanAgain_ = false;   // asked for while a scan ran
   bool closeAsked_ = false;  // likewise
   bool saved_ = false;

@@ -6,7 +6,9 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
+#include <cmath>
 
+#include "draw/Fonts.h"
 #include "map/TowerSheet.h"
 #include "ui/Controls.h"
 #include "ui/MapSurface.h"
@@ -15,6 +17,15 @@ namespace kestrel {
 namespace {
 
 constexpr float kTwipsPerPixel = 15;
+constexpr double kSmallestXHeight = 7;  // pixels
+
+/// The size from which on the table's text need not grow to be read.
+QSize LegibleSize(const ScreenTwips& screen) {
+  const Font font = TowerSheetFont(screen);
+  const double scale = kSmallestXHeight / (font.Points * TwipsPerPoint * XHeightShare(font.Face));
+  const SheetArea area = TowerSheetArea(screen);
+  return {static_cast<int>(std::ceil(area.Width * scale)), static_cast<int>(std::ceil(area.Height * scale))};
+}
 
 }  // namespace
 
@@ -32,13 +43,14 @@ frmShowTowers::frmShowTowers(const Workspace& workspace, QWidget* parent, const 
     rows = TowerTable(record);
   text_ = QString::fromStdString(TowerTableText(rows));
 
-  auto* table = new MapSurface(this, TowerSheetArea(twips));
+  auto* table = new MapSurface(this, TowerSheetArea(twips), kSmallestXHeight);
   table->setObjectName("Table");
   table->setAccessibleName("Towers");
   table->setAccessibleDescription(text_);
   table->setToolTip("Ctrl+C copies the table");
   DrawTowerSheet(table->Drawing(), twips, rows);
   table->ShowDrawing();
+  table->setMinimumSize(LegibleSize(twips).boundedTo(screen()->availableSize() * 0.9));
 
   QPushButton* close = MakeButton("cmdExit", "&Close", "Back to the station's data (Escape)");
   close->setDefault(true);

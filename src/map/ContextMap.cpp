@@ -1,6 +1,7 @@
 #include "map/ContextMap.h"
 
 #include <cmath>
+#include <string>
 #include <vector>
 
 #include "data/OutlineFile.h"
@@ -26,6 +27,7 @@ constexpr ColorValue kWhite = 0xFFFFFF;
 constexpr ColorValue kBlack = 0;
 constexpr ColorValue kRed = 255;
 constexpr ColorValue kBlue = 16711680;
+constexpr ColorValue kTextColor = 0x202020;
 
 bool IsVisible(Point point) {
   // Written so that a vertex without a position (NaN) is none.
@@ -77,6 +79,21 @@ void DrawMasks(Canvas& canvas) {
   canvas.FilledBox({-kFar, kFrameOpposite.y}, {kFar, kFar});
 }
 
+/// Names the outline files that could not be read in the frame's upper left corner.
+void DrawNotices(Canvas& canvas, const std::vector<std::string>& unreadable) {
+  constexpr float kMargin = 100;
+  constexpr Font kFont = {FontFace::Sans, 10};
+  Point at = {kFrameCorner.x + kMargin, kFrameCorner.y + kMargin};
+  canvas.BeginPanel(at, kFont);
+  canvas.SetFont(kFont);
+  canvas.SetColor(kTextColor);
+  for (const std::string& name : unreadable) {
+    canvas.Text(at, name + " cannot be read");
+    at.y += canvas.TextHeight();
+  }
+  canvas.EndPanel();
+}
+
 }  // namespace
 
 void DrawContextMap(Canvas& canvas, const DataFolder& folder, float latitude, float longitude, float zoom) {
@@ -84,15 +101,20 @@ void DrawContextMap(Canvas& canvas, const DataFolder& folder, float latitude, fl
   canvas.SetColor(kWhite);
   canvas.FilledBox(kFrameCorner, kFrameOpposite);
   canvas.SetLineWidth(1);
+  std::vector<std::string> unreadable;
   for (const char* name : {"REGION2.dat", "STATES.dat"}) {
     const Result<QByteArray> bytes = folder.Read(name);
-    if (!bytes) continue;
+    if (!bytes) {
+      unreadable.push_back(name);
+      continue;
+    }
     canvas.SetColor(kBlack);
     DrawOutlineAround(canvas, ReadOutline({bytes->constData(), static_cast<std::size_t>(bytes->size())}),
                       projection);
   }
   DrawStationMark(canvas);
   DrawMasks(canvas);
+  if (!unreadable.empty()) DrawNotices(canvas, unreadable);
   canvas.SetColor(kBlue);
   canvas.Box(kFrameCorner, kFrameOpposite);
 }

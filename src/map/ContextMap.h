@@ -16,7 +16,7 @@ inline constexpr SheetArea ContextMapArea = {0.035F * ContextMapWidth, 0.035F * 
 
 /// Draws coasts and borders around the station in a frame, with the station's mark, 1.6 twips to the
 /// kilometre at zoom 1. Latitude north, longitude WEST positive. What was drawn before is covered. An outline
-/// file that cannot be read draws nothing.
+/// file that cannot be read is named on the map.
 void DrawContextMap(Canvas& canvas, const DataFolder& folder, float latitude, float longitude, float zoom);
 
 /// The context map's zoom: powers of two from 0.25 to 8. The way that leads past a limit is closed only when

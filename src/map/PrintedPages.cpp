@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <set>
 
 #include "core/Numbers.h"
 #include "data/TowerTable.h"
@@ -35,18 +36,45 @@ std::string HomePlace(const SessionState& state) {
          degrees(state.HomeLongitude, " W", " E");
 }
 
-/// The sheet, or more of the map where the place is larger, so that text keeps its 8 to 10 points.
-SheetArea MapIn(const SheetArea& place) {
-  const float width = std::max(SheetWidth, place.Width);
-  const float height = std::max(SheetHeight, place.Height);
-  return {(SheetWidth - width) / 2, (SheetHeight - height) / 2, width, height};
+/// "530, 540 kHz"; many channels as "118 channels, 530 to 1700 kHz".
+std::string ChannelsText(const std::set<int>& channels) {
+  constexpr std::size_t kMostNamed = 6;
+  if (channels.empty()) return "No stations";
+  if (channels.size() > kMostNamed)
+    return std::to_string(channels.size()) + " channels, " + std::to_string(*channels.begin()) + " to " +
+           std::to_string(*channels.rbegin()) + " kHz";
+  std::string text;
+  for (const int channel : channels) text += (text.empty() ? "" : ", ") + std::to_string(channel);
+  return text + " kHz";
 }
 
-/// A title over a framed part of the map.
+/// The channels that the map holds: the chosen one before those drawn beside it.
+std::string ChannelsOn(const ShownMap& map, const SessionState& state) {
+  std::set<int> channels;
+  for (const StationMark& mark : map.Drawing.Stations()) channels.insert(mark.Channel);
+  if (map.Scanned) return ChannelsText(channels);
+  const float chosen = state.SelectedFrequency > 0 ? state.SelectedFrequency : state.CurrentFrequency;
+  std::erase_if(channels, [chosen](int channel) { return static_cast<float>(channel) == chosen; });
+  const std::string text = NumberText(chosen) + " kHz";
+  return channels.empty() ? text : text + " with " + ChannelsText(channels);
+}
+
+/// The area shown, or more of the map around it where the place is larger, so that text keeps its 8 to 10
+/// points.
+SheetArea MapIn(const SheetArea& place, const SheetArea& shown) {
+  const float width = std::max(shown.Width, place.Width);
+  const float height = std::max(shown.Height, place.Height);
+  return {shown.Left - (width - shown.Width) / 2, shown.Top - (height - shown.Height) / 2, width, height};
+}
+
+/// A title over the framed map.
 std::vector<PagePane> TitledMap(PageSize page, const std::string& title, const std::string& source,
-                                std::function<void(Canvas&)> draw) {
+                                const SheetArea& shown, std::function<void(Canvas&)> draw) {
   constexpr float kTitleHeight = 2 * kLine + 60;
+  constexpr float kHair = 8;  // keeps the frame's line off the paper's edge, and the map inside the frame
   const SheetArea frame = {0, kTitleHeight, page.Width, page.Height - kTitleHeight};
+  const SheetArea inside = {frame.Left + 2 * kHair, frame.Top + 2 * kHair, frame.Width - 4 * kHair,
+                            frame.Height - 4 * kHair};
   std::vector<PagePane> panes;
   panes.push_back(TextPane({0, 0, page.Width, kTitleHeight}, [title, source](Canvas& canvas) {
     canvas.SetColor(kTextColor);
@@ -55,9 +83,8 @@ std::vector<PagePane> TitledMap(PageSize page, const std::string& title, const s
     canvas.SetFont(kSmallFont);
     canvas.Text({0, kLine}, source);
   }));
-  panes.push_back({frame, MapIn(frame), std::move(draw)});
+  panes.push_back({inside, MapIn(inside, shown), std::move(draw)});
   panes.push_back(TextPane(frame, [frame](Canvas& canvas) {
-    constexpr float kHair = 8;  // keeps the frame's line off the paper's edge
     canvas.SetColor(kTextColor);
     canvas.Box({kHair, kHair}, {frame.Width - kHair, frame.Height - kHair});
   }));
@@ -103,7 +130,7 @@ PagePane WordsPane(const SheetArea& place, const SessionState& state, const Stat
       top += kLine;
     }
     canvas.SetFont(kSmallFont);
-    canvas.Text({0, top}, source);
+    canvas.Text({0, top + kLine / 4}, source);
   });
 }
 
@@ -111,7 +138,7 @@ PagePane TablePane(const SheetArea& place, std::vector<TowerRow> rows) {
   return TextPane(place, [rows = std::move(rows)](Canvas& canvas) {
     static constexpr std::array<const char*, TowerColumns> kUnits = {"ratio",   "degrees",  "degrees",
                                                                      "degrees", "deg true", ""};
-    constexpr float kNumberWidth = 600;
+    constexpr float kNumberWidth = 660;
     constexpr float kColumn = 1120;
     canvas.SetColor(kTextColor);
     canvas.SetFont(kTableFont);
@@ -123,6 +150,7 @@ PagePane TablePane(const SheetArea& place, std::vector<TowerRow> rows) {
     canvas.SetFont(kSmallFont);
     for (std::size_t i = 0; i < TowerColumns; ++i) canvas.Text({left(i), kLine}, kUnits[i]);
     canvas.SetFont(kTextFont);
+    if (rows.empty()) canvas.Text({0, 2 * kLine}, "No towers are known");
     for (std::size_t row = 0; row < rows.size(); ++row) {
       const float top = kLine * static_cast<float>(row + 2);
       canvas.Text({0, top}, ' ' + std::to_string(row + 1));
@@ -133,12 +161,12 @@ PagePane TablePane(const SheetArea& place, std::vector<TowerRow> rows) {
 
 }  // namespace
 
-PrintedPage MapPage(const SessionState& state, const DataFolder& folder, const DisplayList& drawing) {
-  const float frequency = state.SelectedFrequency > 0 ? state.SelectedFrequency : state.CurrentFrequency;
-  const std::string title = NumberText(frequency) + " kHz    Home: " + HomePlace(state);
+PrintedPage MapPage(const SessionState& state, const DataFolder& folder, const ShownMap& map) {
+  const std::string title = ChannelsOn(map, state) + "    Home: " + HomePlace(state);
   const std::string source = folder.StationsLine();
-  const auto layout = [title, source, &drawing](PageSize page) {
-    return TitledMap(page, title, source, [&drawing](Canvas& canvas) { drawing.Play(canvas); });
+  const auto layout = [title, source, map](PageSize page) {
+    return TitledMap(page, title, source, map.Area,
+                     [&drawing = map.Drawing](Canvas& canvas) { drawing.Play(canvas); });
   };
   return {"KestrelII map", true, kSmallestMap, layout, GreysOf(state)};
 }
@@ -146,7 +174,7 @@ PrintedPage MapPage(const SessionState& state, const DataFolder& folder, const D
 PrintedPage OutlinePage(const SessionState& state, const DataFolder& folder) {
   const MapProjection projection(state.HomeLatitude, state.HomeLongitude, state.ScaleFactor);
   const auto layout = [projection, &folder, title = "Region 2    Home: " + HomePlace(state)](PageSize page) {
-    return TitledMap(page, title, {},
+    return TitledMap(page, title, {}, {},
                      [projection, &folder](Canvas& canvas) { DrawOutlineFiles(canvas, folder, projection); });
   };
   return {"KestrelII outline map", true, kSmallestMap, layout, GreysOf(state)};

@@ -38,9 +38,16 @@ struct PrintedPage {
   RecoloredCanvas::Mapping Greys;  ///< its colours on a black-and-white printer
 };
 
-/// The main map as it was drawn, under its channel, home and the line that says where the stations come from.
-/// The drawing must outlive the page.
-PrintedPage MapPage(const SessionState& state, const DataFolder& folder, const DisplayList& drawing);
+/// The main map as its window has it.
+struct ShownMap {
+  const DisplayList& Drawing;
+  SheetArea Area;        ///< of the sheet and beyond, as far as the window shows it
+  bool Scanned = false;  ///< it began with the stations of a whole-band scan, not with the chosen channel
+};
+
+/// The main map as it was drawn and at least as far as it is shown, under its channels, home and the line
+/// that says where the stations come from. The drawing must outlive the page.
+PrintedPage MapPage(const SessionState& state, const DataFolder& folder, const ShownMap& map);
 
 /// Coasts and borders around home at the session's scale, without stations.
 PrintedPage OutlinePage(const SessionState& state, const DataFolder& folder);

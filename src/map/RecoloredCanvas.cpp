@@ -53,21 +53,21 @@ RecoloredCanvas::Mapping GreysOf(const SessionState& state) {
   constexpr ColorValue kRegionColor = 0xCC8888;
   constexpr ColorValue kStatesColor = 0xDD9999;
   return FromTable({{state.NightColor, {Grey(0), 1}},
-                    {state.UnlimitedColor, {Grey(0x38), 2.2F}},
-                    {state.DayColor, {Grey(0x70), 1}},
-                    {state.CriticalColor, {Grey(0x88), 2.2F}},
-                    {state.AdjacentColor, {Grey(0xA0), 1}},
-                    {kRegionColor, {Grey(0xB8), 0.8F}},
+                    {state.UnlimitedColor, {Grey(0x2C), 2.2F}},
+                    {state.DayColor, {Grey(0x54), 1}},
+                    {state.CriticalColor, {Grey(0x7C), 2.2F}},
+                    {state.AdjacentColor, {Grey(0xA4), 1.8F}},
+                    {kRegionColor, {Grey(0xB0), 1.2F}},
                     {kStatesColor, {Grey(0xC8), 0.8F}}});
 }
 
 RecoloredCanvas::Mapping StationPlotGreys() {
   return FromTable({{0x0000AA, {Grey(0x28), 1.5F}},
                     {0x000099, {Grey(0x28), 1.5F}},
-                    {0x119911, {Grey(0x58), 1.5F}},
-                    {0xCCCC11, {Grey(0x88), 1.5F}},
-                    {0xFF4444, {Grey(0x70), 0.8F}},
-                    {0xDDDDDD, {Grey(0xE0), 1}}});
+                    {0x119911, {Grey(0x50), 1.5F}},
+                    {0xCCCC11, {Grey(0x78), 1.5F}},
+                    {0xFF4444, {Grey(0x98), 0.8F}},
+                    {0xDDDDDD, {Grey(0xC8), 0.8F}}});
 }
 
 }  // namespace kestrel

@@ -49,7 +49,7 @@ class RecoloredCanvas final : public Canvas {
 
 /// Greys for a black-and-white printer. The session's pattern colours become greys of their own, the hours
 /// told apart by width too: night thin and black, unlimited thick and dark, day thin and grey, critical thick
-/// and light, adjacent thin and light. White stays white; any other colour becomes a grey of its brightness,
+/// and grey, adjacent thick and light. White stays white; any other colour becomes a grey of its brightness,
 /// dark enough to be seen.
 RecoloredCanvas::Mapping GreysOf(const SessionState& state);
 

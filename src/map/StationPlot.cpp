@@ -7,23 +7,18 @@
 namespace kestrel {
 
 void DrawStationPlot(Canvas& canvas, float aspectRatio, std::vector<StationRecord> records) {
-  const StationRecord* placed = nullptr;  // the record drawn last, if its towers are known
-  bool drawn = false;
+  const StationRecord* placed = nullptr;  // the last record, if the places of its towers are known
   for (StationRecord& record : records) {
-    if (HasBrokenTowers(record)) continue;
-    drawn = true;
+    const bool broken = HasBrokenTowers(record);
     PatternValues values{};
     const bool computed = ComputePattern(record, values);
-    if (computed && DrawPolarPlot(canvas, aspectRatio, record.HoursCode, values)) {
-      placed = &record;
-    } else {
-      if (!computed) DrawUnknownPattern(canvas, aspectRatio);
-      placed = nullptr;
-    }
+    if (!computed && !broken) DrawUnknownPattern(canvas, aspectRatio);
+    const bool known = computed && (broken || DrawPolarPlot(canvas, aspectRatio, record.HoursCode, values));
+    placed = known ? &record : nullptr;
   }
   if (placed != nullptr)
     DrawTowerLayout(canvas, aspectRatio, *placed);
-  else if (drawn)
+  else
     DrawSpacingRings(canvas, aspectRatio);
   DrawPlotLegend(canvas);
 }

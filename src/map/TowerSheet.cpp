@@ -16,8 +16,12 @@ SheetArea TowerSheetArea(const ScreenTwips& screen) {
   return {0, 0, screen.Width * 0.5F, screen.Height * 0.38F};
 }
 
+Font TowerSheetFont(const ScreenTwips& screen) {
+  return {FontFace::Sans, screen.Height * kFontShare};
+}
+
 void DrawTowerSheet(Canvas& canvas, const ScreenTwips& screen, std::span<const TowerRow> rows) {
-  canvas.SetFont({FontFace::Sans, screen.Height * kFontShare});
+  canvas.SetFont(TowerSheetFont(screen));
   canvas.SetColor(kTextColor);
   for (std::size_t column = 0; column < TowerColumns; ++column) {
     const float left = screen.Width * kLefts[column];

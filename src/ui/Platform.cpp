@@ -7,6 +7,7 @@
 #include <QGridLayout>
 #include <QMessageBox>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QThread>
 #include <QUrl>
 #include <chrono>
@@ -64,7 +65,11 @@ QString DesktopPlatform::ChooseFileToWrite(QWidget* parent, const QString& title
 }
 
 void DesktopPlatform::OpenAddress(const QString& address) {
-  QDesktopServices::openUrl(QUrl(address, QUrl::TolerantMode));
+  // One percent sign that begins no code makes QUrl encode them all, those of true codes too.
+  static const QRegularExpression kLonePercent("%(?![0-9A-Fa-f]{2})");
+  QString tidy = address;
+  tidy.replace(kLonePercent, "%25");
+  QDesktopServices::openUrl(QUrl(tidy, QUrl::TolerantMode));
 }
 
 bool DesktopPlatform::StartSystemInformation() {

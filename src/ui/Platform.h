@@ -32,7 +32,8 @@ class Platform {
   /// that has none.
   virtual QString ChooseFileToWrite(QWidget* parent, const QString& title, const QString& offered);
 
-  /// Lets the platform open a web address; failures are silent.
+  /// Lets the platform open a web address; what an address cannot hold is encoded, the rest goes as it
+  /// stands. Failures are silent.
   virtual void OpenAddress(const QString& address) = 0;
 
   /// Starts the system's own information tool; false when there is none.

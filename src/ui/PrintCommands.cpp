@@ -26,9 +26,9 @@ void PrintOutlines(Platform& system, const DataFolder& folder, PrintDevice& devi
 
 }  // namespace
 
-void PrintMap(Platform& system, const DataFolder& folder, const SessionState& state,
-              const DisplayList& drawing, QWidget* parent) {
-  const PrintOffer offer{MapPage(state, folder, drawing), OutlinePage(state, folder)};
+void PrintMap(Platform& system, const DataFolder& folder, const SessionState& state, const ShownMap& map,
+              QWidget* parent) {
+  const PrintOffer offer{MapPage(state, folder, map), OutlinePage(state, folder)};
   const std::optional<PrintOrder> order = system.OfferPrinting(parent, offer);
   if (!order) return;
   if (order->OutlineMap) return PrintOutlines(system, folder, *order->Device, *offer.Outlines, parent);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "map/DisplayList.h"
 #include "ui/Platform.h"
 
 class QWidget;
@@ -9,11 +8,11 @@ class QWidget;
 
 namespace kestrel {
 
-/// Prints the main map as it was drawn, or the outlines alone where the user chooses them. Messages: an
+/// Prints the main map as it is shown, or the outlines alone where the user chooses them. Messages: an
 /// outline file that cannot be read, a printer that cannot be opened or fails, and, after the map,
 /// "All patterns printed". Cancelled, it prints nothing and says nothing.
-void PrintMap(Platform& system, const DataFolder& folder, const SessionState& state,
-              const DisplayList& drawing, QWidget* parent);
+void PrintMap(Platform& system, const DataFolder& folder, const SessionState& state, const ShownMap& map,
+              QWidget* parent);
 
 /// Prints the data, patterns and towers of the selected station.
 void PrintStation(Platform& system, const DataFolder& folder, const SessionState& state,

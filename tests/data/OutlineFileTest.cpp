@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 #include <string>
+
+#include "core/Numbers.h"
 
 namespace kestrel {
 namespace {
@@ -17,8 +20,7 @@ std::string Strokes(std::string_view bytes, CommentLines comments = CommentLines
   for (std::size_t i = 0; i <= outline.Latitude.size(); ++i) {
     for (; penUp != outline.PenUpBefore.end() && *penUp == i; ++penUp) text += "/ ";
     if (i == outline.Latitude.size()) break;
-    text += testing::PrintToString(outline.Latitude[i]) + ',' + testing::PrintToString(outline.Longitude[i]) +
-            ' ';
+    text += NumberText(outline.Latitude[i]) + ',' + NumberText(outline.Longitude[i]) + ' ';
   }
   EXPECT_EQ(penUp, outline.PenUpBefore.end()) << "pen-up marks ascend";
   return text;
@@ -38,7 +40,7 @@ TEST(OutlineFileTest, CutsStrokesFromLines) {
               {"1 2\n2000\n-200\n", "1,2 2000,0 -200,0 "},
               {"-100 100\n-100.5 -100\n-100 -100 x\n-1e2 -100.0\n", "-100,100 -100.5,-100 / / "},
               {"45\n", "45,0 "},
-              {"a b\n1x 2y\n.5. 1e2\n", "0,0 1,2 0.5,100 "},
+              {"a b\n1x 2y\n.5. 1e2\n", "0,0 1,2 .5,100 "},
               {"45.2\t-93.1\n", "45.2,0 "},
               {"1 -190\n1 361.5\n", "1,-190 1,361.5 "},
               {"> 5 6\n1 2\n", "0,5 1,2 "}};
@@ -76,9 +78,10 @@ TEST(OutlineFileTest, ReadingEndsAtMaxVertices) {
 
 TEST(OutlineFileTest, NumbersStayWithinTheirRange) {
   const std::string nines(400, '9');
-  const std::string most = testing::PrintToString(std::numeric_limits<float>::max());
+  const std::string most = NumberText(std::numeric_limits<float>::max());
   EXPECT_EQ(Strokes("1e400 -1e400\n" + nines + " -" + nines + "\nnan inf\n1e-400 -0\n"),
-            most + ",-" + most + ' ' + most + ",-" + most + " 0,0 0,-0 ");
+            most + ",-" + most + ' ' + most + ",-" + most + " 0,0 0,0 ");
+  EXPECT_TRUE(std::signbit(ReadOutline("1 -0\n").Longitude.at(0)));
 }
 
 }  // namespace

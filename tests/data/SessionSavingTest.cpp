@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <cerrno>
 #include <functional>
 
 #include "core/SessionFile.h"
@@ -121,7 +122,7 @@ TEST_F(SessionSavingTest, WithoutRoomOnTheDiskTheOldFileStays) {
     const Result<Done> saved = SaveSession(folder_, state);
     setrlimit(RLIMIT_FSIZE, &whole);
     ASSERT_FALSE(saved) << room;
-    EXPECT_EQ(saved.error().Message(), "Kestrel.CFG: File too large");
+    EXPECT_EQ(saved.error().Message(), "Kestrel.CFG: " + qt_error_string(EFBIG).toStdString());
     EXPECT_EQ(Saved(), 700) << room;
     EXPECT_EQ(Names(), QStringList("Kestrel.CFG")) << room;
   }

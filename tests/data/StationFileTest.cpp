@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "core/Numbers.h"
+
 namespace kestrel {
 namespace {
 
@@ -44,7 +46,7 @@ using Texts = std::vector<std::string>;
 /// Every value of a record, texts in brackets.
 std::string Values(const StationRecord& record) {
   std::string text;
-  const auto add = [&text](float number) { text += testing::PrintToString(number) + ' '; };
+  const auto add = [&text](float number) { text += NumberText(number) + ' '; };
   for (const auto& part : {record.CallSign, record.City, record.State, record.Country, record.HoursCode})
     text += '[' + part + "] ";
   for (const float number : {record.Latitude, record.Longitude, record.PowerKW}) add(number);
@@ -60,8 +62,8 @@ std::string Values(const StationRecord& record) {
 TEST(StationFileTest, ReadsRecordsWithTheirTowers) {
   StationFileReader reader("1230x.dat", kGood);
   EXPECT_EQ(Values(*reader.Next()),
-            "[WXYZ] [Town] [ST] [United States] [U] 40.5 75.25 1 / [0] 1 90 0 0 0 / [0] 0.8 90 -90.5 90 45 ");
-  EXPECT_EQ(Values(*reader.Next()), "[WABC] [Big City] [NY] [United States] [D] -12.5 -10 0.25 ");
+            "[WXYZ] [Town] [ST] [United States] [U] 40.5 75.25 1 / [0] 1 90 0 0 0 / [0] .8 90 -90.5 90 45 ");
+  EXPECT_EQ(Values(*reader.Next()), "[WABC] [Big City] [NY] [United States] [D] -12.5 -10 .25 ");
   EXPECT_EQ(Values(*reader.Next()), "[CDEF] [Halifax] [NS] [Canada] [N] 44.6 63.5 50 / [ 1] 1 100 0 0 0 ");
   EXPECT_EQ(reader.Next(), nullptr);
   EXPECT_EQ(reader.Notes(), Texts{});

@@ -8,7 +8,7 @@
 #include "core/Numbers.h"
 #include "core/Text.h"
 #include "data/TowerTable.h"
-#include "map/TestFolder.h"
+#include "TestFolder.h"
 
 namespace kestrel {
 namespace {
@@ -168,7 +168,10 @@ TEST(StationLookupTest, RecordsAreLoadedByCallHoursAndTowers) {
       TowerTableText(TowerTable(night[0])),
       "Fields\tHeights\tPhases\tSpacings\tBearings\tSwitch\n1\t90\t0\t0\t0\t0\n.8\t90\t-90\t90\t45\t1\n");
   EXPECT_EQ(TowerTable(night[0])[1], (TowerRow{" .8 ", " 90 ", "-90 ", " 90 ", " 45 ", " 1"}));
-  EXPECT_EQ(TowerTable(load("WBRK", 0).at(0)).size(), 2U) << "ends at the tower without a field ratio";
+  const auto broken = TowerTable(load("WBRK", 0).at(0));
+  ASSERT_EQ(broken.size(), 3U) << "a tower without a field ratio does not hide the next one";
+  EXPECT_EQ(broken[1][0], " 0 ");
+  EXPECT_EQ(broken[2][3], " 180 ");
 }
 
 TEST(StationLookupTest, TheListGrowsToALimitAndShrinksForManyRows) {

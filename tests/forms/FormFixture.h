@@ -15,7 +15,7 @@
 #include "core/Text.h"
 #include "forms/StandInPlatform.h"
 #include "forms/Workspace.h"
-#include "map/TestFolder.h"
+#include "TestFolder.h"
 
 namespace kestrel {
 

@@ -6,7 +6,7 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "forms/Folder.h"
+#include "forms/SampleFolder.h"
 #include "forms/StandInPlatform.h"
 
 namespace kestrel {
@@ -22,8 +22,8 @@ struct Outcome {
 
 /// Opens the window on a channel, types an entry when there is one, and presses a button.
 Outcome Use(float channel, const char* entry, const char* button, std::int16_t adjacents = 0) {
-  Folder folder;
-  const DataFolder data = folder.Data();
+  SampleFolder folder;
+  const DataFolder data = folder.Folder();
   StandInPlatform platform;
   SessionState state;
   state.CurrentFrequency = channel;
@@ -76,8 +76,8 @@ TEST(frmGetFrequencyTest, TakesAnEntryOrSaysWhatItDidInstead) {
 }
 
 TEST(frmGetFrequencyTest, OffersTheChannelAndEscapeChangesNothing) {
-  Folder folder;
-  const DataFolder data = folder.Data();
+  SampleFolder folder;
+  const DataFolder data = folder.Folder();
   StandInPlatform platform;
   SessionState state;
   state.AdjacentsShown = 1;

@@ -1,3 +1,4 @@
+#include "core/Numbers.h"
 #include "forms/FormFixture.h"
 #include "forms/frmGetHome.h"
 #include "ui/MapSurface.h"
@@ -17,8 +18,8 @@ class HomeTest : public FormTest {
   }
 
   std::string Home() const {
-    return std::string(Trim(State.HomeName)) + " " + std::to_string(State.HomeLatitude) + " " +
-           std::to_string(State.HomeLongitude);
+    return std::string(Trim(State.HomeName)) + " " + NumberText(State.HomeLatitude) + " " +
+           NumberText(State.HomeLongitude);
   }
 
   /// Opens the states map from the form and works on it there.
@@ -46,24 +47,24 @@ TEST_F(HomeTest, ARowTakenCountsAtOnceAndSurvivesLeaving) {
     ClickRow(form, "lstCities", 0);
     EXPECT_EQ(State.HomeName, PadTo("Abilene  TX", 26));
     EXPECT_EQ(Shown(form, "txtLatitude"), "32.4487");
-    EXPECT_EQ(Home(), "Abilene  TX 32.448700 99.733101");
+    EXPECT_EQ(Home(), "Abilene  TX 32.4487 99.7331");
 
     ClickRow(form, "lstCities", 1);  // beyond the limit in the north, the sign of the longitude dropped
     EXPECT_EQ(Shown(form, "txtLongitude"), "62.3");
-    EXPECT_EQ(Home(), "Alert  NU 88.000000 62.299999");
+    EXPECT_EQ(Home(), "Alert  NU 88 62.3");
     ClickRow(form, "lstCities", 2);
-    EXPECT_EQ(Home(), "Ponta Delgada  Azores 37.741199 30.000000");
+    EXPECT_EQ(Home(), "Ponta Delgada  Azores 37.7412 30");
 
     ClickRow(form, "lstCalls", 2);
     EXPECT_EQ(State.HomeName, PadTo("Abilene  KS", 25));
     EXPECT_EQ(Shown(form, "txtLatitude"), "-95.5");
-    EXPECT_EQ(Home(), "Abilene  KS -88.000000 170.000000");
+    EXPECT_EQ(Home(), "Abilene  KS -88 170");
 
     ClickRow(form, "lstCalls", 0);
     Type(form, "txtLatitude", "12");
     Press(form, "cmdQuickExit");
   });
-  EXPECT_EQ(Home(), "Plano  TX 33.019798 96.698898");
+  EXPECT_EQ(Home(), "Plano  TX 33.0198 96.6989");
 }
 
 TEST_F(HomeTest, TypedCoordinatesAreReadLimitedAndNameless) {
@@ -122,7 +123,7 @@ TEST_F(HomeTest, WhatNobodyChangedStaysExact) {
     Type(corrected, "txtLatitude", "32.5");
     Press(corrected, "cmdExit");
   });
-  EXPECT_EQ(Home(), "Abilene  TX 32.500000 99.733101");
+  EXPECT_EQ(Home(), "Abilene  TX 32.5 99.7331");
 }
 
 TEST_F(HomeTest, SearchingMovesTheListAndEnterTakes) {
@@ -148,7 +149,7 @@ TEST_F(HomeTest, SearchingMovesTheListAndEnterTakes) {
     EXPECT_EQ(Home(), before);
 
     QTest::keyClick(Find<QLineEdit>(form, "txtFindCall"), Qt::Key_Return);
-    EXPECT_EQ(Home(), "Plano  TX 33.019798 96.698898");
+    EXPECT_EQ(Home(), "Plano  TX 33.0198 96.6989");
     EXPECT_TRUE(form.isVisible());
 
     auto* list = Find<QAbstractItemView>(form, "lstCities");
@@ -156,7 +157,7 @@ TEST_F(HomeTest, SearchingMovesTheListAndEnterTakes) {
     QTest::keyClick(list, 'p');  // letters are looked for wherever they are typed
     QTest::keyClicks(QApplication::focusWidget(), "on");
     QTest::keyClick(Find<QLineEdit>(form, "txtFindCity"), Qt::Key_Enter);
-    EXPECT_EQ(Home(), "Ponta Delgada  Azores 37.741199 30.000000");
+    EXPECT_EQ(Home(), "Ponta Delgada  Azores 37.7412 30");
     Press(form, "cmdExit");
   });
 }

@@ -14,7 +14,7 @@
 #include <QTest>
 #include <QUrl>
 
-#include "forms/Folder.h"
+#include "forms/SampleFolder.h"
 #include "forms/StandInPlatform.h"
 
 namespace kestrel {
@@ -28,7 +28,7 @@ std::string Row(const std::string& call, const std::string& power, const std::st
 
 class frmImportTest : public ::testing::Test {
  protected:
-  void SetUp() override { folder_.Write("amq.txt", Row("KAAA", "5.0", "11") + Row("KBBB", "1.0", "12")); }
+  void SetUp() override { folder_.Put("amq.txt", Row("KAAA", "5.0", "11") + Row("KBBB", "1.0", "12")); }
 
   void Press(frmImport& form, const char* name) {
     QTest::mouseClick(form.findChild<QPushButton*>(name), Qt::LeftButton);
@@ -36,8 +36,8 @@ class frmImportTest : public ::testing::Test {
   bool Enabled(frmImport& form, const char* name) { return form.findChild<QPushButton*>(name)->isEnabled(); }
   QString Report(frmImport& form) { return form.findChild<QPlainTextEdit*>("txtReport")->toPlainText(); }
 
-  Folder folder_;
-  const DataFolder data_ = folder_.Data();
+  SampleFolder folder_;
+  const DataFolder data_ = folder_.Folder();
   SessionState state_;
   StandInPlatform platform_;
   const Workspace workspace_{state_, data_, platform_};
@@ -95,7 +95,7 @@ TEST_F(frmImportTest, DryRunCancelAndRefusedFilesWriteNothing) {
   platform_.OnEvents = {};
   form.findChild<QListWidget*>("lstFiles")->selectAll();
   Press(form, "cmdRemove");
-  folder_.Write("letter.txt", "Dear listener,\n");
+  folder_.Put("letter.txt", "Dear listener,\n");
   form.AddFiles({folder_.Path("letter.txt"), folder_.Path("not there.txt")});
   Press(form, "cmdImport");
   EXPECT_TRUE(Report(form).contains("letter.txt")) << Report(form).toStdString();
@@ -108,7 +108,7 @@ TEST_F(frmImportTest, DryRunCancelAndRefusedFilesWriteNothing) {
 TEST_F(frmImportTest, OnlyTheStationsOfTheCountriesWanted) {
   std::string mexican = Row("XEAA", "1.0", "21");
   mexican.replace(mexican.find("|LIC|PLANO|TX|US|"), 17, "|CP|SALTILLO|CI|MX|");
-  folder_.Write("amq.txt", Row("KAAA", "5.0", "11") + mexican);
+  folder_.Put("amq.txt", Row("KAAA", "5.0", "11") + mexican);
   frmImport form(workspace_);
   form.show();
   form.AddFiles({folder_.Path("amq.txt")});

@@ -6,7 +6,7 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "forms/Folder.h"
+#include "forms/SampleFolder.h"
 #include "forms/StandInPlatform.h"
 
 namespace kestrel {
@@ -14,15 +14,15 @@ namespace {
 
 class frmOpeningTest : public ::testing::Test {
  protected:
-  Folder folder_;
-  const DataFolder data_ = folder_.Data();
+  SampleFolder folder_;
+  const DataFolder data_ = folder_.Folder();
   SessionState state_;
   StandInPlatform platform_;
   const Workspace workspace_{state_, data_, platform_};
 };
 
 TEST_F(frmOpeningTest, LoadsListsAndSessionAndLeadsOn) {
-  folder_.Write("Kestrel.CFG", "Frequency: 1.23K\nHome: Here\nLat: 40\nLon: 75\n");
+  folder_.Put("Kestrel.CFG", "Frequency: 1.23K\nHome: Here\nLat: 40\nLon: 75\n");
   frmOpening opening(workspace_);
   int starts = 0;
   opening.Started = [&] { ++starts; };
@@ -57,15 +57,29 @@ TEST_F(frmOpeningTest, EscapeAndExitLeaveWithoutStarting) {
   }
 }
 
+TEST_F(frmOpeningTest, LoadsOnceShownUnlessItHasBeenLeft) {
+  for (const char* button : {"cmdEnter", "cmdExit"}) {
+    frmOpening opening(workspace_);
+    int loads = 0;
+    opening.FirstPainted = [&] { ++loads; };
+    opening.show();
+    opening.grab();  // paints it
+    QTest::mouseClick(opening.findChild<QPushButton*>(button), Qt::LeftButton);
+    EXPECT_EQ(loads, 0) << "painted first";
+    QCoreApplication::processEvents();
+    EXPECT_EQ(loads, button == std::string("cmdEnter") ? 1 : 0);
+  }
+}
+
 TEST_F(frmOpeningTest, MissingListEndsLoadingButStartStillReadsTheSession) {
-  folder_.Write("Kestrel.CFG", "Frequency: 1230\nHome: Here\nLat: 40\nLon: 75\n");
-  for (const std::string list : {"Kestrel.lst", "StationsCall.DAT"}) {
-    Folder fresh;
-    fresh.Write("Kestrel.CFG", folder_.Text("Kestrel.CFG"));
+  folder_.Put("Kestrel.CFG", "Frequency: 1230\nHome: Here\nLat: 40\nLon: 75\n");
+  for (const char* list : {"Kestrel.lst", "StationsCall.DAT"}) {
+    SampleFolder fresh;
+    fresh.Put("Kestrel.CFG", folder_.Text("Kestrel.CFG"));
     fresh.Remove(list);
     SessionState state;
     StandInPlatform platform;
-    const DataFolder data = fresh.Data();
+    const DataFolder data = fresh.Folder();
     frmOpening opening({state, data, platform});
     opening.show();
     opening.Load();
@@ -81,12 +95,12 @@ TEST_F(frmOpeningTest, MissingListEndsLoadingButStartStillReadsTheSession) {
 TEST_F(frmOpeningTest, FullListLoadsAndOneMoreEntryIsAnError) {
   std::string lines;
   for (int i = 0; i < 3400; ++i) lines += "           Plano  TX                  33.0198   96.6989\r\n\r\n";
-  folder_.Write("Kestrel.lst", lines);
+  folder_.Put("Kestrel.lst", lines);
   frmOpening full(workspace_);
   full.Load();
   EXPECT_EQ(state_.CityList.size(), 3400U);
   EXPECT_TRUE(platform_.Messages.isEmpty());
-  folder_.Write("Kestrel.lst", lines + "one more\r\n");
+  folder_.Put("Kestrel.lst", lines + "one more\r\n");
   frmOpening overfull(workspace_);
   overfull.Load();
   EXPECT_EQ(platform_.Messages, QStringList("We have had a data-file reading error"));

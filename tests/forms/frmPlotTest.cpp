@@ -3,16 +3,20 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QToolTip>
 #include <set>
 
-#include "forms/Folder.h"
+#include "forms/SampleFolder.h"
 #include "forms/StandInPlatform.h"
 #include "forms/frmAspect.h"
+#include "map/RecordingCanvas.h"
 #include "ui/MapSurface.h"
 
 namespace kestrel {
@@ -58,8 +62,51 @@ class frmPlotTest : public ::testing::Test {
     return channels;
   }
 
-  Folder folder_;
-  const DataFolder data_ = folder_.Data();
+  /// Where the mark of a station lies on the map, in pixels.
+  QPoint PixelOf(const std::string& callSign) {
+    for (const StationMark& mark : plot_->Surface().Drawing().Stations())
+      if (mark.CallSign == callSign) return plot_->Surface().FromSheet(mark.At).toPoint();
+    ADD_FAILURE() << callSign << " is not on the map";
+    return {};
+  }
+
+  /// The first line of the tip that is shown; nothing when there is none.
+  static std::string TipShown() { return QToolTip::text().section('\n', 0, 0).toStdString(); }
+  static void ForgetTip() {
+    for (QWidget* window : QApplication::topLevelWidgets())
+      if (window->inherits("QTipLabel")) delete window;
+  }
+
+  /// The tip when the mouse rests there.
+  std::string RestAt(QPoint pixel) {
+    ForgetTip();
+    MapSurface& map = plot_->Surface();
+    QTest::mouseMove(&map, pixel);
+    QHelpEvent rest(QEvent::ToolTip, pixel, map.mapToGlobal(pixel));
+    QApplication::sendEvent(&map, &rest);
+    return TipShown();
+  }
+
+  /// Clicks on the map. Returns what the lookup has found, "QABC: 2 records", if it opens.
+  std::string ClickAt(QPoint pixel, Qt::MouseButton button = Qt::LeftButton) {
+    ForgetTip();
+    std::string found;
+    QTimer look;
+    look.setSingleShot(true);
+    look.callOnTimeout([&found] {
+      auto* lookup = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+      ASSERT_NE(lookup, nullptr);
+      found = lookup->findChild<QLineEdit*>("txtGetData")->text().toStdString() + ": " +
+              std::to_string(lookup->findChild<QListWidget*>("lstGetData")->count()) + " records";
+      lookup->reject();
+    });
+    look.start(0);
+    QTest::mouseClick(&plot_->Surface(), button, {}, pixel);
+    return found;
+  }
+
+  SampleFolder folder_;
+  const DataFolder data_ = folder_.Folder();
   SessionState state_;
   StandInPlatform platform_;
   const Workspace workspace_{state_, data_, platform_};
@@ -176,6 +223,92 @@ TEST_F(frmPlotTest, ScanDrawsEveryChannelUntilStopped) {
   EXPECT_TRUE(Button("cmdFreq")->isEnabled());
 }
 
+TEST_F(frmPlotTest, RestingOnAStationTellsOfIt) {
+  folder_.Put("620x.dat",
+              "620, QEAST, TOWN, TX, United States, D, 33, 94, 1,-,-, 0\n"
+              "620, QWEST, TOWN, TX, United States, D, 33, 99, 1,-,-, 0\n"
+              "620, QNEAR, TOWN, TX, United States, D, 33, 99.3, 1,-,-, 0\n");
+  Open();
+  const QPoint east = PixelOf("QEAST");
+  EXPECT_EQ(RestAt(east), "620 kHz QEAST  TOWN, TX");
+  EXPECT_EQ(QToolTip::text().count('\n'), 2) << "power and hours, distance and bearing below";
+  for (const QPoint& away : {QPoint(9, 0), QPoint(-9, 0), QPoint(0, 9), QPoint(6, -6)})
+    EXPECT_EQ(RestAt(east + away), "620 kHz QEAST  TOWN, TX") << away.x() << ' ' << away.y();
+  for (const QPoint& away : {QPoint(12, 0), QPoint(0, -12), QPoint(9, 9)})
+    EXPECT_EQ(RestAt(east + away), "") << away.x() << ' ' << away.y();
+
+  const QPoint west = PixelOf("QWEST");
+  const QPoint near = PixelOf("QNEAR");
+  ASSERT_GT(west.x() - near.x(), 2);
+  ASSERT_LT(west.x() - near.x(), 10) << "both within reach";
+  EXPECT_EQ(RestAt(near), "620 kHz QNEAR  TOWN, TX");
+  EXPECT_EQ(RestAt(west), "620 kHz QWEST  TOWN, TX");
+  folder_.Remove("620x.dat");
+  EXPECT_EQ(RestAt(east), "") << "the words are read from the file";
+}
+
+TEST_F(frmPlotTest, AClickOpensTheLookupForStationsOfTheChannelOnly) {
+  folder_.Put("630x.dat", "630, QNEXT, TOWN, TX, United States, D, 33, 94, 1,-,-, 0\n");
+  folder_.Put("1230x.dat", "1230, QFAR, TOWN, TX, United States, D, 33, 99, 1,-,-, 0\n");
+  Open();
+  EXPECT_EQ(ClickAt(PixelOf("QDN620")), "QDN620: 2 records");
+  EXPECT_EQ(ClickAt(PixelOf("QU620")), "QU620: 1 records");
+  EXPECT_EQ(ClickAt(PixelOf("QU620"), Qt::RightButton), "");
+  EXPECT_EQ(ClickAt(PixelOf("QU620") + QPoint(0, -40)), "") << "no station there";
+  EXPECT_EQ(TipShown(), "");
+
+  const auto expectTipOnly = [this](const char* callSign, const char* tip) {
+    EXPECT_EQ(ClickAt(PixelOf(callSign)), "") << callSign;
+    EXPECT_EQ(TipShown(), tip);
+  };
+  PressInForm("cmdFreq", "", "cmdAdd1st");
+  expectTipOnly("QNEXT", "630 kHz QNEXT  TOWN, TX");
+  EXPECT_EQ(ClickAt(PixelOf("QU620")), "QU620: 1 records");
+  PressInForm("cmdFreq", "1230", "cmdExit");
+  ASSERT_EQ(state_.CurrentFrequency, 1230);
+  EXPECT_EQ(ClickAt(PixelOf("QFAR")), "QFAR: 1 records");
+  expectTipOnly("QU620", "620 kHz QU620  CITY, OK");
+  platform_.OnEvents = [&](int round) {
+    if (round == 118) {
+      EXPECT_EQ(ClickAt(PixelOf("QFAR")), "") << "not while the scan runs";
+    }
+  };
+  PressInForm("cmdAll", "", "cmdAlterNo");
+  expectTipOnly("QNEXT", "630 kHz QNEXT  TOWN, TX");
+  EXPECT_EQ(ClickAt(PixelOf("QFAR")), "QFAR: 1 records");
+}
+
+TEST_F(frmPlotTest, PrintOffersTheMapAsItIsShown) {
+  std::string title;
+  SheetArea onPage;
+  platform_.NextPrint = [&](const PrintOffer& offer) {
+    const std::vector<PagePane> panes = offer.Page.Layout({14688, 11088});
+    RecordingCanvas canvas;
+    panes.at(0).Draw(canvas);
+    title = canvas.Texts().at(0);
+    onPage = panes.at(1).Sheet;
+    return std::nullopt;
+  };
+  const auto printed = [&] {
+    Press("cmdPrint");
+    return title.substr(0, title.find("    Home: "));
+  };
+  Open();
+  plot_->resize(1600, 500);
+  EXPECT_EQ(printed(), "620 kHz");
+  const Point corner = plot_->Surface().ToSheet({0, 0});
+  ASSERT_LT(corner.x, -3000) << "the window shows more than the sheet";
+  EXPECT_LE(onPage.Left, corner.x + 1);
+  EXPECT_GE(onPage.Left + onPage.Width, SheetWidth - corner.x - 1);
+  PressInForm("cmdFreq", "1230", "cmdExit");
+  EXPECT_EQ(printed(), "1230 kHz with 620 kHz");
+  PressInForm("cmdAll", "", "cmdAlterNo");
+  EXPECT_EQ(printed(), "620, 630, 1230 kHz");
+  Press("cmdIn");
+  EXPECT_EQ(printed(), "1230 kHz");
+  EXPECT_TRUE(platform_.Messages.isEmpty()) << "cancelled";
+}
+
 TEST_F(frmPlotTest, AspectWindowOpensOnceAndIsActive) {
   Open();
   PressInForm("cmdOptions", "", "cmdAspect");
@@ -205,7 +338,7 @@ TEST_F(frmPlotTest, MissingAndBrokenFilesLeaveTheRest) {
   EXPECT_TRUE(Drawn().empty());
   EXPECT_FALSE(plot_->Surface().Drawing().IsEmpty());
   EXPECT_TRUE(platform_.Messages.isEmpty());
-  folder_.Write("1230x.dat", "junk\n\n1230,QX,T,S,C,D,33,97,1,-,-,99\n" + Folder::Channel("1230"));
+  folder_.Put("1230x.dat", "junk\n\n1230,QX,T,S,C,D,33,97,1,-,-,99\n" + SampleFolder::Channel("1230"));
   PressInForm("cmdFreq", "1230", "cmdErasePlot");
   EXPECT_EQ(Drawn(), (Names{"QDN1230 D", "QDN1230 N", "QU1230 U"}));
 }

@@ -85,11 +85,27 @@ TEST(ContextMapTest, TheStationsMarkAndTheFrameLieOnTop) {
     EXPECT_TRUE(beside) << "a mask inside the frame";
   }
 
-  TestFolder empty;
-  RecordingCanvas bare;
-  DrawContextMap(bare, empty.Folder(), 0, 75, 1);
-  EXPECT_EQ(bare.All("Polyline").size(), 0U);
-  EXPECT_EQ(bare.All("Circle").size(), 2U);
+  EXPECT_EQ(canvas.Texts().size(), 0U);
+}
+
+TEST(ContextMapTest, AnOutlineFileThatCannotBeReadIsNamedOnTheMap) {
+  TestFolder data;
+  const auto draw = [&data] {
+    RecordingCanvas canvas;
+    DrawContextMap(canvas, data.Folder(), 0, 75, 1);
+    EXPECT_EQ(canvas.All("Circle").size(), 2U) << "the station's mark";
+    return canvas;
+  };
+  const RecordingCanvas bare = draw();
+  EXPECT_EQ(bare.Texts(),
+            (std::vector<std::string>{"REGION2.dat cannot be read", "STATES.dat cannot be read"}));
+  for (const Drawn& text : bare.All("Text"))
+    EXPECT_TRUE(text.Points[0].x > 0.05F * W && text.Points[0].y > 0.05F * H);
+  EXPECT_NE(bare.All("Text")[0].Points, bare.All("Text")[1].Points);
+  data.Put("STATES.dat", "0 284\n1 284\n");
+  const RecordingCanvas half = draw();
+  EXPECT_EQ(half.Texts(), std::vector<std::string>{"REGION2.dat cannot be read"});
+  EXPECT_EQ(half.All("Polyline").size(), 1U);
 }
 
 TEST(ContextMapTest, TheWayToALimitClosesOnePressAfterIt) {

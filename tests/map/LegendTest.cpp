@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "RecordingCanvas.h"
+#include "core/Numbers.h"
 #include "map/Compass.h"
 
 namespace kestrel {
@@ -27,7 +28,7 @@ TEST(LegendTest, ScaleTextsAreCutNotRounded) {
   // Each whole thousandth of the map scale is itself, not the one below it.
   for (int thousandth = 320; thousandth <= 64000; ++thousandth) {
     const float scale = 0.15625F * static_cast<float>(thousandth);
-    EXPECT_NEAR(std::stod("0" + MapScaleText(scale)), thousandth / 1000.0, 1e-6) << scale;
+    EXPECT_NEAR(LeadingNumber(MapScaleText(scale)), thousandth / 1000.0, 1e-6) << scale;
   }
 }
 

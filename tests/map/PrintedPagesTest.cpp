@@ -2,7 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
+#include <algorithm>
+#include <cmath>
 
 #include "RecordingCanvas.h"
 #include "TestFolder.h"
@@ -30,19 +31,61 @@ TEST(PrintedPagesTest, TheMapPageRepeatsTheDrawingUnderItsTitle) {
   drawing.SetColor(255);
   drawing.Line({1, 2}, {3, 4});
   drawing.Text({5, 6}, "on the map");
-  const PrintedPage page = MapPage(state, data.Folder(), drawing);
+  const PrintedPage page = MapPage(state, data.Folder(), {drawing, {}});
   EXPECT_EQ(TextsOf(page, kLetterLandscape),
             (std::vector<std::string>{"790 kHz    Home: Plano   TX  12.5 S, 96.54139 W",
                                       "Stations of a test, 2026", "on the map"}));
-  for (const PageSize size : {kLetterLandscape, kLetterPortrait, PageSize{22000, 16000}}) {
-    const PagePane map = page.Layout(size).at(1);
-    const SheetFit fit = FitSheet(map.Place.Width, map.Place.Height, map.Sheet);
-    EXPECT_LE(fit.Scale, 1.0001F) << "text of 8 to 10 points gets no larger";
-    EXPECT_LE(map.Sheet.Left, 0) << "the whole sheet is on the page";
-    EXPECT_GE(map.Sheet.Left + map.Sheet.Width, SheetWidth);
-    EXPECT_LE(map.Sheet.Top, 0);
-    EXPECT_GE(map.Sheet.Top + map.Sheet.Height, SheetHeight);
-    EXPECT_NEAR(map.Place.Top + map.Place.Height, size.Height, 1);
+}
+
+TEST(PrintedPagesTest, TheTitleNamesTheChannelsOnThePage) {
+  TestFolder data;
+  SessionState state;
+  state.CurrentFrequency = 620;
+  FixedMeasure measure;
+  const auto title = [&](const std::vector<int>& channels, bool scanned) {
+    DisplayList drawing(measure);
+    for (const int channel : channels) {
+      drawing.BeginStation({{}, channel, "QABC", "D"});
+      drawing.EndStation();
+    }
+    const std::string text =
+        TextsOf(MapPage(state, data.Folder(), {drawing, {}, scanned}), kLetterLandscape).at(0);
+    return text.substr(0, text.find("    Home: "));
+  };
+  std::vector<int> band;
+  for (int channel = 530; channel <= 1700; channel += 10) band.push_back(channel);
+  EXPECT_EQ(title({}, false), "620 kHz") << "a channel without stations";
+  EXPECT_EQ(title({620, 620}, false), "620 kHz");
+  EXPECT_EQ(title({620, 630, 610, 630}, false), "620 kHz with 610, 630 kHz");
+  EXPECT_EQ(title({610}, false), "620 kHz with 610 kHz") << "the hours chosen leave it no station";
+  EXPECT_EQ(title({530, 540}, true), "530, 540 kHz") << "a scan that was stopped";
+  EXPECT_EQ(title(band, true), "118 channels, 530 to 1700 kHz");
+  EXPECT_EQ(title({}, true), "No stations");
+  state.SelectedFrequency = 790;
+  EXPECT_EQ(title({620, 790}, false), "790 kHz with 620 kHz");
+}
+
+TEST(PrintedPagesTest, ThePageHoldsAllThatTheWindowShows) {
+  TestFolder data;
+  const SessionState state;
+  FixedMeasure measure;
+  const DisplayList drawing(measure);
+  for (const SheetArea shown : {SheetArea{}, SheetArea{-4000, 0, 20000, SheetHeight},
+                                SheetArea{0, -3000, SheetWidth, SheetHeight + 6000}}) {
+    const PrintedPage page = MapPage(state, data.Folder(), {drawing, shown});
+    for (const PageSize size : {kLetterLandscape, kLetterPortrait, PageSize{22000, 16000}}) {
+      const PagePane map = page.Layout(size).at(1);
+      const SheetFit fit = FitSheet(map.Place.Width, map.Place.Height, map.Sheet);
+      EXPECT_LE(fit.Scale, 1.0001F) << "text of 8 to 10 points gets no larger";
+      const Point corner = fit.ToSurface({shown.Left, shown.Top});
+      const Point opposite = fit.ToSurface({shown.Left + shown.Width, shown.Top + shown.Height});
+      EXPECT_GE(corner.x, -1);
+      EXPECT_GE(corner.y, -1);
+      EXPECT_LE(opposite.x, map.Place.Width + 1);
+      EXPECT_LE(opposite.y, map.Place.Height + 1);
+      EXPECT_NEAR(corner.x + opposite.x, map.Place.Width, 2) << "in the middle";
+      EXPECT_NEAR(map.Place.Top + map.Place.Height, size.Height, 20);
+    }
   }
 }
 
@@ -77,7 +120,8 @@ TEST(PrintedPagesTest, TheStationPageTellsTheRecordInWords) {
     }
     EXPECT_LE(bottom, size.Height + 1);
   }
-  EXPECT_NO_THROW(TextsOf(StationPage(state, data.Folder(), selection, {}), kLetterPortrait));
+  const auto texts = TextsOf(StationPage(state, data.Folder(), selection, {}), kLetterPortrait);
+  EXPECT_EQ(std::count(texts.begin(), texts.end(), "No towers are known"), 1);
 
   const PageSize small = LayoutSize(page, {5000, 8000});
   EXPECT_NEAR(small.Width / small.Height, 5000 / 8000.0, 1e-4);
@@ -85,28 +129,62 @@ TEST(PrintedPagesTest, TheStationPageTellsTheRecordInWords) {
   EXPECT_GE(small.Height, page.Smallest.Height - 1);
 }
 
-TEST(PrintedPagesTest, GreysTellTheHoursApart) {
-  const SessionState state;
-  const RecoloredCanvas::Mapping greys = GreysOf(state);
-  std::set<std::pair<ColorValue, float>> inks;
-  for (const ColorValue color : {state.DayColor, state.NightColor, state.CriticalColor, state.UnlimitedColor,
-                                 state.AdjacentColor, ColorValue{0xCC8888}, ColorValue{0xDD9999}}) {
-    const Ink ink = greys(color);
-    EXPECT_EQ(ink.Color & 0xFF, ink.Color >> 8 & 0xFF);
-    EXPECT_EQ(ink.Color & 0xFF, ink.Color >> 16 & 0xFF);
-    inks.emplace(ink.Color, 0.0F);
+/// Every two of the colours come out so that the eye tells them apart on paper: in greys well apart, or in
+/// lines of clearly other widths.
+void ExpectToldApart(const RecoloredCanvas::Mapping& greys, const std::vector<ColorValue>& colors) {
+  for (std::size_t i = 0; i < colors.size(); ++i) {
+    const Ink ink = greys(colors[i]);
+    const int level = ink.Color & 0xFF;
+    EXPECT_EQ(ink.Color, level * 0x010101) << "no grey";
+    EXPECT_LE(level, 0xC8) << "too light for white paper";
+    for (std::size_t k = 0; k < i; ++k) {
+      const Ink other = greys(colors[k]);
+      const bool byLevel = std::abs(level - (other.Color & 0xFF)) >= 0x28;
+      const bool byWidth = std::abs(std::log(ink.WidthFactor / other.WidthFactor)) >= std::log(1.45);
+      EXPECT_TRUE(byLevel || byWidth) << std::hex << colors[i] << " and " << colors[k];
+    }
   }
-  EXPECT_EQ(inks.size(), 7U);
-  EXPECT_EQ(greys(0xFFFFFF).Color, 0xFFFFFF);
-  EXPECT_LE(greys(65535).Color & 0xFF, 0xC0) << "bright yellow is still to be seen";
+}
 
+TEST(PrintedPagesTest, GreysTellTheHoursAndTheOutlinesApart) {
+  SessionState state;
+  const auto colors = [&state] {
+    return std::vector<ColorValue>{
+        state.DayColor, state.NightColor, state.CriticalColor, state.UnlimitedColor, state.AdjacentColor,
+        0xCC8888,       0xDD9999};
+  };
+  ExpectToldApart(GreysOf(state), colors());
+  std::vector<int> words;  // the legend's have no width
+  for (const ColorValue hours :
+       {state.DayColor, state.NightColor, state.CriticalColor, state.UnlimitedColor, state.AdjacentColor})
+    words.push_back(GreysOf(state)(hours).Color & 0xFF);
+  std::sort(words.begin(), words.end());
+  for (std::size_t i = 1; i < words.size(); ++i) EXPECT_GE(words[i] - words[i - 1], 0x28);
+  state.DayColor = 0x00FFFF;  // colours of the listener's own
+  state.NightColor = 0x00FF00;
+  state.AdjacentColor = 0;
+  ExpectToldApart(GreysOf(state), colors());
+  const RecoloredCanvas::Mapping greys = GreysOf(state);
+  EXPECT_EQ(greys(0xFFFFFF).Color, 0xFFFFFF);
+  EXPECT_LE(greys(0x00FFFE).Color & 0xFF, 0xC0) << "bright yellow is still to be seen";
+
+  constexpr ColorValue kEnlarged = 0xFF4444;
+  const RecoloredCanvas::Mapping station = StationPlotGreys();
+  ExpectToldApart(station, {0x0000AA, 0x119911, 0xCCCC11, 0, kEnlarged});  // the traces
+  ExpectToldApart(station, {0x000099, 0x119911, 0xCCCC11, 0, kEnlarged});  // and their names in the legend
+  for (const ColorValue faint : {0xDDDDDD, 0xCCCCCC}) ExpectToldApart(station, {faint, kEnlarged});
+  EXPECT_LE(station(0xFF0000).Color & 0xFF, 0x40) << "the towers are dark";
+}
+
+TEST(PrintedPagesTest, AWiderInkKeepsTheWidthAskedFor) {
+  const SessionState state;
   RecordingCanvas under;
-  RecoloredCanvas canvas(under, greys);
+  RecoloredCanvas canvas(under, GreysOf(state));
   canvas.SetLineWidth(2);
-  canvas.SetColor(state.UnlimitedColor);
-  canvas.Line({0, 0}, {1, 1});
-  canvas.SetColor(state.DayColor);
-  canvas.Line({0, 0}, {1, 1});
+  for (const ColorValue color : {state.UnlimitedColor, state.DayColor}) {
+    canvas.SetColor(color);
+    canvas.Line({0, 0}, {1, 1});
+  }
   EXPECT_GT(under.List[0].LineWidth, 2);
   EXPECT_EQ(under.List[1].LineWidth, 2);
 }

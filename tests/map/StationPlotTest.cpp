@@ -101,7 +101,9 @@ TEST(StationPlotTest, SpokesBearingsAndLegendStandInTheirPlaces) {
   const auto texts = canvas.All("Text");
   ASSERT_EQ(texts.size(), 12U + 5U);
   EXPECT_EQ(texts[3].Text, "90");
-  EXPECT_NEAR(texts[3].Points[0].x, 6000 + 2400 * 0.8 - FixedMeasure().TextWidth(texts[3].Face, "90") / 2, 0.01) << "half the text's width to the left";
+  EXPECT_NEAR(texts[3].Points[0].x, 6000 + 2400 * 0.8 - FixedMeasure().TextWidth(texts[3].Face, "90") / 2,
+              0.01)
+      << "half the text's width to the left";
   EXPECT_NEAR(texts[3].Points[0].y, 6395, 0.01);
   const std::map<std::string, std::pair<float, ColorValue>> legend = {{"Unlimited", {6200, 0x000099}},
                                                                       {"Daytime", {6450, 0x119911}},
@@ -173,10 +175,20 @@ TEST(StationPlotTest, WhatCannotBeDrawnIsNotDrawnWrong) {
   }
   StationRecord broken = Cardioid();
   broken.Fields[2] = 0;
-  const RecordingCanvas legendAlone = Plot({broken});
-  EXPECT_EQ(legendAlone.All("Text").size(), 5U);
-  EXPECT_EQ(legendAlone.All("Line").size(), 0U);
-  EXPECT_EQ(legendAlone.All("Polygon").size(), 0U);
+  broken.Switch[2] = "1";
+  broken.Spacings[1] = 90;  // the second tower stands 90 degrees beyond the first
+  const RecordingCanvas towersAlone = Plot({broken});
+  EXPECT_EQ(towersAlone.All("Text").size(), 5U) << "the legend, no bearings";
+  EXPECT_EQ(towersAlone.All("Line").size(), 0U);
+  EXPECT_EQ(towersAlone.All("Polyline").size(), 0U);
+  EXPECT_EQ(towersAlone.All("Polygon").size(), 4U);
+  const auto towers = towersAlone.All("Circle");
+  ASSERT_EQ(towers.size(), 4U + 1);
+  EXPECT_NEAR(towers[4].Points[0].y, 6500 - 120 * 180 * kRadian, 0.05);
+
+  const RecordingCanvas nothing = Plot({});
+  EXPECT_EQ(nothing.All("Polygon").size(), 4U);
+  EXPECT_EQ(nothing.All("Text").size(), 5U);
 
   const RecordingCanvas twins = Plot({Cardioid(), Cardioid()});
   EXPECT_EQ(Strokes(twins, 0).size(), 2U) << "the second over the first";

@@ -1,0 +1,201 @@
+#include <gtest/gtest.h>
+#include <malloc.h>
+
+#include <QApplication>
+#include <QEvent>
+#include <QFile>
+#include <QPixmapCache>
+#include <algorithm>
+#include <iostream>
+
+#include "core/Lines.h"
+#include "forms/Monkey.h"
+#include "forms/frmOpening.h"
+#include "forms/frmPlot.h"
+
+#if defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define __SANITIZE_ADDRESS__
+#endif
+#endif
+#if defined(__SANITIZE_ADDRESS__)
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
+#endif
+
+namespace kestrel {
+namespace {
+
+// KESTREL_MONKEY_SEED and KESTREL_MONKEY_COMMANDS ask for another walk, KESTREL_MONKEY_TRACE tells its steps.
+int Asked(const char* variable, int otherwise) {
+  return qEnvironmentVariableIsSet(variable) ? qEnvironmentVariableIntValue(variable) : otherwise;
+}
+
+/// Bytes that the process holds and has not given back.
+std::size_t BytesHeld() {
+#if defined(__SANITIZE_ADDRESS__)
+  return __sanitizer_get_current_allocated_bytes();
+#else
+  const struct mallinfo2 heap = mallinfo2();
+  return heap.uordblks + heap.hblkhd;
+#endif
+}
+
+/// Resident memory in kilobytes; 0 where the system does not tell.
+int ResidentKilobytes() {
+  QFile status("/proc/self/status");
+  if (!status.open(QIODevice::ReadOnly)) return 0;
+  for (const QByteArray& line : status.readAll().split('\n'))
+    if (line.startsWith("VmRSS:")) return line.mid(6).simplified().split(' ').front().toInt();
+  return 0;
+}
+
+/// One life of the program, from the opening screen until its last window is closed.
+class Life final : public QObject {
+ public:
+  Life(const DataFolder& folder, Platform& platform) : workspace_{state_, folder, platform} {
+    qApp->installEventFilter(this);
+    opening_ = std::make_unique<frmOpening>(workspace_);
+    opening_->Started = [this] {
+      plot_ = std::make_unique<frmPlot>(workspace_);
+      plot_->show();
+      OpenedSize = plot_->size();
+    };
+    opening_->FirstPainted = [this] { opening_->Load(); };
+    opening_->show();
+  }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Close && watched == plot_.get() && plot_->isVisible()) {
+      Held = state_;
+      ClosedSize = plot_->size();
+    }
+    return false;
+  }
+
+  std::optional<SessionState> Held;  ///< the settings when the main window was closed
+  QSize OpenedSize, ClosedSize;      ///< of the main window
+
+ private:
+  SessionState state_;
+  Workspace workspace_;
+  std::unique_ptr<frmOpening> opening_;
+  std::unique_ptr<frmPlot> plot_;
+};
+
+/// What the last-session file keeps of the settings, by its limits.
+SessionState Kept(SessionState state) {
+  const SessionState first;
+  if (state.CurrentFrequency == 0 || state.HomeLatitude == 0 || state.HomeLongitude == 0) {
+    state.CurrentFrequency = first.CurrentFrequency;
+    state.HomeName = "Plano  TX";
+    state.HomeLatitude = first.HomeLatitude;
+    state.HomeLongitude = first.HomeLongitude;
+  }
+  state.PatternSize = std::min(state.PatternSize, 1.0F);
+  state.ScaleFactor = std::max(state.ScaleFactor, 100.0F);
+  state.AspectRatio = std::clamp(state.AspectRatio, 0.6F, 1.5F);
+  if (state.DayColor == 0) state.DayColor = first.DayColor;
+  if (state.UnlimitedColor == 0) state.UnlimitedColor = first.UnlimitedColor;
+  if (state.CriticalColor == 0) state.CriticalColor = first.CriticalColor;
+  if (state.AdjacentColor == 0) state.AdjacentColor = first.AdjacentColor;
+  return state;
+}
+
+void ExpectKept(const DataFolder& folder, const SessionState& held) {
+  const SessionState kept = Kept(held);
+  SessionState read;
+  LoadSession(folder, read);
+  EXPECT_EQ(read.CurrentFrequency, kept.CurrentFrequency);
+  EXPECT_EQ(QString::fromStdString(read.HomeName), QString::fromStdString(kept.HomeName).trimmed());
+  EXPECT_EQ(read.HomeLatitude, kept.HomeLatitude);
+  EXPECT_EQ(read.HomeLongitude, kept.HomeLongitude);
+  EXPECT_EQ(read.PatternSize, kept.PatternSize);
+  EXPECT_EQ(read.ScaleFactor, kept.ScaleFactor);
+  EXPECT_EQ(read.DistanceUnit, kept.DistanceUnit);
+  EXPECT_EQ(read.DayColor, kept.DayColor);
+  EXPECT_EQ(read.NightColor, kept.NightColor);
+  EXPECT_EQ(read.UnlimitedColor, kept.UnlimitedColor);
+  EXPECT_EQ(read.CriticalColor, kept.CriticalColor);
+  EXPECT_EQ(read.AdjacentColor, kept.AdjacentColor);
+  EXPECT_EQ(read.MapLanguage, kept.MapLanguage);
+  EXPECT_EQ(read.AspectRatio, kept.AspectRatio);
+}
+
+/// The folder of the form tests with more to find: on every channel one array of twelve towers, on one of
+/// them rows that are damaged; odd places.
+void FillFolder(const SampleFolder& folder) {
+  std::string towers;
+  for (int i = 0; i < 12; ++i)
+    towers += "1," + std::to_string(90 * i) + ",90," + std::to_string(30 * i) + ",80,0\r\n";
+  for (int kilohertz = 530; kilohertz <= 1700; kilohertz += 10) {
+    const std::string channel = std::to_string(kilohertz);
+    std::string file =
+        channel + ", QARR, \xc3\x96RT, KS, United States, N, 33.5, 96.5, 5,-,-, 12\r\n" + towers;
+    if (kilohertz % 50 == 30) file += SampleFolder::Channel(channel);
+    if (kilohertz == 630)
+      file +=
+          "630, QCUT, TOWN, KS\r\n630, QARR, TOWN, KS, United States, U, 33, 97, 0,-,-, "
+          "1\r\n0,1,90,0,0,0\r\n";
+    folder.Put(QString::fromStdString(channel) + "x.dat", file);
+  }
+  folder.Put("Kestrel.lst",
+             "           Plano  TX                  33.0198   96.6989\r\n"
+             "    12,345 Quotes \"and\", commas: KS    37.1     97.3\r\n"
+             "        1                              0         0\r\n");
+}
+
+TEST(Monkey, BreaksNothingLosesNothingAndLeavesNothing) {
+  const unsigned seed = static_cast<unsigned>(Asked("KESTREL_MONKEY_SEED", 1));
+  const int commands = Asked("KESTREL_MONKEY_COMMANDS", 2000);
+  std::cout << "KESTREL_MONKEY_SEED=" << seed << " KESTREL_MONKEY_COMMANDS=" << commands << std::endl;
+  QApplication::setKeyboardInputInterval(0);  // each key for itself, however fast they come
+
+  const SampleFolder files;
+  FillFolder(files);
+  const DataFolder folder = files.Folder();
+  Monkey monkey(seed, commands, files);
+  monkey.Speaks = qEnvironmentVariableIsSet("KESTREL_MONKEY_TRACE");
+  int lives = 0;
+  int saved = 0;
+  monkey.Thousand = [&] {
+    std::cout << monkey.Done() << " commands, " << lives << " lives, " << QApplication::allWidgets().size()
+              << " widgets, " << BytesHeld() / 1024 << " KB held, " << ResidentKilobytes()
+              << " KB resident\n";
+  };
+  monkey.Start();
+
+  QSize lastSize;
+  std::vector<std::size_t> held;  // with no window open, at the end of each life
+  while (monkey.AtWork() && !::testing::Test::HasFailure()) {
+    {
+      Life life(folder, monkey);
+      QApplication::exec();
+      SCOPED_TRACE("at command " + std::to_string(monkey.Done()));
+      if (lastSize.isValid() && life.OpenedSize.isValid()) {
+        EXPECT_EQ(life.OpenedSize, lastSize);
+      }
+      if (life.Held) {
+        ExpectKept(folder, *life.Held);
+        lastSize = life.ClosedSize;
+        ++saved;
+      }
+    }
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    ++lives;
+    for (const QWidget* widget : QApplication::allWidgets())
+      EXPECT_EQ(widget->windowType(), Qt::ToolTip) << widget->objectName().toStdString() << " is left over";
+    QPixmapCache::clear();
+    held.push_back(BytesHeld());
+  }
+  EXPECT_GT(saved, commands / 500) << "the walk hardly left the opening screen";
+
+  // What is held after the first lives are fonts and the like, once for all.
+  const std::size_t first = held[held.size() / 2];
+  constexpr std::size_t kAllowance = 512 * 1024;
+  EXPECT_LT(held.back(), first + kAllowance) << lives << " lives";
+  std::cout << lives << " lives, " << saved << " saved; " << first / 1024 << " KB held after half of them, "
+            << held.back() / 1024 << " KB at the end" << std::endl;
+}
+
+}  // namespace
+}  // namespace kestrel

@@ -1,0 +1,75 @@
+#include "forms/frmShowContext.h"
+
+#include <QWheelEvent>
+
+#include "forms/FormFixture.h"
+#include "map/RecordingCanvas.h"
+#include "ui/MapSurface.h"
+
+namespace kestrel {
+namespace {
+
+class frmShowContextTest : public FormTest {
+ protected:
+  frmShowContextTest() {
+    Files.Put("REGION2.dat", "40.5 285\n41 285\n");
+    Files.Put("STATES.dat", "");
+    State.MapLanguage = "es";
+    selection_.SelectedCallSign = "QABC";
+    selection_.City = "NEW TOWN";
+    selection_.Latitude = 40.5F;
+    selection_.Longitude = 75.25F;
+  }
+
+  /// Twips of half a degree to the north on the map of the form.
+  static float LineHeight(QDialog& form) {
+    RecordingCanvas drawn;
+    Find<MapSurface>(form, "Map")->Drawing().Play(drawn);
+    EXPECT_EQ(drawn.All("Box").size(), 1U) << "drawn anew, not over";
+    const auto points = drawn.All("Polyline").at(0).Points;
+    return points[0].y - points[1].y;
+  }
+
+  StationSelection selection_;
+};
+
+TEST_F(frmShowContextTest, ZoomReachesItsLimitsAndClosesTheWayOnePressLater) {
+  frmShowContext form(Everything, nullptr, selection_);
+  EXPECT_EQ(form.windowTitle(), "KestrelII - Context map");
+  Use(form, [&form] {
+    const auto mayPress = [&form](const char* name) { return Find<QPushButton>(form, name)->isEnabled(); };
+    const float atOne = LineHeight(form);
+    for (int i = 0; i < 3; ++i) Press(form, "cmdMore");
+    EXPECT_NEAR(LineHeight(form), 8 * atOne, 0.5);
+    EXPECT_TRUE(mayPress("cmdMore"));
+    Press(form, "cmdMore");
+    EXPECT_NEAR(LineHeight(form), 8 * atOne, 0.5);
+    EXPECT_FALSE(mayPress("cmdMore"));
+    for (int i = 0; i < 5; ++i) Press(form, "cmdLess");
+    EXPECT_TRUE(mayPress("cmdLess") && mayPress("cmdMore"));
+    EXPECT_NEAR(LineHeight(form), atOne / 4, 0.5);
+    Press(form, "cmdLess");
+    EXPECT_NEAR(LineHeight(form), atOne / 4, 0.5);
+    EXPECT_FALSE(mayPress("cmdLess"));
+
+    auto* map = Find<MapSurface>(form, "Map");
+    QWheelEvent turn(map->rect().center(), map->mapToGlobal(map->rect().center()), {}, {0, 120}, Qt::NoButton,
+                     Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(map, &turn);
+    EXPECT_NEAR(LineHeight(form), atOne / 2, 0.5);
+    Press(form, "cmdClose");
+  });
+}
+
+TEST_F(frmShowContextTest, TheWebMapOpensAtTheStationInTheLanguageChosen) {
+  frmShowContext form(Everything, nullptr, selection_);
+  Use(form, [&form] {
+    Press(form, "cmdMap");
+    Press(form, "cmdClose");
+  });
+  EXPECT_EQ(System.Addresses,
+            QStringList("http://maps.google.com/maps?hl=es&q=40.5,+-75.25+%28QABC - NEW TOWN%29"));
+}
+
+}  // namespace
+}  // namespace kestrel
