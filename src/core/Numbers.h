@@ -15,9 +15,8 @@ namespace kestrel {
 ///
 ///     "12.5kW" -> 12.5    " -.5" -> -0.5    "1e3" -> 1000    "1e" -> 1    "1 2" -> 1    "x" -> 0
 ///
-/// Correctly rounded to double; limited to plus or minus the largest single, so 1e400 is that and 1e-400 is
-/// 0.
-/// "-0" keeps its sign. No number: 0.
+/// Correctly rounded to double; limited to plus or minus the largest single, as for 1e400. "-0" keeps its
+/// sign. No number: 0.
 double LeadingNumber(std::string_view text);
 
 /// A number as people type it: a comma is a decimal point, and a letter behind it scales it

@@ -54,12 +54,14 @@ class SessionSavingTest : public testing::Test {
   DataFolder folder_{temporary_.path()};
 };
 
+constexpr int kUntraced = 99;  // the status where the system lets nobody watch a process
+
 /// Runs `work` in a process of its own, killed as it enters or leaves the system for the `stop`th time,
 /// counted from 0. Returns its status, or nothing when it was killed.
 std::optional<int> RunKilledAt(int stop, const std::function<int()>& work) {
   const pid_t child = fork();
   if (child == 0) {
-    ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
+    if (ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0) _exit(kUntraced);
     raise(SIGSTOP);
     _exit(work());
   }
@@ -88,6 +90,7 @@ TEST_F(SessionSavingTest, KilledAnywhereItLeavesTheOldFileOrTheNewOne) {
         ASSERT_EQ(Save(old), 0);
       }
       const std::optional<int> status = RunKilledAt(stop, [this] { return Save(1230); });
+      if (status == kUntraced) GTEST_SKIP() << "the system lets no process be watched";
       const float saved = Saved();
       if (status) {
         EXPECT_EQ(*status, 0);
