@@ -49,20 +49,23 @@ void DrawOutline(Canvas& canvas, const Outline& outline, const MapProjection& pr
   JoinVertices(canvas, outline, points);
 }
 
-void JoinVertices(Canvas& canvas, const Outline& outline, std::span<const Point> points) {
-  std::vector<Point> stroke;
-  const auto endStroke = [&] {
-    if (stroke.size() > 1) canvas.Polyline(stroke);
-    stroke.clear();
+void JoinVertices(Canvas& canvas, const Outline& outline, std::span<Point> points) {
+  std::size_t begin = 0;  // of the present stroke
+  const auto endStroke = [&](std::size_t end) {
+    if (end > begin + 1) canvas.Polyline(points.subspan(begin, end - begin));
   };
   auto penUp = outline.PenUpBefore.begin();
   for (std::size_t i = 0; i < points.size(); ++i) {
-    bool lifted = stroke.empty() || IsLongStep(stroke.back(), points[i]);
+    const bool placed = std::isfinite(points[i].x) && std::isfinite(points[i].y);
+    bool lifted = !placed || i == begin || IsLongStep(points[i - 1], points[i]);
     for (; penUp != outline.PenUpBefore.end() && *penUp <= i; ++penUp) lifted = true;
-    if (lifted) endStroke();
-    if (std::isfinite(points[i].x) && std::isfinite(points[i].y)) stroke.push_back(Clamped(points[i]));
+    if (lifted) {
+      endStroke(i);
+      begin = placed ? i : i + 1;
+    }
+    points[i] = Clamped(points[i]);
   }
-  endStroke();
+  endStroke(points.size());
 }
 
 std::vector<std::string> DrawOutlineFiles(Canvas& canvas, const DataFolder& folder,

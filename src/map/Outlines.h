@@ -21,9 +21,9 @@ void DrawOutline(Canvas& canvas, const Outline& outline, const MapProjection& pr
 
 /// Joins the outline's vertices, which lie at `points`, on the canvas in its present colour. The pen is
 /// lifted at pen-up marks, where a vertex has no position, and where two vertices lie more than 2000 twips
-/// apart in x or y, so that a line which leaves the map or wraps is not drawn across it. REQUIRES: there are
-/// as many points as vertices.
-void JoinVertices(Canvas& canvas, const Outline& outline, std::span<const Point> points);
+/// apart in x or y, so that a line which leaves the map or wraps is not drawn across it. Brings the points
+/// within the coordinate range. REQUIRES: there are as many points as vertices.
+void JoinVertices(Canvas& canvas, const Outline& outline, std::span<Point> points);
 
 /// Draws "STATES.dat", the home mark and "REGION2.dat", each in its colour. A file that is missing or cannot be
 /// read draws nothing; returns why one that is there cannot, a line for each.
