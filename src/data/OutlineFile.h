@@ -9,7 +9,7 @@
 namespace kestrel {
 
 /// No outline has more; a file of ordinary lines that is as long as a file may be has fewer.
-inline constexpr std::size_t MaxVertices = 4'000'000;
+inline constexpr std::size_t MaxVertices = 2'000'000;
 
 /// The polylines of an outline file.
 struct Outline {
