@@ -37,6 +37,14 @@ TEST(SessionCommandTest, AMissingFileIsAFirstStart) {
   EXPECT_EQ(answer.Status, 0);
   EXPECT_EQ(Values(answer), Values(folder.Run({"session", "--json"})));
   EXPECT_EQ(Values(answer)["DataFolder"].toString(), folder.Path());
+
+  // The table for people has the same names, each at the beginning of a line.
+  const std::string table = '\n' + folder.Run({"session"}).Out;
+  EXPECT_NE(table.find("\nHomeLongitude          96.54139\n"), std::string::npos) << table;
+  const QStringList names = Values(answer).keys();
+  EXPECT_GT(names.size(), 20);
+  for (const QString& name : names)
+    EXPECT_NE(table.find('\n' + name.toStdString()), std::string::npos) << name.toStdString();
 }
 
 TEST(SessionCommandTest, AnUnreadableOrMissingOneThatACommandNeedsIsStatusOne) {
