@@ -149,8 +149,11 @@ ImportOutcome RunImport(const ImportRequest& request, const DataFolder& folder,
   outcome.changes = CompareWith(folder, files);
   goesOn(0.95, "writing the station files");
   if (outcome.failure || request.dryRun) return outcome;
-  if (const Result<Done> swapped = SwapInStations(folder, files); !swapped) outcome.failure = swapped.error();
-  goesOn(1, "done");
+  if (const Result<Done> swapped = SwapInStations(folder, files); !swapped) {
+    outcome.failure = swapped.error();
+    return outcome;
+  }
+  if (progress) progress(1, "done");  // it is too late for cancelling
   return outcome;
 }
 
