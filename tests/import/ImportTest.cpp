@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QDateTime>
+#include <QFile>
+
 #include "ImportTesting.h"
 #include "TestFolder.h"
 #include "import/DataSwap.h"
@@ -56,6 +59,28 @@ TEST(RunImport, CancelledAtAnyMomentItTellsWhatTheFolderHolds) {
     ExpectCountsAddUp(outcome.report);
   }
   EXPECT_GT(calls, 4);
+}
+
+TEST(RunImport, TheDateIsThatOfTheNewestFileWithRows) {
+  const TestFolder folder;
+  const struct {
+    const char* name;
+    std::string text;
+    QDate date;
+  } files[] = {{"old.txt", ListRow{}.Text(), {2026, 7, 1}},
+               {"new.txt", ListRow{.call = "QBBB", .facility = "2"}.Text(), {2026, 8, 2}},
+               {"letter.txt", "Dear listener,\n", {2026, 9, 3}}};
+  ImportRequest request;
+  for (const auto& [name, text, date] : files) {
+    folder.Put(name, text);
+    QFile file(folder.Path(name));
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(file.setFileTime(date.startOfDay(), QFileDevice::FileModificationTime));
+    request.files << folder.Path(name);
+  }
+  EXPECT_EQ(RunImport(request, folder.Folder()).stationsLine,
+            "The FCC's AM Query list, files of 2 August 2026, 2 stations");
+  EXPECT_EQ(folder.Text("Stations.txt"), "The FCC's AM Query list, files of 2 August 2026, 2 stations\r\n");
 }
 
 }  // namespace
