@@ -182,7 +182,9 @@ std::vector<std::string> WantedCountries(const std::string& list) {
 
 void Choose(const Request& request, const ImportArguments& arguments) {
   if (arguments.undo) {
-    if (!arguments.files.empty() || arguments.dryRun || arguments.report)
+    const ImportOptions& options = arguments.options;
+    if (!arguments.files.empty() || arguments.dryRun || arguments.report || options.includeSilent ||
+        options.includePermits || !options.countries.empty())
       throw WrongUse("import --undo: takes no files and no other options than --data and --json");
     return Undo(request);
   }

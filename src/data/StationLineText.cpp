@@ -75,6 +75,10 @@ std::string DecimalText(double value, int decimals, std::size_t width) {
   return text == "-0" ? "0" : text;
 }
 
+std::string DegreesText(float degrees) {
+  return NonZeroText(degrees, 4, kPositionWidth);
+}
+
 std::string StationRecordText(int channel, const StationRecord& record, FieldChanges& changes) {
   std::string text = std::to_string(channel);
   text += ',' + TextField(record.CallSign, kCallSignWidth, changes);
@@ -82,8 +86,8 @@ std::string StationRecordText(int channel, const StationRecord& record, FieldCha
   text += ',' + PadTo(TextField(record.State, kStateWidth, changes), kStateWidth);
   text += ',' + PadTo(TextField(record.Country, kCountryWidth, changes), kCountryWidth);
   text += ", " + record.HoursCode;
-  text += ", " + NonZeroText(record.Latitude, 4, kPositionWidth);
-  text += ", " + NonZeroText(record.Longitude, 4, kPositionWidth);
+  text += ", " + DegreesText(record.Latitude);
+  text += ", " + DegreesText(record.Longitude);
   text += ", " + NonZeroText(record.PowerKW, 4, kPowerWidth);
   text += ",-,-, " + std::to_string(record.TowerCount) + "\r\n";
   for (int tower = 1; tower <= record.TowerCount; ++tower)

@@ -25,6 +25,10 @@ struct FieldChanges {
 /// REQUIRES: TowerCount 0 to MaxTowers.
 std::string StationRecordText(int channel, const StationRecord& record, FieldChanges& changes);
 
+/// A latitude or longitude as the station files have it, in decimal degrees: at most 4 decimals, as many as
+/// fit into 8 characters; never 0, but 0.0001 or -0.0001.
+std::string DegreesText(float degrees);
+
 /// `value` in ordinary digits with at most `decimals` of them behind the point, fewer when the text would be
 /// longer than `width`; without trailing zeros, with a zero before the point: "0.25", "-33.4", "5", never
 /// "-0".

@@ -41,6 +41,10 @@ bool IsOnAir(std::string_view status, std::string_view country, bool includePerm
   return status == "LIC" || status == "STA" || (includePermits && (status == "MOD" || status == "CP"));
 }
 
+bool IsEnded(std::string_view status) {
+  return status == "CNL" || status == "EXP" || status == "DEL";
+}
+
 std::optional<char> HoursCode(std::string_view period) {
   if (period == "Daytime") return 'D';
   if (period == "Nighttime") return 'N';
@@ -104,6 +108,10 @@ std::optional<Fault> Reader::ReadStatus(Station& station) {
   station.hours = *hours;
   station.country = CountryCode(fields_[kCountry]);
   station.callSign = UpperCase(MendedName(fields_[kCall]));
+  station.city = MendedName(fields_[kCity]);
+  station.state = MendedName(fields_[kState]);
+  const double frequency = NumberWithUnit(fields_[kFrequency], "kHz").value_or(0);
+  if (IsOnRaster(frequency)) station.channel = static_cast<int>(frequency);
   if (fields_[kFacility] != "0" && fields_[kFacility] != "-") station.facility = fields_[kFacility];
   station.preference = static_cast<int>(status - kStatuses.begin());
   station.permit = station.country == "US" && *status != "LIC" && *status != "STA";
@@ -112,6 +120,7 @@ std::optional<Fault> Reader::ReadStatus(Station& station) {
   const bool named = IsCallSign(station.callSign);
   if (named && IsOnAir(*status, station.country, options_.includePermits)) return std::nullopt;
   if (!station.facility.empty()) stations_.offAir.emplace(station.facility, station.hours);
+  if (!named || IsEnded(*status)) stations_.endedIn[Identity(station)] = station.row.file;
   if (!named) return Fault{Finding::NotOnAir, "call sign " + Quoted(station.callSign)};
   return Fault{Finding::NotOnAir, station.callSign + ", status " + std::string(*status)};
 }
@@ -136,12 +145,9 @@ std::optional<Fault> Reader::ReadSite(Station& station) const {
   if (!options_.WantsCountry(station.country))
     return Fault{Finding::OtherCountry, station.callSign + ", " + station.country};
 
-  station.channel = static_cast<int>(*frequency);
   station.powerKW = *power;
   station.position = *position;
   station.directional = directional == "Directional";
-  station.city = MendedName(fields_[kCity]);
-  station.state = MendedName(fields_[kState]);
   return std::nullopt;
 }
 

@@ -3,6 +3,7 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -24,6 +25,9 @@ struct AmqStations {
   std::vector<Station> onAir;        ///< in the order read
   std::set<FacilityHours> offAir;    ///< periods that a list has under a status that is not on the air
   std::set<std::string> facilities;  ///< that a list has, on the air or not
+  /// The last file that has a station under a status that ends it, or without a call sign, by Identity. A
+  /// permit or an application beside a licence ends nothing.
+  std::unordered_map<std::string, int> endedIn;
 };
 
 /// Whether a line looks like a row of such a list; any number of fields from 31 on.

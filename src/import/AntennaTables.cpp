@@ -20,6 +20,27 @@ void Keep(std::unordered_map<std::string, Value>& map, std::string key, Value va
   at->second = std::move(value);
 }
 
+/// What an earlier file has under `key` is left out, now that this row is there and tells of nothing in its
+/// place.
+template <typename Value>
+void Withdraw(std::unordered_map<std::string, Value>& map, std::string_view key, const TableRow& row,
+              ImportReport& report) {
+  const auto at = map.find(std::string(key));
+  if (at == map.end() || at->second.row.file == row.Place().file) return;
+  report.LeaveOut(at->second.row, Finding::Superseded, at->first + ", by a later file");
+  map.erase(at);
+}
+
+/// A later file tells of a whole array anew, even when it has no tower of it in force.
+void WithdrawTowers(AntennaTables& tables, const std::string& system, const TableRow& row,
+                    ImportReport& report) {
+  const auto at = tables.towers.find(system);
+  if (at == tables.towers.end() || at->second.front().row.file == row.Place().file) return;
+  for (const TowerRow& old : at->second)
+    report.LeaveOut(old.row, Finding::Superseded, "tower " + std::to_string(old.number));
+  tables.towers.erase(at);
+}
+
 /// Rows of the current system that are no longer in force are left out here.
 bool IsInForce(TableRow& row) {
   if (!row.HasColumn("active_ind") || row.Text("active_ind") == "Y") return true;
@@ -33,16 +54,17 @@ void ReadAntennaSystem(TableRow& row, bool current, AntennaTables& tables, Impor
   system.id = row.Key("ant_sys_id");
   system.application = row.Key("application_id");
   system.current = current;
-  if (!IsInForce(row)) return;
+  const auto withdraw = [&] { Withdraw(tables.systems, system.id, row, report); };
+  if (!IsInForce(row)) return withdraw();
   if (row.HasColumn("eng_record_type") && row.Text("eng_record_type") != "C") {
     row.LeaveOut(Finding::NotLicensed,
                  "antenna system " + system.id + ", record type " + std::string(row.Text("eng_record_type")));
-    return;
+    return withdraw();
   }
   const std::string_view hours = row.Text("hours_operation");
   if (hours == "P" || hours == "X") {
     row.LeaveOut(Finding::OtherHours, "antenna system " + system.id + ", hours " + std::string(hours));
-    return;
+    return withdraw();
   }
   if (hours.size() != 1 || std::string_view("UDNCR").find(hours) == std::string_view::npos)
     row.Fail("hours_operation");
@@ -73,7 +95,7 @@ void ReadTower(TableRow& row, AntennaTables& tables, ImportReport& report) {
   TowerRow tower;
   tower.row = row.Place();
   std::string system = row.Key("ant_sys_id");
-  if (!IsInForce(row)) return;
+  if (!IsInForce(row)) return WithdrawTowers(tables, system, row, report);
   row.Key("tower_num");
   tower.number = static_cast<int>(row.Number("tower_num", 1, 1000).value_or(0));
   tower.field = row.Number("field_ratio", 0, 1e6);
@@ -86,13 +108,8 @@ void ReadTower(TableRow& row, AntennaTables& tables, ImportReport& report) {
   tower.fromPrevious = reference == "1";
   if (row.Faulty()) return;
 
+  WithdrawTowers(tables, system, row, report);
   std::vector<TowerRow>& towers = tables.towers[std::move(system)];
-  if (!towers.empty() && towers.front().row.file != tower.row.file) {
-    // A later file tells of the whole array anew.
-    for (const TowerRow& old : towers)
-      report.LeaveOut(old.row, Finding::Superseded, "tower " + std::to_string(old.number));
-    towers.clear();
-  }
   const auto same = std::find_if(towers.begin(), towers.end(),
                                  [&](const TowerRow& old) { return old.number == tower.number; });
   if (same == towers.end()) {
@@ -108,7 +125,7 @@ void ReadApplication(TableRow& row, std::unordered_map<std::string, ApplicationR
   ApplicationRow application;
   application.row = row.Place();
   std::string id = row.Key("application_id");
-  if (!IsInForce(row)) return;
+  if (!IsInForce(row)) return Withdraw(map, id, row, report);
   application.facility = row.Text("facility_id");
   application.domesticStatus = row.Letter("am_dom_status");
   const std::string_view service = row.Text("app_service");
@@ -121,7 +138,7 @@ void ReadApplication(TableRow& row, std::unordered_map<std::string, ApplicationR
 void ReadFacility(TableRow& row, AntennaTables& tables, ImportReport& report) {
   const std::string_view service = row.Text("fac_service");
   if (service != "AM") return row.LeaveOut(Finding::OtherService, "service \"" + std::string(service) + '"');
-  if (!IsInForce(row)) return;
+  if (!IsInForce(row)) return Withdraw(tables.facilities, row.Text("facility_id"), row, report);
   FacilityRow facility;
   facility.row = row.Place();
   std::string id = row.Key("facility_id");

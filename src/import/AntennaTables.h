@@ -11,7 +11,8 @@
 #include "import/TableLayout.h"
 
 // The rows of the antenna tables, kept by their keys until the stations are put together from them. Of
-// several rows with the same key the last one counts.
+// several rows with the same key the last one counts; one that is not in force takes away what an earlier
+// file has under its key.
 
 namespace kestrel {
 

@@ -21,16 +21,16 @@ struct Site {
 
 using SiteKey = std::tuple<std::string, int, std::string, std::string>;
 
-std::string PositionText(double degrees) {
-  std::string text = DecimalText(degrees, 4);
+std::string PositionColumn(double degrees) {
+  const std::string text = DegreesText(static_cast<float>(degrees));
   return std::string(9 - std::min<std::size_t>(9, text.size()), ' ') + text;
 }
 
 std::map<SiteKey, Site> SitesOf(const std::vector<Station>& stations) {
   std::map<SiteKey, Site> sites;
   for (const Station& station : stations) {
-    Site& site = sites[{station.callSign, station.channel, PositionText(station.position.latitude),
-                        PositionText(station.position.longitude)}];
+    Site& site = sites[{station.callSign, station.channel, PositionColumn(station.position.latitude),
+                        PositionColumn(station.position.longitude)}];
     if (!site.station) site.station = &station;
     site.powerKW = std::max(site.powerKW, station.powerKW);
     if (site.hours.find(station.hours) == std::string::npos) site.hours += station.hours;
@@ -67,8 +67,8 @@ std::string IndexLine(const Site& site) {
   std::string line = PadTo(std::string(Columns(station.callSign, 1, 8)), 13 - channel.size()) + channel + ' ';
   line = PadTo(line + std::string(Columns(name, 1, kNameWidth)), 39);
   line += std::string(7 - std::min<std::size_t>(7, power.size()), ' ') + power + " kW " + site.hours;
-  return PadTo(std::string(Columns(line, 1, 53)), 53) + PositionText(station.position.latitude) + ' ' +
-         PositionText(station.position.longitude) + "\r\n";
+  return PadTo(std::string(Columns(line, 1, 53)), 53) + PositionColumn(station.position.latitude) + ' ' +
+         PositionColumn(station.position.longitude) + "\r\n";
 }
 
 bool CanBeHome(const Site& site) {

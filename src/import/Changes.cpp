@@ -5,7 +5,9 @@
 #include <cmath>
 #include <map>
 #include <numbers>
+#include <optional>
 #include <tuple>
+#include <utility>
 
 #include "data/StationLineText.h"
 #include "import/SitePosition.h"
@@ -74,33 +76,33 @@ std::string Towers(float count) {
   return DecimalText(count, 0) + (count == 1 ? " tower" : " towers");
 }
 
+/// How many things a listener would be told of two antennas of one site: power, pattern.
+int Differences(const StationRecord& a, const StationRecord& b) {
+  return (a.PowerKW != b.PowerKW ? 1 : 0) + (SamePattern(a, b) ? 0 : 1);
+}
+
 /// The two sides, and which antennas of each have found their counterpart.
 class Comparison {
  public:
   Comparison(const std::vector<ListedAntenna>& before, const std::vector<ListedAntenna>& after)
       : before_(before), after_(after), foundBefore_(before.size()), foundAfter_(after.size()) {}
 
-  /// Pairs those of equal key, the nearest first, up to `farthest` km apart.
+  /// Pairs those of equal key on one site: the like ones first, so that the order of twins does not matter,
+  /// then the nearest.
   template <typename Key, typename Paired>
-  void Pair(Key key, double farthest, Paired paired) {
-    std::multimap<std::string, std::size_t> byKey;
-    for (std::size_t i = 0; i < before_.size(); ++i)
-      if (!foundBefore_[i]) byKey.emplace(key(before_[i].record), i);
-    std::vector<std::tuple<double, std::size_t, std::size_t>> pairs;
-    for (std::size_t j = 0; j < after_.size(); ++j) {
-      if (foundAfter_[j]) continue;
-      const auto [first, last] = byKey.equal_range(key(after_[j].record));
-      for (auto at = first; at != last; ++at) {
-        const double distance = Distance(before_[at->second].record, after_[j].record);
-        if (distance <= farthest) pairs.emplace_back(distance, at->second, j);
-      }
-    }
-    std::sort(pairs.begin(), pairs.end());
-    for (const auto& [distance, i, j] : pairs) {
-      if (foundBefore_[i] || foundAfter_[j]) continue;
-      foundBefore_[i] = foundAfter_[j] = true;
-      paired(before_[i], after_[j], distance);
-    }
+  void PairOnSite(Key key, Paired paired) {
+    Pair(key, paired, [](const StationRecord& a, const StationRecord& b, double distance) {
+      return distance <= kSamePlace ? std::optional(std::pair(double(Differences(a, b)), distance))
+                                    : std::nullopt;
+    });
+  }
+
+  /// Pairs those of equal key anywhere, the nearest first.
+  template <typename Key, typename Paired>
+  void PairAnywhere(Key key, Paired paired) {
+    Pair(key, paired, [](const StationRecord& a, const StationRecord& b, double distance) {
+      return std::optional(std::pair(distance, double(Differences(a, b))));
+    });
   }
 
   template <typename Left>
@@ -112,6 +114,30 @@ class Comparison {
   }
 
  private:
+  /// Pairs those of equal key, the smallest rank first; those without a rank do not belong together.
+  template <typename Key, typename Paired, typename Rank>
+  void Pair(Key key, Paired paired, Rank rank) {
+    std::multimap<std::string, std::size_t> byKey;
+    for (std::size_t i = 0; i < before_.size(); ++i)
+      if (!foundBefore_[i]) byKey.emplace(key(before_[i].record), i);
+    std::vector<std::tuple<std::pair<double, double>, std::size_t, std::size_t>> pairs;
+    for (std::size_t j = 0; j < after_.size(); ++j) {
+      if (foundAfter_[j]) continue;
+      const auto [first, last] = byKey.equal_range(key(after_[j].record));
+      for (auto at = first; at != last; ++at) {
+        const StationRecord& old = before_[at->second].record;
+        if (const auto ranked = rank(old, after_[j].record, Distance(old, after_[j].record)); ranked)
+          pairs.emplace_back(*ranked, at->second, j);
+      }
+    }
+    std::sort(pairs.begin(), pairs.end());
+    for (const auto& [ranked, i, j] : pairs) {
+      if (foundBefore_[i] || foundAfter_[j]) continue;
+      foundBefore_[i] = foundAfter_[j] = true;
+      paired(before_[i], after_[j], Distance(before_[i].record, after_[j].record));
+    }
+  }
+
   const std::vector<ListedAntenna>& before_;
   const std::vector<ListedAntenna>& after_;
   std::vector<bool> foundBefore_;
@@ -179,13 +205,14 @@ std::vector<Change> CompareChannel(const std::vector<ListedAntenna>& before,
   };
 
   Comparison comparison(before, after);
-  constexpr double kAnywhere = 1e9;
-  comparison.Pair([](const StationRecord& r) { return r.CallSign + '|' + r.HoursCode; }, kAnywhere, compare);
-  comparison.Pair([](const StationRecord& r) { return r.HoursCode; }, kSamePlace,
-                  [&](const ListedAntenna& old, const ListedAntenna& now, double distance) {
-                    add(ChangeKind::CallSign, now, old.record.CallSign, 0, 0);
-                    compare(old, now, distance);
-                  });
+  const auto call = [](const StationRecord& r) { return r.CallSign + '|' + r.HoursCode; };
+  comparison.PairOnSite(call, compare);
+  comparison.PairOnSite([](const StationRecord& r) { return r.HoursCode; },
+                        [&](const ListedAntenna& old, const ListedAntenna& now, double distance) {
+                          add(ChangeKind::CallSign, now, old.record.CallSign, 0, 0);
+                          compare(old, now, distance);
+                        });
+  comparison.PairAnywhere(call, compare);
   comparison.ForLeftOver(
       [&](ChangeKind kind, const ListedAntenna& antenna) { add(kind, antenna, {}, 0, 0); });
   std::stable_sort(changes.begin(), changes.end(), [](const Change& a, const Change& b) {

@@ -35,10 +35,11 @@ struct Change {
 /// The antennas of a station file.
 std::vector<ListedAntenna> ReadAntennas(int channel, const std::string& fileName, std::string_view bytes);
 
-/// The differences on one channel. Antennas belong together by call sign and hours; of several so alike the
-/// nearest. Those left over of the same hours within 1 km have changed their call sign; the rest are gone or
-/// new. An antenna more than 1 km off has moved; another power or, the power aside, another pattern are
-/// changes of their own. Sorted by kind, call sign and hours.
+/// The differences on one channel. Antennas of the same hours belong together: first those of one call sign
+/// within 1 km, of several those of like power and pattern, whatever their order; then those within 1 km of
+/// another call sign, which have changed it; then those of one call sign anywhere, the nearest first. The
+/// rest are gone or new. An antenna more than 1 km off has moved; another power or, the power aside, another
+/// pattern are changes of their own. Sorted by kind, call sign and hours.
 std::vector<Change> CompareChannel(const std::vector<ListedAntenna>& before,
                                    const std::vector<ListedAntenna>& after);
 

@@ -83,6 +83,7 @@ class Exchange {
   void Back(const SwapJournal& journal);
   void ClearUp(const SwapJournal& journal);
   Result<Done> Run(SwapJournal journal);
+  Result<Done> RunAnew(const SwapJournal& journal);
 
  private:
   bool Allowed() {
@@ -101,6 +102,7 @@ class Exchange {
   const SwapStep& step_;
   std::unique_ptr<QLockFile> lock_;
   std::optional<Stopped> stopped_;
+  bool moved_ = false;  // by this run, all of them
 };
 
 /// Whichever of the moves have been made already, makes the others.
@@ -142,11 +144,20 @@ Result<Done> Exchange::Run(SwapJournal journal) {
       Back(journal);
       return why;
     }
+    moved_ = !stopped_;
     journal.moved = true;
     Write(kJournal, JournalText(journal));
   }
   ClearUp(journal);
   return Outcome();
+}
+
+/// Run for a journal just written. Once all files have moved the work is done: clearing up that is refused is
+/// left to the next recovery.
+Result<Done> Exchange::RunAnew(const SwapJournal& journal) {
+  const Result<Done> outcome = Run(journal);
+  if (!outcome && moved_ && !stopped_->abandoned) return Done{};
+  return outcome;
 }
 
 bool IsOfTheSet(const QString& file) {
@@ -212,7 +223,7 @@ Result<Done> SwapInStations(const DataFolder& folder, const StationSet& files, c
     if (!failure->abandoned) exchange.RemoveFolder(kNewSet);
     return failure->error;
   }
-  return exchange.Run(journal);
+  return exchange.RunAnew(journal);
 }
 
 Result<Done> UndoImport(const DataFolder& folder, const SwapStep& step) {
@@ -226,7 +237,7 @@ Result<Done> UndoImport(const DataFolder& folder, const SwapStep& step) {
                             PresentFiles(folder.Path() + '/' + kKeptSet)};
   exchange.Write(kJournal, JournalText(journal));
   if (exchange.Failure()) return exchange.Outcome();
-  return exchange.Run(journal);
+  return exchange.RunAnew(journal);
 }
 
 Result<Done> RecoverImport(const DataFolder& folder, const SwapStep& step) {

@@ -17,8 +17,9 @@ using SwapStep = std::function<bool()>;
 /// Puts the set in the place of the folder's station files, "StationsCall.DAT" and "Stations.txt", and keeps
 /// those for UndoImport; what was kept before goes. No other file of the folder is touched. The new files are
 /// written beside the old ones first; interrupted before all are whole, the old set stays, later the new one
-/// is completed by RecoverImport. A failure brings the old set back. Errors: Refused, with the file that made
-/// the trouble, or the folder when it cannot be written to or another import is at work in it.
+/// is completed by RecoverImport. A failure brings the old set back; there is none once all files are
+/// exchanged. Errors: Refused, with the file that made the trouble, or the folder when it cannot be written
+/// to or another import is at work in it.
 Result<Done> SwapInStations(const DataFolder& folder, const StationSet& files, const SwapStep& step = {});
 
 /// Brings the set back that the last import replaced, and keeps the present one in its turn: done twice, all

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <charconv>
 #include <memory>
+#include <utility>
 
 #include "data/FileIo.h"
 #include "import/DataSwap.h"
@@ -39,15 +40,16 @@ class ProgressStream : public ByteStream {
   const std::function<bool(std::size_t)>& passed_;
 };
 
-/// Reads all files into the report and the readings. Of those that cannot be read all are named.
+/// Reads all files into the report and the readings. Of those that cannot be read all are named. `newest`
+/// becomes the time of the newest file that has rows.
 std::optional<Error> ReadAll(const ImportRequest& request, const ImportProgress& progress, Readings& readings,
-                             ImportReport& report) {
+                             ImportReport& report, QDateTime& newest) {
   std::optional<Error> failure;
   const auto fail = [&](const Error& error) {
     report.Refuse(error.file, error.text);
     if (!failure) failure = error;
   };
-  std::vector<std::unique_ptr<Intake>> intakes;
+  std::vector<std::pair<std::unique_ptr<Intake>, QDateTime>> intakes;
   std::uint64_t total = 1;
   for (const QString& path : request.files) {
     Result<std::unique_ptr<Intake>> intake = OpenIntake(path);
@@ -58,12 +60,13 @@ std::optional<Error> ReadAll(const ImportRequest& request, const ImportProgress&
     for (const Intake::Part& part : (*intake)->Parts()) total += part.size;
     if ((*intake)->Parts().empty())
       report.Refuse(QFileInfo(path).fileName().toStdString(), "is a zip without files");
-    intakes.push_back(std::move(*intake));
+    intakes.emplace_back(std::move(*intake), QFileInfo(path).lastModified());
   }
 
   std::uint64_t done = 0;
   bool cancelled = false;
-  for (const auto& intake : intakes) {
+  for (const auto& [intake, time] : intakes) {
+    const int rowsBefore = report.Total().rows;
     for (std::size_t i = 0; i < intake->Parts().size() && !cancelled; ++i) {
       const Intake::Part& part = intake->Parts()[i];
       Result<std::unique_ptr<ByteStream>> stream = intake->Open(i);
@@ -82,14 +85,13 @@ std::optional<Error> ReadAll(const ImportRequest& request, const ImportProgress&
       if (const std::string problem = counted.Problem(); !problem.empty())
         fail({Error::Kind::Malformed, part.name, 0, problem});
     }
+    if (report.Total().rows > rowsBefore) newest = std::max(newest, time);
   }
   return cancelled ? kCancelled : failure;
 }
 
 /// "The FCC's AM Query list and antenna tables, files of 2 August 2026, 10980 stations"
-std::string StationsLine(const ImportRequest& request, const Readings& readings, int stations) {
-  QDateTime newest;
-  for (const QString& path : request.files) newest = std::max(newest, QFileInfo(path).lastModified());
+std::string StationsLine(const QDateTime& newest, const Readings& readings, int stations) {
   std::string line = "The FCC's ";
   if (readings.hasAmq) line += "AM Query list";
   if (readings.hasAmq && readings.hasTables) line += " and ";
@@ -121,7 +123,8 @@ ImportOutcome RunImport(const ImportRequest& request, const DataFolder& folder,
                         const ImportProgress& progress) {
   ImportOutcome outcome;
   Readings readings;
-  outcome.failure = ReadAll(request, progress, readings, outcome.report);
+  QDateTime newest;
+  outcome.failure = ReadAll(request, progress, readings, outcome.report, newest);
   if (outcome.failure && outcome.failure->text == kCancelled.text) {
     outcome.report = {};  // its counts would not add up
     return outcome;
@@ -134,7 +137,7 @@ ImportOutcome RunImport(const ImportRequest& request, const DataFolder& folder,
   const std::vector<Station> stations =
       MergeStations(std::move(readings.amq), readings.tables, request.options, outcome.report);
   const StationSet files = [&] {
-    const std::string line = StationsLine(request, readings, SiteCount(stations));
+    const std::string line = StationsLine(newest, readings, SiteCount(stations));
     outcome.stationsLine = line;
     return MakeStationSet(stations, line, outcome.report);
   }();
@@ -149,8 +152,11 @@ ImportOutcome RunImport(const ImportRequest& request, const DataFolder& folder,
   outcome.changes = CompareWith(folder, files);
   goesOn(0.95, "writing the station files");
   if (outcome.failure || request.dryRun) return outcome;
-  if (const Result<Done> swapped = SwapInStations(folder, files); !swapped) outcome.failure = swapped.error();
-  goesOn(1, "done");
+  if (const Result<Done> swapped = SwapInStations(folder, files); !swapped) {
+    outcome.failure = swapped.error();
+    return outcome;
+  }
+  if (progress) progress(1, "done");  // it is too late for cancelling
   return outcome;
 }
 

@@ -23,7 +23,8 @@ struct ImportRequest {
   bool dryRun = false;  ///< write nothing
 };
 
-/// Called now and then with the share done, 0 to 1, and what is being done; false cancels.
+/// Called now and then with the share done, 0 to 1, and what is being done; false cancels, except at 1, when
+/// the new files are in their place.
 using ImportProgress = std::function<bool(double done, std::string_view what)>;
 
 struct ImportOutcome {

@@ -17,13 +17,6 @@ std::string Named(const Station& station) {
   return station.callSign + ' ' + std::to_string(station.channel) + ' ' + station.hours;
 }
 
-/// What makes two rows tell of the same antenna.
-std::string Identity(const Station& station) {
-  if (!station.facility.empty()) return station.facility + '|' + station.hours;
-  return station.callSign + '|' + std::to_string(station.channel) + '|' + station.country + '|' +
-         station.state + '|' + station.city + '|' + station.hours;
-}
-
 /// Whether row `a` counts rather than row `b` of the same station and hours.
 bool IsPreferred(const Station& a, const Station& b) {
   return std::tuple(-a.row.file, a.preference, -a.row.line) <
@@ -35,12 +28,18 @@ bool Overlap(char a, char b) {
   return (a == 'U' && (b == 'D' || b == 'N')) || (b == 'U' && (a == 'D' || a == 'N'));
 }
 
-/// One row for each station and hours; the others are left out.
-std::vector<Station> ChosenRows(std::vector<Station> rows, ImportReport& report) {
+/// One row for each station and hours, none for those that a later list ends; the others are left out.
+std::vector<Station> ChosenRows(AmqStations amq, ImportReport& report) {
   std::vector<Station> chosen;
   std::unordered_map<std::string, std::size_t> places;
-  for (Station& row : rows) {
-    const auto [at, isNew] = places.try_emplace(Identity(row), chosen.size());
+  for (Station& row : amq.onAir) {
+    const std::string identity = Identity(row);
+    if (const auto ended = amq.endedIn.find(identity);
+        ended != amq.endedIn.end() && ended->second > row.row.file) {
+      report.LeaveOut(row.row, Finding::Superseded, Named(row) + ", off the air in a later list");
+      continue;
+    }
+    const auto [at, isNew] = places.try_emplace(identity, chosen.size());
     if (isNew) {
       chosen.push_back(std::move(row));
       continue;
@@ -142,7 +141,7 @@ bool InOrder(const Station& a, const Station& b) {
 std::vector<Station> MergeStations(AmqStations amq, const AntennaTables& tables, const ImportOptions& options,
                                    ImportReport& report) {
   TableStations known(tables, options, report);
-  std::vector<Station> stations = ChosenRows(std::move(amq.onAir), report);
+  std::vector<Station> stations = ChosenRows({std::move(amq.onAir), {}, {}, std::move(amq.endedIn)}, report);
 
   const auto call = [](const Station& s) { return std::tuple(s.callSign, s.channel, s.hours); };
   std::map<std::tuple<std::string, int, char>, int> sameCall;

@@ -62,7 +62,7 @@ void ReadSourceFile(ByteStream& bytes, const std::string& name, const ImportOpti
     readings.hasTables = true;
     return ReadAntennaTable(lines, report.AddFile(name, layout->title), *layout, readings.tables, report);
   }
-  std::string reason = "is neither an AM Query list nor an antenna table: " + layout.error().text;
+  std::string reason = layout.error().text;
   if (head.starts_with('<') || head.find("<html") != std::string_view::npos)
     reason = "is a web page without rows; save the text list itself";
   else if (first.barFields > 0 && head.find("|^|") == std::string_view::npos)

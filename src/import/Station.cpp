@@ -7,6 +7,12 @@
 
 namespace kestrel {
 
+std::string Identity(const Station& station) {
+  if (!station.facility.empty()) return station.facility + '|' + station.hours;
+  return station.callSign + '|' + std::to_string(station.channel) + '|' + station.country + '|' +
+         station.state + '|' + station.city + '|' + station.hours;
+}
+
 bool IsOnRaster(double kilohertz) {
   return kilohertz >= LowestChannel && kilohertz <= HighestChannel && std::fmod(kilohertz, ChannelStep) == 0;
 }

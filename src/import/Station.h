@@ -35,6 +35,10 @@ struct Station {
   std::vector<Tower> towers;  ///< none: the antenna is not known
 };
 
+/// What makes two rows tell of the same antenna: facility and hours; where the facility is not known call
+/// sign, channel, town and hours.
+std::string Identity(const Station& station);
+
 /// Whether the channel is one of 530, 540, ... 1700 kHz.
 bool IsOnRaster(double kilohertz);
 

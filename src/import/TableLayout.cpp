@@ -15,8 +15,12 @@ constexpr std::size_t kSampleRows = 200;
 using Names = std::vector<std::string>;
 using Row = std::vector<std::string_view>;
 
-Error NoTable(std::string text) {
+Error Refused(std::string text) {
   return {Error::Kind::Malformed, "", 0, std::move(text)};
+}
+
+Error NoTable(const std::string& what) {
+  return Refused("is neither an AM Query list nor an antenna table: " + what);
 }
 
 bool Has(const Names& names, std::string_view name) {
@@ -131,7 +135,7 @@ Result<TableLayout> WithRequired(TableLayout layout, const TableColumns& known) 
   for (const std::string_view name : known.required)
     if (!Has(layout.columns, name)) missing += (missing.empty() ? "" : ", ") + std::string(name);
   if (missing.empty()) return layout;
-  return NoTable("the " + layout.title + ", without a column for " + missing);
+  return Refused("is the " + layout.title + ", but without a column for " + missing);
 }
 
 Result<TableLayout> ByHeader(const Names& names) {

@@ -117,13 +117,19 @@ TEST(ImportCommandTest, WhatCannotBeImportedIsNamedAndChangesNothing) {
   const Folder folder;
   folder.Write("amq", ListRow("KAAA", "US", "1"));
   folder.Write("letter", "Dear listener,\n");
+  const std::string kUndoAlone = "import --undo: takes no files and no other options than --data and --json";
   const struct {
     QStringList arguments;
     int status;
     std::string message;
   } rows[] = {
       {{}, 2, "import: name the files to import, or --undo"},
-      {{"amq", "--undo"}, 2, "import --undo: takes no files and no other options than --data and --json"},
+      {{"amq", "--undo"}, 2, kUndoAlone},
+      {{"--undo", "--dry-run"}, 2, kUndoAlone},
+      {{"--undo", "--report", "report"}, 2, kUndoAlone},
+      {{"--undo", "--include-silent"}, 2, kUndoAlone},
+      {{"--undo", "--include-permits"}, 2, kUndoAlone},
+      {{"--undo", "--countries", "US"}, 2, kUndoAlone},
       {{"amq", "--countries", "US,UK"},
        2,
        "--countries US,UK: \"UK\" is no country of the FCC's lists, as US, CA and MX are"},

@@ -105,6 +105,27 @@ TEST_F(frmImportTest, DryRunCancelAndRefusedFilesWriteNothing) {
   EXPECT_EQ(platform_.Messages.size(), 1) << "nothing to undo";
 }
 
+TEST_F(frmImportTest, CancelAtAnyMomentAndTheWindowKnowsWhatTheFolderHolds) {
+  const std::string before = folder_.Text("620x.dat");
+  bool imported = false;
+  for (int cancelAt = 1; !imported; ++cancelAt) {
+    ASSERT_LT(cancelAt, 50);
+    frmImport form(workspace_);
+    form.show();
+    form.AddFiles({folder_.Path("amq.txt")});
+    int rounds = 0;
+    platform_.OnEvents = [&](int) {
+      if (++rounds == cancelAt) Press(form, "cmdCancel");
+    };
+    Press(form, "cmdImport");
+    imported = folder_.Text("620x.dat") != before;
+    EXPECT_GE(rounds, cancelAt) << "it was cancelled at the last moment at the latest";
+    EXPECT_EQ(form.DataChanged(), imported) << cancelAt;
+    EXPECT_TRUE(Report(form).startsWith(imported ? "Imported" : "Nothing was written: cancelled"))
+        << cancelAt;
+  }
+}
+
 TEST_F(frmImportTest, OnlyTheStationsOfTheCountriesWanted) {
   std::string mexican = Row("XEAA", "1.0", "21");
   mexican.replace(mexican.find("|LIC|PLANO|TX|US|"), 17, "|CP|SALTILLO|CI|MX|");

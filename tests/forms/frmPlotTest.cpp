@@ -156,6 +156,35 @@ TEST_F(frmPlotTest, ThreePressesOfHoursReturnToAll) {
   EXPECT_EQ(Drawn(), all);
 }
 
+TEST_F(frmPlotTest, AnImportIsOnTheMapAndInTheListOfCallSigns) {
+  folder_.Put(
+      "amq.txt",
+      "|KAAA|620   kHz|AM ||UNL|Unlimited|B|B|LIC|PLANO|TX|US|BL-1|5.0    kW||||11|N|33|1|11.28|W|96|41|"
+      "56.04|OWNER, INC|0.0 km|0.0 mi|0.0 deg|1|0a|7|\n");
+  ASSERT_TRUE(LoadPlaceLists(data_, state_));
+  Open();
+  const Names before = Drawn();
+  const std::vector<std::string> calls = state_.CallList;
+  platform_.NextFiles = {folder_.Path("amq.txt")};
+  const auto inWindow = [&](std::vector<const char*> buttons) {
+    QTimer::singleShot(0, [buttons] {
+      QWidget* form = QApplication::activeModalWidget();
+      ASSERT_NE(form, nullptr);
+      for (const char* button : buttons)
+        QTest::mouseClick(form->findChild<QPushButton*>(button), Qt::LeftButton);
+    });
+    Press("cmdImport");
+  };
+  inWindow({"cmdAdd", "cmdImport", "cmdExit"});
+  EXPECT_EQ(Drawn(), (Names{"KAAA U"}));
+  ASSERT_EQ(state_.CallList.size(), 1U);
+  EXPECT_EQ(state_.CallList[0].substr(0, 4), "KAAA");
+
+  inWindow({"cmdUndo", "cmdExit"});
+  EXPECT_EQ(Drawn(), before);
+  EXPECT_EQ(state_.CallList, calls);
+}
+
 TEST_F(frmPlotTest, ZoomStopsAtBothLimits) {
   Open();
   for (int i = 0; i < 20; ++i) Press("cmdIn");

@@ -168,6 +168,45 @@ TEST(AntennaTables, EveryKindOfBadRowIsNamed) {
   }
 }
 
+TEST(AntennaTables, WhatALaterFileNoLongerHasInForceIsGone) {
+  const auto stations = [](const std::string& name, const std::string& later) {
+    auto texts = SampleTables(Order::A, true);
+    texts.emplace_back(name, later);
+    const TextImport import = ImportTexts(texts);
+    ExpectCountsAddUp(import.report);
+    std::string hours;
+    for (const Station& station : import.stations)
+      hours += station.hours + std::to_string(station.towers.size());
+    return hours;
+  };
+  const std::string antennas = SampleTables(Order::A, true)[0].second;
+  const std::string header = antennas.substr(0, antennas.find('\n') + 1);
+  std::string day = antennas.substr(header.size(), antennas.find('\n', header.size()) + 1 - header.size());
+  ASSERT_EQ(stations("again", header + day), "D3N1U1");
+  std::string archived = day;
+  archived.replace(archived.find("|3|C|"), 5, "|3|A|");
+  EXPECT_EQ(stations("archived", header + archived), "N1U1");
+  EXPECT_EQ(stations("both", header + archived + day), "D3N1U1");
+  EXPECT_EQ(stations("both", header + day + archived), "D3N1U1") << "in one file it has another meaning";
+  day.replace(day.find("|D|"), 3, "|P|");
+  EXPECT_EQ(stations("presunrise", header + day), "N1U1");
+
+  EXPECT_EQ(stations("antenna",
+                     "aapp_application_id|active_ind|am_antenna_record_id|hours_operation|lat_deg|lat_dir|"
+                     "lat_min|lat_sec|lon_deg|lon_dir|lon_min|lon_sec|power|tower_count|^|\n"
+                     "501|N|701|D|40|N|30|0|90|W|15|0|5.0|2|^|\n"),
+            "N1U1");
+  EXPECT_EQ(stations("towers",
+                     "active_ind|am_antenna_record_id|tower_num|field_ratio|tower_phasing|tower_spacing|"
+                     "tower_orientation|tower_ref_ind|^|\nN|701|1|1.0|0|0|0|0|^|\n"),
+            "D0N1U1");
+  EXPECT_EQ(stations("facility",
+                     "active_ind|callsign|community_served_city|community_served_state|country_code|"
+                     "facility_id|facility_status|frequency|latest_filing_version_id|service_code|^|\n"
+                     "N|WQAA|BRAVO|IL|US|901|LICEN|550|501|AM|^|\n"),
+            "U1");
+}
+
 TEST(AntennaTables, AnArrayThatIsNotWholeIsTakenWithoutItsPattern) {
   const TextImport import = WithChange("am_towers", "701|", "799|");
   EXPECT_EQ(import.Examples(Finding::TowersUnknown), "am_ant_sys.dat:2: WQAA D, 2 of 3 towers\n");

@@ -58,6 +58,33 @@ TEST(Changes, NamesakesAreTheNearest) {
   EXPECT_EQ(Differences(kOne + far, With(far, " 30,", " 31,") + kOne).substr(0, 8), "moved: 1");
 }
 
+TEST(Changes, TwinsAreKnownByWhatTheyRadiate) {
+  const std::string weak = kOne;
+  const std::string strong = With(kOne, " 1,-", " 10,-");
+  const std::string array = With(With(kArray, "QBBB", "QAAA"), " N, 45, 95, 5", " D, 40, 90, 10");
+  EXPECT_EQ(Differences(weak + strong + array, array + strong + weak), "No changes\n");
+  const std::string place = "  1230 QAAA D, TOWN, IL, United States";
+  EXPECT_EQ(Differences(weak + strong, strong), "gone: 1\n" + place + '\n');
+  EXPECT_EQ(Differences(strong + weak + array, array + weak), "gone: 1\n" + place + '\n');
+  EXPECT_EQ(Differences(weak, strong + weak), "new: 1\n" + place + '\n');
+  // One grew, and the order turned.
+  EXPECT_EQ(Differences(weak + strong, strong + With(kOne, " 1,-", " 2,-")),
+            "power: 1\n" + place + ": 1 kW -> 2 kW\n");
+  // A namesake a step aside is known by its place no more than by what it radiates.
+  EXPECT_EQ(Differences(weak + With(strong, "40,", "40.002,"), With(weak, "40,", "40.001,") + strong),
+            "No changes\n");
+}
+
+TEST(Changes, ACallSignThatWentElsewhereLeftItsSiteToAnother) {
+  const std::string site = ", TOWN, IL, United States";
+  const std::string far = With(kOne, "40,", "30,");
+  const std::string renamed = With(kOne, "QAAA", "QBBB");
+  EXPECT_EQ(Differences(kOne, far + renamed),
+            "new: 1\n  1230 QAAA D" + site + "\ncall sign: 1\n  1230 QBBB D" + site + ": was QAAA\n");
+  EXPECT_EQ(Differences(kOne + With(far, "QAAA", "QCCC"), far + renamed),
+            "call sign: 2\n  1230 QAAA D" + site + ": was QCCC\n  1230 QBBB D" + site + ": was QAAA\n");
+}
+
 TEST(Changes, TheTextStopsWhereItIsTold) {
   std::vector<Change> changes(3);
   for (Change& change : changes) change.callSign = "QAAA";

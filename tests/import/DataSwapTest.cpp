@@ -175,6 +175,18 @@ TEST_F(DataSwapTest, AFileThatCannotBeReplacedBringsTheOldSetBack) {
   ExpectTidy(folder, {});
 }
 
+TEST_F(DataSwapTest, AnExchangeThatCannotBeClearedUpIsNoFailure) {
+  const DataFolder folder = Fresh("old");
+  const auto blockTheJournalOnceMoved = [&] {
+    if (Holds(folder) == "new" && QFile::remove(folder.Path() + "/.import-journal"))
+      QDir(folder.Path()).mkdir(".import-journal");
+    return true;
+  };
+  EXPECT_TRUE(SwapInStations(folder, Set("new"), blockTheJournalOnceMoved));
+  EXPECT_TRUE(QFileInfo(folder.Path() + "/.import-journal").isDir());
+  EXPECT_EQ(Holds(folder), "new");
+}
+
 TEST_F(DataSwapTest, TwoImportsDoNotMeet) {
   const DataFolder folder = Fresh("old");
   QLockFile other(folder.Path() + "/.import-lock");

@@ -151,6 +151,34 @@ TEST(Merge, TheLastListCountsMost) {
   EXPECT_EQ(Summary(ImportTexts({{"one", old + split}}), "QAAA"), "D1N1U1");  // one list is taken at its word
 }
 
+TEST(Merge, AStationEndedInALaterListIsGone) {
+  const auto row = [](const std::string& status, const std::string& facility = "900001") {
+    return ListRow{.status = status, .facility = facility}.Text();
+  };
+  const auto left = [](const std::vector<std::string>& lists) {
+    std::vector<std::pair<std::string, std::string>> texts;
+    for (const std::string& list : lists) texts.emplace_back("list" + std::to_string(texts.size()), list);
+    const TextImport import = ImportTexts(texts);
+    ExpectCountsAddUp(import.report);
+    return Summary(import, "QAAA");
+  };
+  for (const char* status : {"DEL", "CNL", "EXP"}) {
+    EXPECT_EQ(left({row("LIC"), row(status)}), "") << status;
+    EXPECT_EQ(left({row("LIC", ""), row(status, "0")}), "") << status;
+    EXPECT_EQ(left({row(status), row("LIC")}), "U1") << status;
+    EXPECT_EQ(left({row("LIC"), row(status), row("LIC")}), "U1") << status;
+    EXPECT_EQ(left({row("LIC") + row(status)}), "U1") << status;
+    EXPECT_EQ(left({row("LIC"), row(status) + row("LIC")}), "U1") << status;
+  }
+  for (const char* status : {"CP", "APP"}) EXPECT_EQ(left({row("LIC"), row(status)}), "U1") << status;
+  EXPECT_EQ(left({row("LIC"), ListRow{.call = "-"}.Text()}), "");
+  EXPECT_EQ(left({row("LIC"), ListRow{.hours = "Nighttime", .status = "DEL"}.Text()}), "U1");
+  EXPECT_EQ(left({row("LIC", ""), ListRow{.status = "DEL", .city = "ELSEWHERE", .facility = ""}.Text()}),
+            "U1");
+  EXPECT_EQ(ImportTexts({{"old", row("LIC")}, {"new", row("DEL")}}).Examples(Finding::Superseded),
+            "old:1: QAAA 1230 U, off the air in a later list\n");
+}
+
 TEST(Merge, StationsOfOneCallSignAtDifferentPlacesStayApart) {
   const std::string text =
       ListRow{.call = "XE", .status = "CP", .city = "A", .country = "MX", .facility = "0"}.Text() +

@@ -94,6 +94,26 @@ TEST(CallIndex, ALineForEachSiteInTheColumnsOfTheReader) {
   EXPECT_EQ(import.Examples(Finding::NoHome), "amq.txt:4: QCCC 1230, ICE, IL, 1 kW\n");
 }
 
+TEST(CallIndex, ASiteStandsWhereItsStationFileHasIt) {
+  const TextImport import = ImportTexts(
+      {{"amq.txt",
+        ListRow{
+            .call = "QEQU", .status = "CP", .country = "EC", .latitude = "N|0|0|0", .longitude = "W|78|30|0"}
+                .Text() +
+            ListRow{.call = "QFAR", .facility = "2", .longitude = "W|144|45|23.2"}.Text()}});
+  const auto entries = ReadPlaceList(import.files.at("StationsCall.DAT"), MaxCalls);
+  ASSERT_EQ(entries->size(), 2U);
+  StationFileReader reader("1230x.dat", import.files.at("1230x.dat"));
+  for (const std::string& entry : *entries) {
+    const Place place = CutCall(entry);
+    const StationRecord* record = reader.Next();
+    ASSERT_NE(record, nullptr);
+    EXPECT_EQ(std::stof(place.LatitudeText), record->Latitude) << entry;
+    EXPECT_EQ(std::stof(place.LongitudeText), record->Longitude) << entry;
+  }
+  EXPECT_EQ(CutCall(entries->at(0)).LatitudeText, "0.0001");
+}
+
 TEST(CallIndex, WhatHasNoRoomIsWeakOrASecondSiteAndReported) {
   // 8998 strong stations of a large town, and four that compete for the last two places.
   std::string text;

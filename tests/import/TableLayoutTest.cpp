@@ -58,9 +58,9 @@ TEST(TableLayout, WhatIsNoTableIsRefusedWithTheReason) {
   EXPECT_EQ(Refusal("1|2|3|^|\n"), start + "rows of 3 columns that are none of the antenna tables'");
   EXPECT_EQ(Refusal("|a|b|c|\n|d|e|f|\n"), start + "rows of 3 fields, 31 to 33 expected");
   EXPECT_EQ(Refusal("ant_sys_id|tower_num|field_ratio|^|\n1|1|1|^|\n"),
-            start +
-                "the am_towers table, without a column for phasing_deg, spacing_deg, orientation_deg, "
-                "tower_ref_switch");
+
+            "is the am_towers table, but without a column for phasing_deg, spacing_deg, orientation_deg, "
+            "tower_ref_switch");
   EXPECT_EQ(Refusal("active_ind|something|^|\nY|1|^|\n"), start + "a table that the importer does not use");
   EXPECT_EQ(Refusal(""), "is empty");
   EXPECT_EQ(Refusal(std::string(200'000, '\0')), "holds nothing but blanks or zeros");
@@ -94,9 +94,7 @@ TEST(TableLayout, TablesOfTheCurrentSystemGoByTheirHeader) {
 
   std::string without = tower;
   without.replace(without.find("tower_phasing"), 13, "tower_current");
-  EXPECT_EQ(Refusal(without),
-            "is neither an AM Query list nor an antenna table: the app_am_tower table, without a column for "
-            "phasing_deg");
+  EXPECT_EQ(Refusal(without), "is the app_am_tower table, but without a column for phasing_deg");
 }
 
 }  // namespace
