@@ -143,6 +143,7 @@ TEST_F(PatternTest, TheTableHasEveryValueOfTheListInThousandths) {
   const QJsonArray list = Search({"--call", "QDIR", "--hours", "N"})[0].toObject()["values"].toArray();
   const std::string table = folder_.Run({"pattern", "--call", "QDIR", "--hours", "N"}).Out;
   std::istringstream lines(table.substr(table.find('\n', table.find("Azimuth"))));
+  lines.imbue(std::locale::classic());
   int azimuth = 0;
   for (int first = 0; lines >> first;) {
     ASSERT_EQ(first, azimuth);

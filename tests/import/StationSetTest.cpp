@@ -108,8 +108,8 @@ TEST(CallIndex, ASiteStandsWhereItsStationFileHasIt) {
     const Place place = CutCall(entry);
     const StationRecord* record = reader.Next();
     ASSERT_NE(record, nullptr);
-    EXPECT_EQ(std::stof(place.LatitudeText), record->Latitude) << entry;
-    EXPECT_EQ(std::stof(place.LongitudeText), record->Longitude) << entry;
+    EXPECT_EQ(static_cast<float>(LeadingNumber(place.LatitudeText)), record->Latitude) << entry;
+    EXPECT_EQ(static_cast<float>(LeadingNumber(place.LongitudeText)), record->Longitude) << entry;
   }
   EXPECT_EQ(CutCall(entries->at(0)).LatitudeText, "0.0001");
 }
