@@ -59,7 +59,7 @@ const GlyphCache::Glyph& GlyphCache::Made(int letter, int step) {
   glyph.width = right - left + 1;
   glyph.height = bottom - top + 1;
   glyph.step = (glyph.width + 7) / 8 * 8;
-  glyph.ink.resize(static_cast<std::size_t>(glyph.step * glyph.height));
+  glyph.ink.resize(static_cast<std::size_t>(glyph.step) * static_cast<std::size_t>(glyph.height));
   std::uint8_t* ink = glyph.ink.data();
   for (int y = top; y <= bottom; ++y, ink += glyph.step)
     for (int x = left; x <= right; ++x) ink[x - left] = static_cast<std::uint8_t>(qGreen(rowAt(y)[x]));

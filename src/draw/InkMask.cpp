@@ -30,6 +30,7 @@ int RoundUp(int pixels, int shift) {
 
 /// Adds a share of a pixel, 0 to 1, up to the whole pixel.
 void Ink(std::uint8_t* pixel, float share) {
+  // NOLINTNEXTLINE(bugprone-incorrect-roundings): never negative, and run for every pixel of every line.
   const int sum = *pixel + static_cast<int>(share * 255 + 0.5F);
   *pixel = static_cast<std::uint8_t>(std::min(sum, 255));
 }
@@ -49,8 +50,7 @@ InkMask::InkMask(QSize size, int top)
       nearBottom_(static_cast<float>(top + height_ + kBorder) + kNear),
       ink_(static_cast<std::size_t>(stride_) * static_cast<std::size_t>(rows_)),
       touched_(static_cast<std::size_t>(rows_)),
-      firstTouched_(rows_),
-      lastTouched_(-1) {}
+      firstTouched_(rows_) {}
 
 void InkMask::Touch(float left, float top, float right, float bottom) {
   const auto block = [&](float x) {
@@ -165,7 +165,7 @@ void InkMask::AddPoint(Point center) {
 
 void InkMask::LayBlock(int row, int block, QRgb color, QRgb* line) {
   const int pixels = 1 << blockShift_;
-  std::uint8_t* const ink = ink_.data() + row * std::ptrdiff_t{stride_} + block * pixels;
+  std::uint8_t* const ink = ink_.data() + row * std::ptrdiff_t{stride_} + block * std::ptrdiff_t{pixels};
   const int left = block * pixels - kBorder;
   if (left >= 0 && left + pixels <= width_) {
     MixRows(color, {ink, 0}, {line + left, 0}, pixels / 8, 1);

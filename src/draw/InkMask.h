@@ -52,8 +52,8 @@ class InkMask {
   // Places whose ink needs no look at the borders, in pixels from the border's corner.
   float nearLeft_, nearRight_, nearTop_, nearBottom_;
   std::vector<std::uint8_t> ink_;
-  std::vector<std::uint64_t> touched_;  // by row, a bit for each block
-  int firstTouched_, lastTouched_;      // rows
+  std::vector<std::uint64_t> touched_;   // by row, a bit for each block
+  int firstTouched_, lastTouched_ = -1;  // rows
 };
 
 }  // namespace kestrel

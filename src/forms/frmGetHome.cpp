@@ -38,7 +38,7 @@ frmGetHome::frmGetHome(const Workspace& workspace, QWidget* parent) : QDialog(pa
   };
   cities->Taken = takeWith(state.CityList, TakeCity);
   calls->Taken = takeWith(state.CallList, CutCall);
-  connect(accept, &QPushButton::clicked, this, [this] { Accept(); });
+  connect(accept, &QPushButton::clicked, this, [this] { TakeTyped(); });
   connect(old, &QPushButton::clicked, this, &QDialog::reject);
   connect(map, &QPushButton::clicked, this, [this] { UseMap(); });
 
@@ -88,7 +88,7 @@ void frmGetHome::Take(const Place& place) {
   workspace_.State.HomeName = takenName_ = place.Name;
 }
 
-void frmGetHome::Accept() {
+void frmGetHome::TakeTyped() {
   // The boxes show rounded text: one that nobody changed is not read back.
   const HomePosition typed =
       ReadHomePosition(latitude_->text().toStdString(), longitude_->text().toStdString());

@@ -18,7 +18,7 @@ class frmGetHome final : public QDialog {
 
  private:
   void Take(const Place& place);
-  void Accept();
+  void TakeTyped();
   void UseMap();
   void ShowCoordinates(const std::string& latitude, const std::string& longitude);
 

@@ -71,7 +71,7 @@ QLabel* frmOpening::AddLabel(const char* name, const QString& caption, FontFace 
   return label;
 }
 
-void frmOpening::AddButton(const char* name, const QString& caption, std::function<void()> action) {
+void frmOpening::AddButton(const char* name, const QString& caption, const std::function<void()>& action) {
   auto* button = new QPushButton(caption, this);
   button->setObjectName(name);
   button->setAutoDefault(true);

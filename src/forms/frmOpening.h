@@ -35,7 +35,7 @@ class frmOpening final : public QWidget {
 
  private:
   QLabel* AddLabel(const char* name, const QString& caption, FontFace face);
-  void AddButton(const char* name, const QString& caption, std::function<void()> action);
+  void AddButton(const char* name, const QString& caption, const std::function<void()>& action);
   void Start();
   void ReadSessionOnce();
   void PlaceControls();

@@ -24,7 +24,7 @@ frmPlotStates::frmPlotStates(const Workspace& workspace, QWidget* parent)
   DrawStatesMap(map_->Drawing(), workspace_.Folder);
 
   // Its texts stand side by side and must not grow into each other.
-  constexpr double kSmallestXHeight = 4.5;
+  constexpr double kSmallestXHeight = 4.2;
   readout_ = new MapSurface(this, StatesReadoutArea, kSmallestXHeight);
   readout_->setObjectName("Readout");
 

@@ -26,7 +26,7 @@ std::string Folder::Read(const QString& name) const {
   return file.readAll().toStdString();
 }
 
-Answer Folder::Run(QStringList arguments) const {
+Answer Folder::Run(const QStringList& arguments) const {
   return RunIn(Path(), QStringList{"--data", Path()} + arguments);
 }
 

@@ -33,7 +33,7 @@ class Folder {
   std::string Read(const QString& name) const;
 
   /// Runs the companion with this folder as --data and as the current one.
-  Answer Run(QStringList arguments) const;
+  Answer Run(const QStringList& arguments) const;
 
  private:
   QTemporaryDir dir_;

@@ -260,8 +260,8 @@ void Monkey::UseMouse(QWidget& window) {
     const Qt::MouseButton button = Below(4) == 0 ? Qt::RightButton : Qt::LeftButton;
     const QPointer<QWidget> there = target;
     QTest::mousePress(target, button, {}, at);
-    if (there && choice > 3) QTest::mouseMove(there, to);
-    if (there) QTest::mouseRelease(there, button, {}, choice > 3 ? to : at);
+    if (!there.isNull() && choice > 3) QTest::mouseMove(there, to);
+    if (!there.isNull()) QTest::mouseRelease(there, button, {}, choice > 3 ? to : at);
   }
 }
 

@@ -4,6 +4,7 @@
 
 #include "ImportTesting.h"
 #include "core/Lines.h"
+#include "core/Numbers.h"
 #include "data/PlaceLists.h"
 #include "data/StationFile.h"
 #include "data/StationLineText.h"
