@@ -7,7 +7,6 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QSettings>
-#include <QToolTip>
 #include <algorithm>
 #include <tuple>
 #include <utility>
@@ -261,7 +260,7 @@ void frmPlot::ClickAt(Point place) {
   const StationMark* mark = MarkAt(place);
   if (!mark) return;
   if (OpensLookup(*mark, workspace_.State)) return LookUp(QString::fromStdString(mark->CallSign));
-  QToolTip::showText(QCursor::pos(), TipAt(place), surface_);
+  surface_->ShowTip(QCursor::pos(), TipAt(place));
 }
 
 void frmPlot::closeEvent(QCloseEvent* event) {

@@ -2,6 +2,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QTextDocument>
 #include <QToolTip>
 #include <algorithm>
 
@@ -84,8 +85,13 @@ void MapSurface::mouseReleaseEvent(QMouseEvent* event) {
 bool MapSurface::event(QEvent* event) {
   if (event->type() != QEvent::ToolTip || !TipWanted) return QWidget::event(event);
   const auto* help = static_cast<QHelpEvent*>(event);
-  QToolTip::showText(help->globalPos(), TipWanted(ToSheet(help->pos())), this);
+  ShowTip(help->globalPos(), TipWanted(ToSheet(help->pos())));
   return true;
+}
+
+void MapSurface::ShowTip(QPoint place, const QString& text) {
+  // What stands in a file is text, also where it looks like markup.
+  QToolTip::showText(place, Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text, this);
 }
 
 void MapSurface::wheelEvent(QWheelEvent* event) {

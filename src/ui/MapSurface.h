@@ -41,6 +41,9 @@ class MapSurface final : public QWidget {
   std::function<void(Point)> Clicked;
   /// Called when the mouse rests at a position; what it returns is shown there, unless it is empty.
   std::function<QString(Point)> TipWanted;
+  /// Shows a plain text at a place of the screen, as long as the mouse stays there.
+  void ShowTip(QPoint place, const QString& text);
+
   /// Called with the wheel's whole steps, away from the user positive.
   std::function<void(int)> WheelTurned;
 

@@ -89,11 +89,10 @@ TEST_F(frmGetStationDataTest, OneEnterShowsAPatternAndTheArrowsTheNextOne) {
   const std::vector<Point> round = day.All("Polyline").at(0).Points;
   const std::vector<Point> wide = Plotted().All("Polyline").at(0).Points;
   ASSERT_EQ(wide.size(), round.size());
-  const float center = (round[90].x + round[270].x) / 2;
-  const float radius = (round[90].x - round[270].x) / 2;
   for (std::size_t i = 0; i < wide.size(); ++i) {
     const double bearing = static_cast<double>(i) / 57.29578;
-    EXPECT_NEAR(round[i].x, center + radius * std::sin(bearing), 2) << i;
+    EXPECT_NEAR(round[i].x, 6000 + 1985 * std::sin(bearing), 2) << i;
+    EXPECT_NEAR(round[i].y, 6500 - 1985 * std::cos(bearing), 2) << i;
     EXPECT_NEAR(wide[i].x - wide[0].x, 1.5F * (round[i].x - round[0].x), 2) << i;
     EXPECT_NEAR(wide[i].y, round[i].y, 0.5) << i;
   }
