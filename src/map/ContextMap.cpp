@@ -105,7 +105,7 @@ void DrawContextMap(Canvas& canvas, const DataFolder& folder, float latitude, fl
   for (const char* name : {"REGION2.dat", "STATES.dat"}) {
     const Result<QByteArray> bytes = folder.Read(name);
     if (!bytes) {
-      unreadable.push_back(name);
+      unreadable.emplace_back(name);
       continue;
     }
     canvas.SetColor(kBlack);
