@@ -12,10 +12,6 @@
 namespace kestrel {
 namespace {
 
-bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
-
 /// A decimal number as it stands in the text: digits times ten to the exponent.
 struct Decimal {
   bool negative = false;

@@ -4,12 +4,42 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "core/EightCharacters.h"
+
 namespace kestrel {
 
 /// Powers of ten that a double holds exactly.
 inline constexpr std::array<double, 23> PowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                                        1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
                                                        1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+
+inline bool IsDigit(char c) {
+  return static_cast<unsigned char>(c - '0') < 10;
+}
+
+/// A number without a sign of at most eight characters. Nine can be read at `at`; the digits are moved
+/// together where they lie, without a loop. Returns where the number ends, nullptr for none and for a longer
+/// one.
+inline const char* ReadShortNumber(const char* at, double& magnitude) {
+  const std::uint64_t values = EightCharacters(at) ^ (0x0101010101010101 * '0');
+  const std::uint64_t others = BytesFrom(values, 10);
+  const int whole = BytesBefore(others);
+  const bool hasPoint = whole < 8 && at[whole] == '.';
+  const int length = hasPoint ? BytesBefore(others & (others - 1)) : whole;
+  if (length == 8 && (IsDigit(at[8]) || at[8] == '.')) return nullptr;
+  const int decimals = hasPoint ? length - whole - 1 : 0;
+  const int count = whole + decimals;
+  if (count == 0) return nullptr;
+  // Written without branches, since no two numbers of a file are alike.
+  const std::uint64_t front = (std::uint64_t{1} << 8 * (whole % 8)) - 1;
+  const std::uint64_t back = hasPoint ? values >> 8 : values;
+  const std::uint64_t digits = (values & front) | (back & ~front);
+  // Moved up until they end with the word, zeros before them; what stood behind them falls out.
+  const std::uint64_t number = EightDigits(digits << 8 * (8 - count));
+  magnitude = static_cast<double>(static_cast<std::int64_t>(number)) /
+              PowersOfTen[static_cast<std::size_t>(decimals)];
+  return at + length;
+}
 
 /// Reads a number as the data files mostly hold it: an optional minus sign, then up to 15 digits with at most
 /// one point among them. Returns where it ends and stores its value, correctly rounded: 15 digits and the
@@ -18,23 +48,30 @@ inline constexpr std::array<double, 23> PowersOfTen = {1e0,  1e1,  1e2,  1e3,  1
 /// at.
 inline const char* ReadPlainNumber(const char* at, const char* end, double& value) {
   constexpr std::ptrdiff_t kMostDigits = 15;
-  const auto isDigit = [end](const char* c) { return c != end && static_cast<unsigned char>(*c - '0') < 10; };
+  const auto atDigit = [&] { return at != end && IsDigit(*at); };
   const bool negative = at != end && *at == '-';
   if (negative) ++at;
+  double magnitude = 0;
+  if (end - at > 8) {
+    if (const char* const behind = ReadShortNumber(at, magnitude)) {
+      value = negative ? -magnitude : magnitude;
+      return behind;
+    }
+  }
   const char* const begin = at;
   std::uint64_t digits = 0;
-  for (; isDigit(at); ++at) digits = digits * 10 + static_cast<std::uint64_t>(*at - '0');
+  for (; atDigit(); ++at) digits = digits * 10 + static_cast<std::uint64_t>(*at - '0');
   std::ptrdiff_t count = at - begin;
   std::ptrdiff_t decimals = 0;
   if (at != end && *at == '.') {
     const char* const point = at++;
-    for (; isDigit(at); ++at) digits = digits * 10 + static_cast<std::uint64_t>(*at - '0');
+    for (; atDigit(); ++at) digits = digits * 10 + static_cast<std::uint64_t>(*at - '0');
     decimals = at - point - 1;
     count += decimals;
   }
   if (count == 0 || count > kMostDigits) return nullptr;
-  auto magnitude = static_cast<double>(static_cast<std::int64_t>(digits));
-  if (decimals > 0) magnitude /= PowersOfTen[static_cast<std::size_t>(decimals)];
+  magnitude = static_cast<double>(static_cast<std::int64_t>(digits)) /
+              PowersOfTen[static_cast<std::size_t>(decimals)];
   value = negative ? -magnitude : magnitude;
   return at;
 }

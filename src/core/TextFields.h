@@ -1,11 +1,11 @@
 #pragma once
 
 #include <array>
-#include <bit>
 #include <cstdint>
-#include <cstring>
 #include <optional>
 #include <string_view>
+
+#include "core/EightCharacters.h"
 
 // Cutting a data line into its fields, front to back.
 //
@@ -37,17 +37,6 @@ inline std::optional<std::string_view> NextField(std::string_view& line) {
   return CutField(line, ',');
 }
 
-/// The bits 7 of the bytes of `eight` that are commas, in the order of the bytes in memory from bit 7 on.
-inline std::uint64_t CommasAmong(const char* eight) {
-  constexpr std::uint64_t kLow7 = 0x7F7F7F7F7F7F7F7F;
-  std::uint64_t bytes = 0;
-  std::memcpy(&bytes, eight, sizeof bytes);
-  if constexpr (std::endian::native == std::endian::big) bytes = __builtin_bswap64(bytes);
-  const std::uint64_t differences = bytes ^ (0x0101010101010101 * ',');
-  // Bit 7 of a sum is set where the byte's low bits are not all 0; no sum carries into the next byte.
-  return ~(((differences & kLow7) + kLow7) | differences | kLow7);
-}
-
 /// The first N comma-separated fields of a line, as NextField cuts them one after the other; those that the
 /// line lacks are empty.
 template <std::size_t N>
@@ -62,8 +51,8 @@ std::array<std::string_view, N> FirstFields(std::string_view line) {
     begin = comma + 1;
   };
   for (; end - at >= 8; at += 8)
-    for (std::uint64_t commas = CommasAmong(at); commas != 0; commas &= commas - 1) {
-      endField(at + std::countr_zero(commas) / 8);
+    for (std::uint64_t commas = CommasAmong(EightCharacters(at)); commas != 0; commas &= commas - 1) {
+      endField(at + BytesBefore(commas));
       if (count == N) return fields;
     }
   for (; at != end; ++at)

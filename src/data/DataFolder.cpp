@@ -45,9 +45,11 @@ std::optional<QString> DataFolder::Find(const QString& name) const {
 }
 
 Result<QByteArray> DataFolder::Read(const QString& name, qint64 largest) const {
+  // Nearly always it is there under the very name.
+  Result<QByteArray> bytes = ReadFile(QDir(path_).filePath(name), largest);
+  if (bytes || bytes.error().kind != Error::Kind::NotFound) return bytes;
   const std::optional<QString> path = Find(name);
-  if (!path) return Error{Error::Kind::NotFound, name.toStdString(), 0, "there is no such file"};
-  return ReadFile(*path, largest);
+  return path ? ReadFile(*path, largest) : bytes;
 }
 
 bool DataFolder::Has(const QString& name) const {

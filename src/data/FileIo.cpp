@@ -1,5 +1,7 @@
 #include "data/FileIo.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QFile>
@@ -12,6 +14,39 @@ namespace {
 
 Error Failure(const QString& path, Error::Kind kind, const QString& text) {
   return {kind, QFileInfo(path).fileName().toStdString(), 0, text.toStdString()};
+}
+
+Error NotAFile(const QString& path) {
+  return Failure(path, Error::Kind::NotAFile, "is a folder or a device, not a file");
+}
+
+/// Reads a file that should have `size` bytes into `bytes`, which holds one more. Returns how many there
+/// were, size + 1 when there are still more; -1 and errno when it cannot be read.
+ssize_t ReadAll(int file, ssize_t size, char* bytes) {
+  ssize_t length = 0;
+  do {
+    const ssize_t count = read(file, bytes + length, static_cast<std::size_t>(size + 1 - length));
+    if (count == 0) break;
+    if (count < 0 && errno != EINTR) return -1;
+    if (count > 0) length += count;
+  } while (length < size);
+  return length;
+}
+
+Result<QByteArray> ReadOpened(int file, const QString& path, qint64 largest) {
+  struct stat status = {};
+  if (fstat(file, &status) != 0) return Failure(path, Error::Kind::Refused, qt_error_string(errno));
+  if (!S_ISREG(status.st_mode)) return NotAFile(path);
+  if (status.st_size > largest)
+    return Failure(path, Error::Kind::TooLarge,
+                   QString("is larger than %1 MB, the most that is read").arg(largest >> 20));
+  QByteArray bytes(status.st_size + 1, Qt::Uninitialized);
+  const ssize_t length = ReadAll(file, status.st_size, bytes.data());
+  if (length < 0) return Failure(path, Error::Kind::Refused, qt_error_string(errno));
+  if (length != status.st_size)
+    return Failure(path, Error::Kind::Refused, "changed while it was read; try again when it is complete");
+  bytes.truncate(length);
+  return bytes;
 }
 
 /// Writes all and waits until it is on the disk, where the system can do so; else false and errno.
@@ -27,32 +62,21 @@ bool WriteThrough(int file, std::string_view bytes) {
 }  // namespace
 
 Result<QByteArray> ReadFile(const QString& path, qint64 largest) {
-  const QFileInfo info(path);
-  if (!info.isFile())
-    return info.exists() ? Failure(path, Error::Kind::NotAFile, "is a folder or a device, not a file")
-                         : Failure(path, Error::Kind::NotFound, "there is no such file");
-  const auto tooLarge = [&] {
-    return Failure(path, Error::Kind::TooLarge,
-                   QString("is larger than %1 MB, the most that is read").arg(largest >> 20));
-  };
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-    return Failure(path, Error::Kind::Refused, file.errorString());
-  const qint64 size = info.size();
-  if (size > largest) return tooLarge();
-  QByteArray bytes(size + 1, Qt::Uninitialized);  // room for one byte more than there should be
-  const qint64 length = file.read(bytes.data(), bytes.size());
-  if (length < 0) return Failure(path, Error::Kind::Refused, file.errorString());
-  if (length != size)
-    return Failure(path, Error::Kind::Refused, "changed while it was read; try again when it is complete");
-  bytes.truncate(size);
+  // Without waiting at a pipe, and without a terminal becoming the program's.
+  const int file = open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+  if (file < 0) {
+    if (errno == ENOENT || errno == ENOTDIR)
+      return Failure(path, Error::Kind::NotFound, "there is no such file");
+    return errno == ENXIO ? NotAFile(path) : Failure(path, Error::Kind::Refused, qt_error_string(errno));
+  }
+  Result<QByteArray> bytes = ReadOpened(file, path, largest);
+  close(file);
   return bytes;
 }
 
 Result<Done> WriteFile(const QString& path, std::string_view bytes) {
   const QFileInfo info(path);
-  if (info.exists() && !info.isFile())
-    return Failure(path, Error::Kind::NotAFile, "is a folder or a device, not a file");
+  if (info.exists() && !info.isFile()) return NotAFile(path);
   QSaveFile file(path);
   if (!file.open(QIODevice::WriteOnly)) return Failure(path, Error::Kind::Refused, file.errorString());
   // Past the file's own buffer: what does not fit on the disk when that is emptied, commit() does not notice.

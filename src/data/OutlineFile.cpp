@@ -30,7 +30,7 @@ std::size_t ReadPlainVertex(std::string_view bytes, Vertex& vertex) {
   return *at == '\n' ? static_cast<std::size_t>(at + 1 - bytes.data()) : 0;
 }
 
-void Add(Outline& outline, const Vertex& vertex) {
+inline void Add(Outline& outline, const Vertex& vertex) {
   const auto latitude = static_cast<float>(vertex.Latitude);
   const auto longitude = static_cast<float>(vertex.Longitude);
   if (latitude == kPenUp && longitude == kPenUp) {

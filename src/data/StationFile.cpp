@@ -1,14 +1,44 @@
 #include "data/StationFile.h"
 
 #include "core/Numbers.h"
+#include "core/PlainNumber.h"
 #include "core/Text.h"
 #include "core/TextFields.h"
 
 namespace kestrel {
 namespace {
 
-float Number(std::string_view text) {
-  return static_cast<float>(LeadingNumber(text));
+/// The number of a field whose line goes on to `lineEnd`, which lets it be read without regard to its end.
+double FieldNumber(std::string_view field, const char* lineEnd) {
+  const char* begin = field.data();
+  const char* const end = begin + field.size();
+  if (begin != end && *begin == ' ') ++begin;
+  double plain = 0;
+  return begin != end && ReadPlainNumber(begin, lineEnd, plain) == end ? plain : LeadingNumber(field);
+}
+
+float Number(std::string_view field) {
+  return static_cast<float>(LeadingNumber(field));
+}
+
+/// Reads a tower line as nearly all are: a switch and five plain numbers, a comma and at most one blank
+/// between them. Returns false for any other line, which is then cut field by field.
+bool ReadPlainTower(std::string_view line, std::size_t i, StationRecord& record) {
+  const char* at = line.data();
+  const char* const end = at + line.size();
+  while (at != end && *at != ',') ++at;
+  if (at == line.data()) return false;
+  record.Switch[i].assign(line.data(), at);
+  for (float* number :
+       {&record.Fields[i], &record.Heights[i], &record.Phases[i], &record.Spacings[i], &record.Bearings[i]}) {
+    if (at == end || *at != ',') return false;
+    if (++at != end && *at == ' ') ++at;
+    double value = 0;
+    at = ReadPlainNumber(at, end, value);
+    if (!at) return false;
+    *number = static_cast<float>(value);
+  }
+  return at == end;
 }
 
 }  // namespace
@@ -19,13 +49,23 @@ bool IsStationLine(std::string_view line) {
 
 StationLine CutStationLine(std::string_view line) {
   const auto fields = FirstFields<12>(line);  // the tenth and eleventh carry nothing
-  return {fields[0], fields[1], fields[2], fields[3], fields[4],
-          fields[5], fields[6], fields[7], fields[8], fields[11]};
+  return {fields[0],
+          fields[1],
+          fields[2],
+          fields[3],
+          fields[4],
+          fields[5],
+          fields[6],
+          fields[7],
+          fields[8],
+          fields[11],
+          line.data() + line.size()};
 }
 
 void CutTowerLine(std::string_view line, int tower, StationRecord& record) {
-  const auto fields = FirstFields<6>(line);
   const auto i = static_cast<std::size_t>(tower);
+  if (ReadPlainTower(line, i, record)) return;
+  const auto fields = FirstFields<6>(line);
   record.Switch[i] = fields[0];
   record.Fields[i] = Number(fields[1]);
   record.Heights[i] = Number(fields[2]);
@@ -35,15 +75,18 @@ void CutTowerLine(std::string_view line, int tower, StationRecord& record) {
 }
 
 double StoreStationLine(const StationLine& line, StationRecord& record) {
+  const auto number = [lineEnd = line.LineEnd](std::string_view field) {
+    return FieldNumber(field, lineEnd);
+  };
   record.CallSign = Trim(line.CallSign);
   record.City = Trim(line.City);
   record.State = Trim(line.State);
   record.Country = Trim(line.Country);
   record.HoursCode = Trim(line.HoursCode);
-  record.Latitude = Number(line.Latitude);
-  record.Longitude = Number(line.Longitude);
-  record.PowerKW = Number(line.PowerKW);
-  const double towers = RoundToWhole(LeadingNumber(line.TowerCount));
+  record.Latitude = static_cast<float>(number(line.Latitude));
+  record.Longitude = static_cast<float>(number(line.Longitude));
+  record.PowerKW = static_cast<float>(number(line.PowerKW));
+  const double towers = RoundToWhole(number(line.TowerCount));
   record.TowerCount =
       towers >= 0 && towers <= MaxTowers ? static_cast<std::int16_t>(towers) : std::int16_t{0};
   return towers;
@@ -66,6 +109,7 @@ StationRecord* StationFileReader::Next() {
       Note("more than " + std::to_string(MaxRecords) + " records; the rest is left out");
       break;
     }
+    ++recordCount_;
     const double towers = StoreStationLine(CutStationLine(*line), record_);
     if (towers < 0 || towers > MaxTowers) {
       Note(NumberText(static_cast<float>(towers)) +
@@ -73,7 +117,6 @@ StationRecord* StationFileReader::Next() {
       skipping_ = true;
       continue;
     }
-    ++recordCount_;
     return ReadTowers() ? &record_ : nullptr;
   }
   return nullptr;

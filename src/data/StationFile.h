@@ -46,6 +46,7 @@ struct StationRecord {
 struct StationLine {
   std::string_view Frequency, CallSign, City, State, Country, HoursCode, Latitude, Longitude, PowerKW,
       TowerCount;
+  const char* LineEnd = nullptr;  ///< at or behind the end of every field
 };
 
 /// Whether the line begins with a digit 1 to 9, as station lines do and tower lines must not.
@@ -66,7 +67,8 @@ double StoreStationLine(const StationLine& line, StationRecord& record);
 /// A line that stands where a station line should and is none, and a record with a tower count outside 0 to
 /// MaxTowers, are left out up to the next station line, and noted: "1030x.dat:17: 14 towers, at most 12".
 /// A malformed number reads as its leading part or 0; all are finite, of whatever size. A record whose tower
-/// lines the file breaks off is not handed out. Reading ends behind MaxRecords records, which is noted.
+/// lines the file breaks off is not handed out. Reading ends behind MaxRecords records, those left
+/// out among them, which is noted.
 class StationFileReader {
  public:
   /// The bytes must outlive the reader; `name` is used in notes.

@@ -65,6 +65,9 @@ TEST(LeadingNumberTest, IsCorrectlyRounded) {
     std::from_chars(text.data(), text.data() + text.size(), expected);
     ASSERT_EQ(LeadingNumber(text), std::min(expected, kLargest)) << text;
     ASSERT_EQ(LeadingNumber(" -" + text + " kHz"), -std::min(expected, kLargest)) << text;
+    // Signs whose bits lie next to the digits'.
+    const char behind = "/:,\0\x80\xB5 -+"[below(9)];
+    ASSERT_EQ(LeadingNumber(text + behind + "1.5,2"), std::min(expected, kLargest)) << text << behind;
   }
 }
 

@@ -172,15 +172,17 @@ TEST(StationLineReaderTest, PassesOverTowerLines) {
 }
 
 TEST(StationFileTest, ReadingEndsAtItsLimits) {
-  std::string bytes;
-  for (int i = 0; i < MaxRecords; ++i) bytes += "1230,A,c,s,u,U,1,2,3,-,-,0\n";
-  EXPECT_EQ(ReadAll(bytes).notes, Texts{});
+  std::string bytes = "1230,A,c,s,u,U,1,2,3,-,-,13\n";  // left out, but counts
+  for (int i = 1; i < MaxRecords; ++i) bytes += "1230,A,c,s,u,U,1,2,3,-,-,0\n";
+  const std::string leftOut = "1230x.dat:1: 13 towers, at most 12";
+  EXPECT_EQ(ReadAll(bytes).notes, Texts{leftOut});
   bytes += "1230,Z,c,s,u,U,1,2,3,-,-,0\n";
   StationFileReader reader("1230x.dat", bytes);
   int records = 0;
   while (reader.Next()) ++records;
-  EXPECT_EQ(records, MaxRecords);
-  EXPECT_EQ(reader.Notes(), Texts{"1230x.dat:10001: more than 10000 records; the rest is left out"});
+  EXPECT_EQ(records, MaxRecords - 1);
+  EXPECT_EQ(reader.Notes(),
+            (Texts{leftOut, "1230x.dat:10001: more than 10000 records; the rest is left out"}));
   StationLineReader lines(bytes);
   int count = 0;
   while (lines.Next()) ++count;
