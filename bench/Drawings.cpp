@@ -3,7 +3,7 @@
 #include "Rows.h"
 #include "Table.h"
 #include "draw/Fonts.h"
-#include "draw/RasterCanvas.h"
+#include "draw/Renderer.h"
 #include "map/BandScan.h"
 #include "map/DisplayList.h"
 #include "map/MainMap.h"
@@ -37,7 +37,7 @@ SessionState AllOfRegion2(SessionState state) {
 struct Surface {
   PlatformTextMeasure Measure;
   DisplayList List{Measure};
-  DrawingTools Tools;
+  Renderer Drawer;
   QImage Image{kSize, QImage::Format_RGB32};
 
   void Show() {
@@ -45,9 +45,7 @@ struct Surface {
     rules.Fit = FitSheet(static_cast<float>(kSize.width()), static_cast<float>(kSize.height()));
     rules.Area = QRectF(Image.rect());
     Image.fill(Qt::white);
-    RasterCanvas canvas(Image, rules, Tools);
-    List.Play(canvas);
-    canvas.Finish();
+    Drawer.Draw(List, 0, rules, Image);
     Keep(Image.constBits());
   }
 };
@@ -86,12 +84,13 @@ void AddRedrawRow(const std::string& work, const Band& band, const SessionState&
 }  // namespace
 
 void AddDrawingRows(const Band& band) {
-  AddRedrawRow("400 records", band, Session(ChannelOf(band, 400, false), false), {15, 16.7});
+  AddRedrawRow("400 records", band, Session(ChannelOf(band, 400, false), false), {15, 16.7, true});
   AddRedrawRow("400 records and all of Region 2", band,
-               AllOfRegion2(Session(ChannelOf(band, 400, false), false)), {15, 16.7});
-  AddRedrawRow("with both adjacents", band, Session(ChannelOf(band, 1000, true), true), {8, 33});
+               AllOfRegion2(Session(ChannelOf(band, 400, false), false)), {15, 16.7, true});
+  AddRedrawRow("with both adjacents", band, Session(ChannelOf(band, 1000, true), true), {8, 33, true});
   AddRow(
-      "whole-band scan, " + band.Name, "straight code", {8, 45}, [=] { Scan(band, Session(1230, false)); },
+      "whole-band scan, " + band.Name, "straight code", {8, 45, true},
+      [=] { Scan(band, Session(1230, false)); },
       [=] { straight::DrawScan(TheSurface().Image, band.Folder, Session(1230, false)); });
 }
 

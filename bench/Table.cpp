@@ -19,7 +19,8 @@ struct Row {
 std::vector<Row> rows;
 std::vector<std::string> notes;
 
-/// Collects the processor times of all rounds, in milliseconds, under the benchmarks' names.
+/// Collects the times of all rounds, of the processor or, for work that has several, by the clock, in
+/// milliseconds, under the benchmarks' names.
 class Collector final : public benchmark::BenchmarkReporter {
  public:
   bool ReportContext(const Context&) override { return true; }
@@ -27,8 +28,9 @@ class Collector final : public benchmark::BenchmarkReporter {
   void ReportRuns(const std::vector<Run>& runs) override {
     for (const Run& run : runs)
       if (run.run_type == Run::RT_Iteration)
-        times_[run.run_name.function_name].push_back(run.cpu_accumulated_time * 1e3 /
-                                                     static_cast<double>(run.iterations));
+        times_[run.run_name.function_name].push_back(
+            (run.run_name.time_type.empty() ? run.cpu_accumulated_time : run.real_accumulated_time) * 1e3 /
+            static_cast<double>(run.iterations));
   }
 
   double Median(const std::string& name) {
@@ -50,10 +52,12 @@ std::string OtherName(const Row& row) {
   return row.work + ": " + row.against;
 }
 
-void Register(const std::string& name, std::function<void()> work) {
-  benchmark::RegisterBenchmark(name.c_str(), [work = std::move(work)](benchmark::State& state) {
-    for (auto round : state) work();
-  })->Unit(benchmark::kMillisecond);
+void Register(const std::string& name, const Asked& asked, std::function<void()> work) {
+  auto* const registered =
+      benchmark::RegisterBenchmark(name.c_str(), [work = std::move(work)](benchmark::State& state) {
+        for (auto round : state) work();
+      });
+  if (asked.ByClock) registered->UseRealTime();
 }
 
 std::string Verdict(const Asked& asked, double ratio, double milliseconds) {
@@ -78,13 +82,13 @@ std::string Verdict(const Asked& asked, double ratio, double milliseconds) {
 void AddRow(const std::string& work, const std::string& against, const Asked& asked,
             std::function<void()> fast, std::function<void()> other) {
   rows.push_back({work, against, asked});
-  Register(FastName(rows.back()), std::move(fast));
-  Register(OtherName(rows.back()), std::move(other));
+  Register(FastName(rows.back()), asked, std::move(fast));
+  Register(OtherName(rows.back()), asked, std::move(other));
 }
 
 void AddRow(const std::string& work, const Asked& asked, std::function<void()> fast) {
   rows.push_back({work, "", asked});
-  Register(FastName(rows.back()), std::move(fast));
+  Register(FastName(rows.back()), asked, std::move(fast));
 }
 
 void AddNote(const std::string& text) {

@@ -11,10 +11,11 @@ namespace kestrel::bench {
 struct Asked {
   double Ratio = 0;         ///< at least
   double Milliseconds = 0;  ///< at most
+  bool ByClock = false;     ///< for work of several processors: by the clock on the wall, not their time
 };
 
-/// Adds a row. The work is done in rounds that alternate with all others, and the medians of the
-/// processor time are compared, which others at work on the machine disturb least.
+/// Adds a row. The work is done in rounds that alternate with all others, and the medians of
+/// their times are compared: the processor's, which others at work on the machine disturb least.
 void AddRow(const std::string& work, const std::string& against, const Asked& asked,
             std::function<void()> fast, std::function<void()> other);
 

@@ -14,13 +14,13 @@ inline constexpr qint64 LargestDataFile = 64LL << 20;
 /// No last-session file is longer.
 inline constexpr qint64 LargestSessionFile = 1LL << 20;
 
-/// The whole file, in one piece of memory of its size. Only plain files are opened, so that a pipe or a device
+/// The whole file, in one piece of memory of its size. Only plain files are read, so that a pipe or a device
 /// never makes the program wait. A file that grows or shrinks while it is read is refused, not cut.
 /// Errors: NotFound, NotAFile, TooLarge, Refused; `Error::file` is the last part of the path.
 Result<QByteArray> ReadFile(const QString& path, qint64 largest = LargestDataFile);
 
-/// Replaces the file as a whole or, on any failure, leaves the old one as it was; so it does when the process is
-/// killed, but may then leave a file "NAME.XXXXXX" behind. Errors: NotAFile, Refused.
+/// Replaces the file as a whole or, on any failure, leaves the old one as it was; so it does when the process
+/// is killed, but may then leave a file "NAME.XXXXXX" behind. Errors: NotAFile, Refused.
 Result<Done> WriteFile(const QString& path, std::string_view bytes);
 
 }  // namespace kestrel

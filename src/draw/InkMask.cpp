@@ -11,28 +11,27 @@
 namespace kestrel {
 namespace {
 
-// The border holds the ink of lines whose middle runs up to kNear beyond the picture, so that the lines
-// inside need no look at it: kNear + kWidestLine / 2 * sqrt(2) + 2 pixels.
-constexpr int kBorder = 24;
-constexpr float kNear = 12;
 constexpr float kWidestLine = 14;
+// The border holds the ink of lines that run along the picture's edge, kWidestLine * sqrt(2) + 1 pixels, in
+// whole eights.
+constexpr int kBorder = 24;
+constexpr int kPixelsOfWord = 64 * 8;  // whose eights are marked in a word
+constexpr int kPiece = 16;             // columns of a line that are marked together
+constexpr float kFarthest = 1 << 30;
 
-/// The shift of the smallest blocks of which 64 hold a row.
-int BlockShift(int pixels) {
-  int shift = 3;
-  while (pixels > 64 << shift) ++shift;
-  return shift;
+// Places across a line, in parts of a pixel fine enough for the longest line.
+using Fixed = std::int64_t;
+constexpr int kFixedBits = 24;
+constexpr double kOne = 1 << kFixedBits;
+
+/// The eights of a word of 64 from one to another.
+std::uint64_t EightsFromTo(int first, int last) {
+  return (~std::uint64_t{0} << first) & (~std::uint64_t{0} >> (63 - last));
 }
 
-int RoundUp(int pixels, int shift) {
-  return ((pixels - 1) >> shift << shift) + (1 << shift);
-}
-
-/// Adds a share of a pixel, 0 to 1, up to the whole pixel.
-void Ink(std::uint8_t* pixel, float share) {
-  // NOLINTNEXTLINE(bugprone-incorrect-roundings): never negative, and run for every pixel of every line.
-  const int sum = *pixel + static_cast<int>(share * 255 + 0.5F);
-  *pixel = static_cast<std::uint8_t>(std::min(sum, 255));
+/// Adds a share of a pixel, in 256ths, up to the whole pixel.
+void Ink(std::uint8_t* pixel, int share) {
+  *pixel = static_cast<std::uint8_t>(std::min(*pixel + share, 255));
 }
 
 }  // namespace
@@ -42,33 +41,30 @@ InkMask::InkMask(QSize size, int top)
       height_(size.height()),
       top_(top),
       rows_(height_ + 2 * kBorder),
-      blockShift_(BlockShift(width_ + 2 * kBorder)),
-      stride_(RoundUp(width_ + 2 * kBorder, blockShift_)),
-      nearLeft_(kBorder - kNear),
-      nearRight_(static_cast<float>(width_ + kBorder) + kNear),
-      nearTop_(static_cast<float>(top + kBorder) - kNear),
-      nearBottom_(static_cast<float>(top + height_ + kBorder) + kNear),
+      stride_(((width_ + 2 * kBorder + 63) / 64 | 1) * 64),
+      words_((stride_ + kPixelsOfWord - 1) / kPixelsOfWord),
       ink_(static_cast<std::size_t>(stride_) * static_cast<std::size_t>(rows_)),
-      touched_(static_cast<std::size_t>(rows_)),
+      touched_(static_cast<std::size_t>(rows_) * static_cast<std::size_t>(words_)),
       firstTouched_(rows_) {}
 
-void InkMask::Touch(float left, float top, float right, float bottom) {
-  const auto block = [&](float x) {
-    return static_cast<int>(std::clamp(x, 0.0F, static_cast<float>(stride_ - 1))) >> blockShift_;
-  };
-  const auto row = [&](float y) {
-    return static_cast<int>(std::clamp(y - static_cast<float>(top_), 0.0F, static_cast<float>(rows_ - 1)));
-  };
-  const std::uint64_t blocks =
-      (~std::uint64_t{0} << block(left)) & (~std::uint64_t{0} >> (63 - block(right)));
-  const int firstRow = row(top);
-  const int lastRow = row(bottom);
-  for (int i = firstRow; i <= lastRow; ++i) touched_[static_cast<std::size_t>(i)] |= blocks;
-  firstTouched_ = std::min(firstTouched_, firstRow);
-  lastTouched_ = std::max(lastTouched_, lastRow);
+void InkMask::Touch(int left, int top, int right, int bottom) {
+  const int firstWord = left / kPixelsOfWord;
+  const int lastWord = right / kPixelsOfWord;
+  for (int word = firstWord; word <= lastWord; ++word) {
+    const std::uint64_t eights = EightsFromTo(word == firstWord ? left % kPixelsOfWord / 8 : 0,
+                                              word == lastWord ? right % kPixelsOfWord / 8 : 63);
+    for (int row = top; row <= bottom; ++row)
+      touched_[static_cast<std::size_t>(row * words_ + word)] |= eights;
+  }
+  firstTouched_ = std::min(firstTouched_, top);
+  lastTouched_ = std::max(lastTouched_, bottom);
 }
 
-float InkMask::AddSegment(Point from, Point to, float width) {
+void InkMask::AddSegment(Point from, Point to, float width) {
+  // Beyond the border no line reaches the picture.
+  if (std::max(from.y, to.y) < static_cast<float>(top_) ||
+      std::min(from.y, to.y) > static_cast<float>(top_ + rows_))
+    return;
   const bool steep = std::abs(to.y - from.y) > std::abs(to.x - from.x);
   float begin = steep ? from.y : from.x;
   float end = steep ? to.y : to.x;
@@ -79,60 +75,72 @@ float InkMask::AddSegment(Point from, Point to, float width) {
     std::swap(minor, minorEnd);
   }
   const float length = end - begin;
-  if (!(length > 0) || !std::isfinite(length) || !std::isfinite(minorEnd - minor)) return 0;
-  const float lowest = steep ? nearTop_ : nearLeft_;
-  const float highest = steep ? nearBottom_ : nearRight_;
-  if (begin > highest || end < lowest) return 0;
+  // Written so that a place that is no number is far away.
+  const bool isNear = std::abs(begin) < kFarthest && std::abs(end) < kFarthest &&
+                      std::abs(minor) < kFarthest && std::abs(minorEnd) < kFarthest;
+  if (!(length > 0) || !isNear) return;
 
   const float slope = (minorEnd - minor) / length;
   // A line of one pixel is one pixel wide along the axis, whatever its slope: as crisp as can be.
-  const float half = width <= 1 ? width / 2 : std::min(width, kWidestLine) / 2 * std::sqrt(1 + slope * slope);
-  const int pixelsAcross = static_cast<int>(std::ceil(2 * half)) + 1;
-  const float minorLowest = steep ? nearLeft_ : nearTop_;
-  const float minorHighest = steep ? nearRight_ : nearBottom_;
+  const float across = width <= 1 ? width : std::min(width, kWidestLine) * std::sqrt(1 + slope * slope);
+  const auto edgeAt = [&](float place) {
+    return static_cast<Fixed>((minor + (double{place} - begin) * slope - across / 2) * kOne);
+  };
+  const int firstColumn = static_cast<int>(std::floor(begin));
+  const int lastColumn = static_cast<int>(std::floor(end));
+  const Fixed edgeAtFirst = edgeAt(static_cast<float>(firstColumn) + 0.5F);
+  const auto step = static_cast<Fixed>(double{slope} * kOne);
+  const int inked = static_cast<int>(across * 256);
+  const int pixelsAcross = (inked + 255) / 256 + 1;
+
+  const int lowestColumn = steep ? top_ : 0;
+  const int highestColumn = steep ? top_ + rows_ - 1 : stride_ - 1;
+  const int lowestRow = steep ? 0 : top_;
+  const int highestRow = (steep ? stride_ : top_ + rows_) - pixelsAcross;
   std::uint8_t* const origin = ink_.data() - top_ * std::ptrdiff_t{stride_};
-  const std::ptrdiff_t along = steep ? stride_ : 1;
-  const std::ptrdiff_t across = steep ? 1 : stride_;
-  // Near the picture no coordinate is negative: the whole number below is the number cut.
-  const int first = static_cast<int>(std::max(begin, lowest));
-  const int last = static_cast<int>(std::min(end, highest));
-  for (int i = first; i <= last; ++i) {
-    const float left = std::max(begin, static_cast<float>(i));
-    const float right = std::min(end, static_cast<float>(i + 1));
-    const float middle = minor + ((left + right) / 2 - begin) * slope;
-    if (!(middle >= minorLowest && middle <= minorHighest)) continue;
-    const float low = middle - half;
-    const float high = middle + half;
-    const int row = static_cast<int>(low);
-    std::uint8_t* pixel = origin + i * along + row * across;
-    // Pixels that the line does not reach are given nothing, which is quicker than to ask.
-    for (int k = row; k < row + pixelsAcross; ++k, pixel += across) {
-      const float covered = std::min(high, static_cast<float>(k + 1)) - std::max(low, static_cast<float>(k));
-      Ink(pixel, (right - left) * std::max(covered, 0.0F));
+  const std::ptrdiff_t alongStep = steep ? stride_ : 1;
+  const std::ptrdiff_t acrossStep = steep ? 1 : stride_;
+
+  const int endColumn = std::min(lastColumn, highestColumn);
+  for (int piece = std::max(firstColumn, lowestColumn); piece <= endColumn; piece += kPiece) {
+    const int pieceEnd = std::min(piece + kPiece - 1, endColumn);
+    int low = highestRow + 1, high = -1;
+    for (int column = piece; column <= pieceEnd; ++column) {
+      Fixed edge = edgeAtFirst + step * (column - firstColumn);
+      int share = 256;
+      if (column == firstColumn || column == lastColumn) {
+        const float left = std::max(begin, static_cast<float>(column));
+        const float right = std::min(end, static_cast<float>(column + 1));
+        edge = edgeAt((left + right) / 2);
+        share = static_cast<int>((right - left) * 256 + 0.5F);
+      }
+      const int row = static_cast<int>(edge >> kFixedBits);
+      if (row < lowestRow || row > highestRow) continue;
+      low = std::min(low, row);
+      high = std::max(high, row);
+      std::uint8_t* pixel = origin + column * alongStep + row * acrossStep;
+      int room = 256 - static_cast<int>(edge >> (kFixedBits - 8) & 255);
+      int left = inked;
+      // Pixels that the line does not reach are given nothing, which is quicker than to ask.
+      for (int k = 0; k < pixelsAcross; ++k, pixel += acrossStep, room = 256) {
+        const int covered = std::min(room, left);
+        left -= covered;
+        Ink(pixel, (covered * share + 128) >> 8);
+      }
     }
+    if (high < 0) continue;
+    high += pixelsAcross - 1;
+    if (steep)
+      Touch(low, piece - top_, high, pieceEnd - top_);
+    else
+      Touch(piece, low - top_, pieceEnd, high - top_);
   }
-  return half;
 }
 
 void InkMask::AddPolyline(std::span<const Point> points, float width) {
-  constexpr std::size_t kChunk = 8;  // segments that are marked as touched together
   const auto shifted = [](Point point) { return Point{point.x + kBorder, point.y + kBorder}; };
-  for (std::size_t i = 0; i + 1 < points.size(); i += kChunk) {
-    Point from = shifted(points[i]);
-    float left = nearRight_, top = nearBottom_, right = nearLeft_, bottom = nearTop_, reach = 0;
-    for (const Point& point : points.subspan(i + 1, std::min(kChunk, points.size() - i - 1))) {
-      const Point to = shifted(point);
-      if (const float half = AddSegment(from, to, width); half > 0) {
-        reach = std::max(reach, half);
-        left = std::min({left, from.x, to.x});
-        top = std::min({top, from.y, to.y});
-        right = std::max({right, from.x, to.x});
-        bottom = std::max({bottom, from.y, to.y});
-      }
-      from = to;
-    }
-    if (reach > 0) Touch(left - reach - 2, top - reach - 2, right + reach + 2, bottom + reach + 2);
-  }
+  for (std::size_t i = 1; i < points.size(); ++i)
+    AddSegment(shifted(points[i - 1]), shifted(points[i]), width);
 }
 
 void InkMask::AddDisc(Point center, float radius) {
@@ -152,10 +160,11 @@ void InkMask::AddDisc(Point center, float radius) {
     for (int column = left; column < right; ++column) {
       const float aside = static_cast<float>(column) + 0.5F - x;
       const float inside = radius + 0.5F - std::sqrt(down * down + aside * aside);
-      if (inside > 0) Ink(pixels + column, std::min(inside, most));
+      if (inside > 0) Ink(pixels + column, static_cast<int>(std::min(inside, most) * 256));
     }
   }
-  Touch(x + kBorder - reach, y + kBorder - reach, x + kBorder + reach, y + kBorder + reach);
+  if (left < right && top < bottom)
+    Touch(left + kBorder, top - top_ + kBorder, right - 1 + kBorder, bottom - 1 - top_ + kBorder);
 }
 
 void InkMask::AddPoint(Point center) {
@@ -163,33 +172,38 @@ void InkMask::AddPoint(Point center) {
   AddPolyline(ends, 1);
 }
 
-void InkMask::LayBlock(int row, int block, QRgb color, QRgb* line) {
-  const int pixels = 1 << blockShift_;
-  std::uint8_t* const ink = ink_.data() + row * std::ptrdiff_t{stride_} + block * std::ptrdiff_t{pixels};
-  const int left = block * pixels - kBorder;
-  if (left >= 0 && left + pixels <= width_) {
-    MixRows(color, {ink, 0}, {line + left, 0}, pixels / 8, 1);
-  } else {
-    for (int i = std::max(0, -left); i < std::min(pixels, width_ - left); ++i)
-      line[left + i] = Mixed(color, line[left + i], ink[i]);
-  }
-}
-
 void InkMask::Lay(QRgb color, QImage& image) {
   auto* const pixels = reinterpret_cast<QRgb*>(image.bits());
   const std::ptrdiff_t pixelsPerRow = image.bytesPerLine() / static_cast<qsizetype>(sizeof(QRgb));
   for (int row = firstTouched_; row <= lastTouched_; ++row) {
     const bool shown = row >= kBorder && row < kBorder + height_;
-    std::uint64_t blocks = std::exchange(touched_[static_cast<std::size_t>(row)], 0);
-    for (; blocks != 0; blocks &= blocks - 1) {
-      const int block = std::countr_zero(blocks);
-      if (shown) LayBlock(row, block, color, pixels + (row - kBorder) * pixelsPerRow);
-      std::memset(ink_.data() + row * std::ptrdiff_t{stride_} + (block << blockShift_), 0,
-                  std::size_t{1} << blockShift_);
-    }
+    QRgb* const line = shown ? pixels + (row - kBorder) * pixelsPerRow : nullptr;
+    for (int word = 0; word < words_; ++word)
+      if (const auto eights = std::exchange(touched_[static_cast<std::size_t>(row * words_ + word)], 0))
+        LayWord(color, row, word, eights, line);
   }
   firstTouched_ = rows_;
   lastTouched_ = -1;
+}
+
+void InkMask::LayWord(QRgb color, int row, int word, std::uint64_t eights, QRgb* line) {
+  std::uint8_t* const ink = ink_.data() + row * std::ptrdiff_t{stride_} + word * kPixelsOfWord;
+  const int left = word * kPixelsOfWord - kBorder;  // the first pixel's place in the picture
+  const int firstWhole = word == 0 ? kBorder / 8 : 0;
+  const int wholes = std::min((width_ - left) / 8, 64) - firstWhole;
+  if (line && wholes > 0) {
+    const std::uint64_t whole = eights & EightsFromTo(firstWhole, firstWhole + wholes - 1);
+    const int first = 8 * firstWhole;
+    LayEights(color, ink + first, line + left + first, whole >> firstWhole);
+    eights &= ~whole;
+  }
+  // Beside the picture, and the pixels at its right side that do not make up eight.
+  for (; eights != 0; eights &= eights - 1) {
+    const int first = 8 * std::countr_zero(eights);
+    for (int i = first; line && i < first + 8; ++i)
+      if (left + i >= 0 && left + i < width_) line[left + i] = Mixed(color, line[left + i], ink[i]);
+    std::memset(ink + first, 0, 8);
+  }
 }
 
 }  // namespace kestrel

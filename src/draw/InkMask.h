@@ -16,7 +16,7 @@ namespace kestrel {
 /// lines meet their shares add up to the whole pixel and no further, so joints have neither gaps nor dark
 /// points, and a polyline gives the same ink whole or in pieces.
 ///
-/// Lines touch few of a picture's pixels: the mask knows in which blocks of each row there may be ink, and
+/// Lines touch few of a picture's pixels: the mask knows in which eights of each row there may be ink, and
 /// nothing else is looked at when the colour is laid.
 ///
 /// Coordinates are those of the whole picture; the mask holds the rows from `top` on, and each pixel comes
@@ -37,22 +37,19 @@ class InkMask {
   void Lay(QRgb color, QImage& image);
 
  private:
-  /// Inks a line of a width, both ends in pixels from the border's corner; returns how far its ink reaches
-  /// to its sides, 0 where there is none.
-  float AddSegment(Point from, Point to, float width);
-  /// Notes that there may be ink in a rectangle, which may reach beyond the mask.
-  void Touch(float left, float top, float right, float bottom);
-  /// Lays a block on its line of the image.
-  void LayBlock(int row, int block, QRgb color, QRgb* line);
+  /// Inks a line of a width, both ends in pixels from the border's corner.
+  void AddSegment(Point from, Point to, float width);
+  /// Notes that there may be ink in a rectangle of the mask, its last column and row included.
+  void Touch(int left, int top, int right, int bottom);
+  /// Lays the eights of a word on their line of the picture; only clears them where there is none.
+  void LayWord(QRgb color, int row, int word, std::uint64_t eights, QRgb* line);
 
   int width_, height_, top_;
-  int rows_;        // held, those of the border included
-  int blockShift_;  // a block has 1 << blockShift_ pixels, a row at most 64 blocks
-  int stride_;      // of the rows, in whole blocks
-  // Places whose ink needs no look at the borders, in pixels from the border's corner.
-  float nearLeft_, nearRight_, nearTop_, nearBottom_;
+  int rows_;    // held, those of the border included
+  int stride_;  // of the rows, in pixels
+  int words_;   // of touched_, for each row
   std::vector<std::uint8_t> ink_;
-  std::vector<std::uint64_t> touched_;   // by row, a bit for each block
+  std::vector<std::uint64_t> touched_;   // by row, a bit for each eight pixels
   int firstTouched_, lastTouched_ = -1;  // rows
 };
 

@@ -13,27 +13,35 @@ using Eight [[gnu::vector_size(32)]] = std::uint32_t;
 constexpr bool kLittle = std::endian::native == std::endian::little;
 constexpr Eight kShifts = kLittle ? Eight{0, 8, 16, 24, 0, 8, 16, 24} : Eight{24, 16, 8, 0, 24, 16, 8, 0};
 
+/// Draws eight pixels towards a colour by their shares of ink.
+[[gnu::always_inline]] inline void MixEight(QRgb color, const std::uint8_t* shares, QRgb* below) {
+  std::uint32_t four[2];
+  std::memcpy(four, shares, sizeof four);
+  Eight colors;
+  std::memcpy(&colors, below, sizeof colors);
+  const Eight fours = {four[0], four[0], four[0], four[0], four[1], four[1], four[1], four[1]};
+  const Eight share = fours >> kShifts & 0xFF;
+  const Eight of = share + (share >> 7);
+  const Eight rest = 256 - of;
+  const Eight redBlue = ((color & 0xFF00FF) * of + (colors & 0xFF00FF) * rest) >> 8 & 0xFF00FF;
+  const Eight green = ((color & 0x00FF00) * of + (colors & 0x00FF00) * rest) >> 8 & 0x00FF00;
+  colors = 0xFF000000 | redBlue | green;
+  std::memcpy(below, &colors, sizeof colors);
+}
+
 }  // namespace
 
 KESTREL_CLONES void MixRows(QRgb color, const InkRows& ink, const PixelRows& pixels, int eights, int rows) {
-  for (int row = 0; row < rows; ++row) {
-    const std::uint8_t* shares = ink.ink + row * ink.step;
-    QRgb* below = pixels.pixels + row * pixels.step;
-    for (int i = 0; i < eights; ++i, shares += 8, below += 8) {
-      std::uint32_t four[2];
-      std::memcpy(four, shares, sizeof four);
-      if ((four[0] | four[1]) == 0) continue;
-      Eight colors;
-      std::memcpy(&colors, below, sizeof colors);
-      const Eight fours = {four[0], four[0], four[0], four[0], four[1], four[1], four[1], four[1]};
-      const Eight share = fours >> kShifts & 0xFF;
-      const Eight of = share + (share >> 7);
-      const Eight rest = 256 - of;
-      const Eight redBlue = ((color & 0xFF00FF) * of + (colors & 0xFF00FF) * rest) >> 8 & 0xFF00FF;
-      const Eight green = ((color & 0x00FF00) * of + (colors & 0x00FF00) * rest) >> 8 & 0x00FF00;
-      colors = 0xFF000000 | redBlue | green;
-      std::memcpy(below, &colors, sizeof colors);
-    }
+  for (int row = 0; row < rows; ++row)
+    for (int i = 0; i < eights; ++i)
+      MixEight(color, ink.ink + row * ink.step + 8 * i, pixels.pixels + row * pixels.step + 8 * i);
+}
+
+KESTREL_CLONES void LayEights(QRgb color, std::uint8_t* ink, QRgb* pixels, std::uint64_t eights) {
+  for (; eights != 0; eights &= eights - 1) {
+    const int first = 8 * std::countr_zero(eights);
+    MixEight(color, ink + first, pixels + first);
+    std::memset(ink + first, 0, 8);
   }
 }
 

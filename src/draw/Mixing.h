@@ -35,7 +35,12 @@ namespace KESTREL_KERNELS {
 /// pixels must be there; those without ink keep their colour.
 void MixRows(QRgb color, const InkRows& ink, const PixelRows& pixels, int eights, int rows);
 
+/// Draws the pixels of a row towards `color` by their shares of ink and takes that ink away: those eights of
+/// the row's first 64 whose bits are set, the first eight's the lowest.
+void LayEights(QRgb color, std::uint8_t* ink, QRgb* pixels, std::uint64_t eights);
+
 }  // namespace KESTREL_KERNELS
+using KESTREL_KERNELS::LayEights;
 using KESTREL_KERNELS::MixRows;
 
 }  // namespace kestrel

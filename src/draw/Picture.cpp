@@ -10,7 +10,7 @@
 #include "data/FileIo.h"
 #include "draw/PainterCanvas.h"
 #include "draw/PngFile.h"
-#include "draw/RasterCanvas.h"
+#include "draw/Renderer.h"
 #include "draw/SvgCanvas.h"
 
 namespace kestrel {
@@ -31,15 +31,13 @@ QByteArray PngBytes(const DisplayList& drawing, QSize size) {
   constexpr int kMostPixels = 16 << 20;  // drawn at a time, 64 MB
   const int most = std::max(1, kMostPixels / size.width());
   PngFile file(size);
-  DrawingTools tools;
+  Renderer renderer;
   for (int top = 0; top < size.height(); top += most) {
     const int rows = std::min(most, size.height() - top);
     QImage band(size.width(), rows, QImage::Format_RGB32);
     if (band.isNull()) throw std::bad_alloc();
     band.fill(Qt::white);
-    RasterCanvas canvas(band, RulesFor(size), tools, top);
-    drawing.Play(canvas);
-    canvas.Finish();
+    renderer.Draw(drawing, 0, RulesFor(size), band, top);
     file.AddRows(band, 0, rows);
   }
   return file.Finish();
@@ -77,10 +75,7 @@ QByteArray PdfBytes(const DisplayList& drawing, QSize size) {
 QImage RenderImage(const DisplayList& drawing, QSize size) {
   QImage image(size, QImage::Format_RGB32);
   image.fill(Qt::white);
-  DrawingTools tools;
-  RasterCanvas canvas(image, RulesFor(size), tools);
-  drawing.Play(canvas);
-  canvas.Finish();
+  Renderer().Draw(drawing, 0, RulesFor(size), image);
   return image;
 }
 

@@ -10,7 +10,7 @@
 #include <utility>
 
 #include "draw/PainterCanvas.h"
-#include "draw/RasterCanvas.h"
+#include "draw/Renderer.h"
 #include "map/OverviewMap.h"
 
 namespace kestrel {
@@ -127,10 +127,7 @@ void frmOpening::RenderBackdrop() {
   rules.Fit = FitSheet(static_cast<float>(pixels.width()), static_cast<float>(pixels.height()), kDesign);
   rules.Area = QRectF(backdrop_.rect());
   rules.PixelSize = devicePixelRatio();
-  DrawingTools tools;
-  RasterCanvas canvas(backdrop_, rules, tools);
-  overview_.Play(canvas);
-  canvas.Finish();
+  Renderer().Draw(overview_, 0, rules, backdrop_);
   backdropStale_ = false;
 }
 

@@ -6,8 +6,6 @@
 #include <QToolTip>
 #include <algorithm>
 
-#include "draw/RasterCanvas.h"
-
 namespace kestrel {
 
 MapSurface::MapSurface(QWidget* parent, const SheetArea& area, double smallestXHeight)
@@ -58,9 +56,7 @@ void MapSurface::Play(std::size_t from) {
   rules.Area = QRectF(image_.rect());
   rules.PixelSize = image_.devicePixelRatio();
   rules.SmallestXHeight = smallestXHeight_;
-  RasterCanvas canvas(image_, rules, tools_);
-  drawing_.PlayFrom(from, canvas);
-  canvas.Finish();
+  renderer_.Draw(drawing_, from, rules, image_);
   shown_ = drawing_.Length();
 }
 

@@ -4,7 +4,7 @@
 #include <QWidget>
 #include <functional>
 
-#include "draw/DrawingTools.h"
+#include "draw/Renderer.h"
 #include "draw/Fonts.h"
 #include "map/DisplayList.h"
 #include "map/Sheet.h"
@@ -66,7 +66,7 @@ class MapSurface final : public QWidget {
   DisplayList drawing_{measure_};
   SheetArea area_;
   double smallestXHeight_;
-  DrawingTools tools_;
+  Renderer renderer_;
   QImage image_;           // the drawing at the widget's size
   bool stale_ = true;      // the drawing has changed since
   std::size_t shown_ = 0;  // how much of it the image holds

@@ -18,6 +18,7 @@
   void PlaceVertices(const ProjectionCenter& home, const float* latitudes, const float* longitudes, \
                      float* places, std::size_t count);                                             \
   void MixRows(QRgb color, const InkRows& ink, const PixelRows& pixels, int eights, int rows);      \
+  void LayEights(QRgb color, std::uint8_t* ink, QRgb* pixels, std::uint64_t eights);                \
   }
 
 namespace kestrel {
@@ -33,6 +34,7 @@ struct Level {
   decltype(&SweepPattern) Sweep;
   decltype(&PlaceVertices) Place;
   decltype(&MixRows) Mix;
+  decltype(&LayEights) Lay;
 };
 
 // By their features, since Clang 14 does not know the levels by name.
@@ -48,9 +50,11 @@ bool HasLevel4() {
 
 std::vector<Level> LevelsHere() {
   const Level all[] = {
-      {"x86-64", true, x86_64::SweepPattern, x86_64::PlaceVertices, x86_64::MixRows},
-      {"x86-64-v3", HasLevel3(), x86_64_v3::SweepPattern, x86_64_v3::PlaceVertices, x86_64_v3::MixRows},
-      {"x86-64-v4", HasLevel4(), x86_64_v4::SweepPattern, x86_64_v4::PlaceVertices, x86_64_v4::MixRows},
+      {"x86-64", true, x86_64::SweepPattern, x86_64::PlaceVertices, x86_64::MixRows, x86_64::LayEights},
+      {"x86-64-v3", HasLevel3(), x86_64_v3::SweepPattern, x86_64_v3::PlaceVertices, x86_64_v3::MixRows,
+       x86_64_v3::LayEights},
+      {"x86-64-v4", HasLevel4(), x86_64_v4::SweepPattern, x86_64_v4::PlaceVertices, x86_64_v4::MixRows,
+       x86_64_v4::LayEights},
   };
   std::vector<Level> here;
   for (const Level& level : all)
@@ -109,6 +113,17 @@ TEST(LevelsTest, MixingGivesTheColorsOfTheFormula) {
     std::vector<QRgb> pixels = below;
     level.Mix(color, {ink.data(), kStep}, {pixels.data(), kStep}, kEights, kRows);
     EXPECT_EQ(pixels, expected) << level.Name;
+
+    // A row of all 64, of which some are laid; the others keep their colours and their ink.
+    constexpr std::uint64_t kLaid = 0xA5000F0F0FF00081;
+    std::vector<std::uint8_t> row(ink.begin(), ink.begin() + 512);
+    pixels = below;
+    level.Lay(color, row.data(), pixels.data(), kLaid);
+    for (std::size_t i = 0; i < row.size(); ++i) {
+      const bool laid = kLaid >> i / 8 & 1;
+      EXPECT_EQ(pixels[i], laid ? Mixed(color, below[i], ink[i]) : below[i]) << level.Name << ' ' << i;
+      EXPECT_EQ(row[i], laid ? 0 : ink[i]) << level.Name << ' ' << i;
+    }
   }
 }
 

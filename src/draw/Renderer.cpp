@@ -1,0 +1,68 @@
+#include "draw/Renderer.h"
+
+#include <QThread>
+#include <QThreadPool>
+#include <algorithm>
+#include <future>
+#include <memory>
+#include <utility>
+
+#include "draw/RasterCanvas.h"
+
+namespace kestrel {
+namespace {
+
+constexpr int kMostStrips = 4;
+constexpr std::size_t kLittleToDraw = 100;       // figures, quicker drawn than handed out
+constexpr qsizetype kLittleToShow = 500 * 1000;  // pixels, likewise
+
+int StripsFor(const QImage& image, std::size_t figures) {
+  if (figures < kLittleToDraw || qsizetype{image.width()} * image.height() < kLittleToShow) return 1;
+  return std::clamp(QThread::idealThreadCount(), 1, kMostStrips);
+}
+
+/// Work under way, waited for however its owner is left.
+class Underway {
+ public:
+  ~Underway() {
+    for (const std::future<void>& piece : pieces_) piece.wait();
+  }
+
+  void Start(std::function<void()> work) {
+    // Shared, since the pool copies what it is given.
+    const auto piece = std::make_shared<std::packaged_task<void()>>(std::move(work));
+    pieces_.push_back(piece->get_future());
+    QThreadPool::globalInstance()->start([piece] { (*piece)(); });
+  }
+
+  void Finish() {
+    for (std::future<void>& piece : std::exchange(pieces_, {})) piece.get();
+  }
+
+ private:
+  std::vector<std::future<void>> pieces_;
+};
+
+}  // namespace
+
+void Renderer::Draw(const DisplayList& list, std::size_t from, const SurfaceRules& rules, QImage& image,
+                    int top) {
+  const int strips = StripsFor(image, list.Length() - from);
+  if (tools_.size() < static_cast<std::size_t>(strips)) tools_.resize(static_cast<std::size_t>(strips));
+  uchar* const pixels = image.bits();
+  const auto drawStrip = [&](int strip) {
+    const int first = image.height() * strip / strips;
+    const int behind = image.height() * (strip + 1) / strips;
+    QImage rows(pixels + first * image.bytesPerLine(), image.width(), behind - first, image.bytesPerLine(),
+                image.format());
+    RasterCanvas canvas(rows, rules, tools_[static_cast<std::size_t>(strip)], top + first);
+    list.PlayFrom(from, canvas);
+    canvas.Finish();
+  };
+  Underway others;
+  for (int strip = 1; strip < strips; ++strip) others.Start([&drawStrip, strip] { drawStrip(strip); });
+  drawStrip(0);
+  others.Finish();
+}
+
+}  // namespace kestrel

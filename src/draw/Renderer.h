@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QImage>
+#include <vector>
+
+#include "draw/DrawingTools.h"
+#include "draw/SurfaceView.h"
+#include "map/DisplayList.h"
+
+namespace kestrel {
+
+/// Draws display lists onto images in memory. A large image is drawn in strips, each by a processor of its
+/// own, which come out the same as the whole does. Whoever draws again and again keeps his renderer, and with
+/// it the tools.
+class Renderer {
+ public:
+  /// Draws what was drawn after the list was `from` long onto an image that holds the rows from `top` on of
+  /// the picture that the rules are for. The image must be RGB32.
+  void Draw(const DisplayList& list, std::size_t from, const SurfaceRules& rules, QImage& image, int top = 0);
+
+ private:
+  std::vector<DrawingTools> tools_;  // of each strip
+};
+
+}  // namespace kestrel

@@ -1,0 +1,73 @@
+#include "draw/Renderer.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "draw/Fonts.h"
+#include "draw/RasterCanvas.h"
+
+namespace kestrel {
+namespace {
+
+constexpr QSize kLarge(1000, 750);
+
+SurfaceRules Rules() {
+  SurfaceRules rules;
+  rules.Fit = FitSheet(static_cast<float>(kLarge.width()), static_cast<float>(kLarge.height()));
+  rules.Area = QRectF(QPointF(0, 0), QSizeF(kLarge));
+  return rules;
+}
+
+QImage Paper(int rows) {
+  QImage paper(kLarge.width(), rows, QImage::Format_RGB32);
+  paper.fill(Qt::white);
+  return paper;
+}
+
+/// Figures of all kinds everywhere, letters that are not ASCII among them.
+void Scribble(Canvas& canvas) {
+  std::mt19937 random(23);
+  std::uniform_real_distribution<float> place(-2000, 14000);
+  const auto point = [&] { return Point{place(random), place(random)}; };
+  for (int i = 0; i < 300; ++i) {
+    canvas.SetColor(i * 50021);
+    canvas.SetLineWidth(0.5F * static_cast<float>(i % 8 + 1));
+    std::vector<Point> points = {point()};
+    for (int k = 0; k < 40; ++k)
+      points.push_back({points.back().x + 30, points.back().y + place(random) / 30});
+    canvas.Polyline(points);
+    canvas.Polygon(std::vector{point(), point(), point()});
+    canvas.FilledCircle(point(), 90);
+    canvas.SetFont({FontFace::Sans, static_cast<float>(8 + i % 3)});
+    canvas.Text(point(), i % 9 == 0 ? "1230 QÄBC" : "1230 QABC");
+    if (i % 50 == 0) canvas.FilledBox(point(), point());
+  }
+}
+
+TEST(RendererTest, APictureInStripsIsTheSameAsTheWhole) {
+  const PlatformTextMeasure measure;
+  DisplayList list(measure);
+  Scribble(list);
+  QImage whole = Paper(kLarge.height());
+  DrawingTools tools;
+  RasterCanvas canvas(whole, Rules(), tools);
+  list.Play(canvas);
+  canvas.Finish();
+
+  Renderer renderer;
+  for (int round = 0; round < 2; ++round) {  // with new tools, and with those of the first
+    QImage image = Paper(kLarge.height());
+    renderer.Draw(list, 0, Rules(), image);
+    EXPECT_EQ(image, whole);
+  }
+  // The lower rows alone, which again are drawn in strips, and a few that are not.
+  for (const int rows : {600, 31}) {
+    QImage lower = Paper(rows);
+    renderer.Draw(list, 0, Rules(), lower, kLarge.height() - rows);
+    EXPECT_EQ(lower, whole.copy(0, kLarge.height() - rows, kLarge.width(), rows)) << rows;
+  }
+}
+
+}  // namespace
+}  // namespace kestrel
