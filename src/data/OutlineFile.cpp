@@ -64,15 +64,27 @@ Outline ReadOutline(std::string_view bytes, CommentLines comments) {
   Vertex vertex;
   while (outline.Latitude.size() + outline.PenUpBefore.size() < MaxVertices) {
     if (const std::size_t length = ReadPlainVertex(lines.Rest(), vertex)) {
-      if (vertex.Latitude == kEndMark) break;
+      outline.Ended = vertex.Latitude == kEndMark;
+      if (outline.Ended) break;
       Add(outline, vertex);
       lines.SkipLine(length);
     } else {
       const auto line = lines.Next();
-      if (!line || ReadAnyLine(*line, comments, outline)) break;
+      outline.Ended = line && ReadAnyLine(*line, comments, outline);
+      if (!line || outline.Ended) break;
     }
   }
   return outline;
+}
+
+std::size_t FindPenUp(std::string_view bytes, std::size_t from) {
+  constexpr std::string_view kLine = "\n-100 -100";
+  for (std::size_t at = bytes.find(kLine, from); at != std::string_view::npos;
+       at = bytes.find(kLine, at + 1)) {
+    const std::size_t behind = at + kLine.size();
+    if (behind < bytes.size() && (bytes[behind] == '\n' || bytes[behind] == '\r')) return at + 1;
+  }
+  return bytes.size();
 }
 
 }  // namespace kestrel

@@ -16,7 +16,8 @@ struct Outline {
   std::vector<float> Latitude;   ///< degrees, north positive
   std::vector<float> Longitude;  ///< degrees EAST, as the file holds them, 0 to 360
   std::vector<std::size_t>
-      PenUpBefore;  ///< ascending; no line is drawn to the vertex of that index (its size: at the end)
+      PenUpBefore;     ///< ascending; no line is drawn to the vertex of that index (its size: at the end)
+  bool Ended = false;  ///< whether the end mark was met
 };
 
 /// Whether lines that begin with > < ! * ' / or \ are passed over, or read as vertices like any other.
@@ -26,5 +27,9 @@ enum class CommentLines { Skip, Read };
 /// -100 -100 is a pen-up mark. Reading ends behind MaxVertices vertices or pen-up marks. A malformed
 /// number reads as its leading part or 0; all are finite, of whatever size.
 Outline ReadOutline(std::string_view bytes, CommentLines comments = CommentLines::Read);
+
+/// Where the first line "-100 -100" behind `from` begins; the bytes' size when there is none. What stands
+/// from there on can be read, and drawn, as an outline of its own.
+std::size_t FindPenUp(std::string_view bytes, std::size_t from);
 
 }  // namespace kestrel

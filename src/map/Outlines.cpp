@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cmath>
+#include <future>
 #include <vector>
 
 namespace kestrel {
@@ -24,29 +25,55 @@ void DrawHomeMark(Canvas& canvas) {
   canvas.Line({x, y - kHomeRadius}, {x, y + kHomeRadius});
 }
 
-Result<Outline> ReadOutlineFile(const DataFolder& folder, const QString& name) {
-  const Result<QByteArray> bytes = folder.Read(name);
-  if (!bytes) return bytes.error();
-  return ReadOutline({bytes->constData(), static_cast<std::size_t>(bytes->size())});
+std::vector<Point> Places(const Outline& outline, const MapProjection& projection) {
+  std::vector<Point> points(outline.Latitude.size());
+  projection.Vertices(outline.Latitude, outline.Longitude, points);
+  return points;
+}
+
+struct PlacedOutline {
+  Outline Vertices;
+  std::vector<Point> Points;
+};
+
+/// Where to cut a file in two that are drawn as the whole is; its end when it is short, or so long that it
+/// may have more than MaxVertices, whose lines have two characters at least.
+std::size_t WhereToCut(std::string_view bytes) {
+  constexpr std::size_t kShort = 256 * 1024;
+  const bool cuts = bytes.size() > kShort && bytes.size() <= 2 * MaxVertices;
+  return cuts ? FindPenUp(bytes, bytes.size() / 2) : bytes.size();
 }
 
 void DrawFile(Canvas& canvas, const DataFolder& folder, const QString& name, ColorValue color,
               const MapProjection& projection, std::vector<std::string>& notes) {
-  const Result<Outline> outline = ReadOutlineFile(folder, name);
-  if (!outline) {
-    if (outline.error().kind != Error::Kind::NotFound) notes.push_back(outline.error().Message());
+  const Result<QByteArray> bytes = folder.Read(name);
+  if (!bytes) {
+    if (bytes.error().kind != Error::Kind::NotFound) notes.push_back(bytes.error().Message());
     return;
   }
   canvas.SetColor(color);
-  DrawOutline(canvas, *outline, projection);
+  DrawOutline(canvas, {bytes->constData(), static_cast<std::size_t>(bytes->size())}, projection);
 }
 
 }  // namespace
 
 void DrawOutline(Canvas& canvas, const Outline& outline, const MapProjection& projection) {
-  std::vector<Point> points(outline.Latitude.size());
-  projection.Vertices(outline.Latitude, outline.Longitude, points);
+  std::vector<Point> points = Places(outline, projection);
   JoinVertices(canvas, outline, points);
+}
+
+void DrawOutline(Canvas& canvas, std::string_view bytes, const MapProjection& projection) {
+  const std::size_t cut = WhereToCut(bytes);
+  const auto read = [&projection](std::string_view part) {
+    PlacedOutline placed{ReadOutline(part), {}};
+    placed.Points = Places(placed.Vertices, projection);
+    return placed;
+  };
+  auto readingBack = std::async(std::launch::async, read, bytes.substr(cut));
+  PlacedOutline front = read(bytes.substr(0, cut));
+  PlacedOutline back = readingBack.get();
+  JoinVertices(canvas, front.Vertices, front.Points);
+  if (!front.Vertices.Ended) JoinVertices(canvas, back.Vertices, back.Points);
 }
 
 void JoinVertices(Canvas& canvas, const Outline& outline, std::span<Point> points) {

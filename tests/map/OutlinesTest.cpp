@@ -11,7 +11,7 @@ namespace {
 /// An outline drawn around 0 N, 75 W at 1114.4 twips to a degree, so that vertices read easily.
 std::string Draw(std::string_view bytes) {
   RecordingCanvas canvas;
-  DrawOutline(canvas, ReadOutline(bytes), MapProjection(0, 75, 750));
+  DrawOutline(canvas, bytes, MapProjection(0, 75, 750));
   return canvas.Readable();
 }
 
@@ -45,6 +45,35 @@ TEST(OutlinesTest, AVertexWithoutAPositionLiftsThePen) {
   DrawOutline(canvas, outline, MapProjection(0, 75, 750));
   EXPECT_EQ(canvas.Readable(),
             "Polyline 000000 (6000,4500) (6000,3386)\nPolyline 000000 (7114,4500) (7114,3386)\n");
+}
+
+/// A long file is read in two halves.
+TEST(OutlinesTest, ALongFileIsDrawnAsItsVerticesAre) {
+  const MapProjection projection(0, 75, 750);
+  const auto strokes = [](int count, const char* lift) {
+    std::string bytes;
+    for (int i = 0; i < count; ++i)
+      bytes += std::to_string(i % 7) + ".25 " + std::to_string(280 + i % 11) + (i % 5 == 0 ? lift : "\n");
+    return bytes;
+  };
+  const std::string end = "\n-2000\n1 285\n2 285\n-100 -100\n3 285\n3 286\n";
+  const struct {
+    const char* what;
+    std::string bytes;
+  } rows[] = {{"pen-up marks", strokes(60000, "\n-100 -100\n")},
+              {"with CR LF", strokes(60000, "\r\n-100 -100\r\n")},
+              {"none that is found", strokes(60000, "\n -100 -100 \n")},
+              {"numbers that only begin like one", strokes(60000, "\n-100 -1005\n")},
+              {"the end mark in the first half", strokes(9, "\n") + end + strokes(60000, "\n-100 -100\n")},
+              {"and in the second", strokes(60000, "\n-100 -100\n") + end}};
+  for (const auto& row : rows) {
+    ASSERT_GT(row.bytes.size(), 256U * 1024);
+    RecordingCanvas fromFile, fromVertices;
+    DrawOutline(fromFile, row.bytes, projection);
+    DrawOutline(fromVertices, ReadOutline(row.bytes), projection);
+    EXPECT_EQ(fromFile.Readable(), fromVertices.Readable()) << row.what;
+    EXPECT_FALSE(fromFile.Readable().empty()) << row.what;
+  }
 }
 
 TEST(OutlinesTest, FilesInTheirColoursWithTheHomeMarkBetween) {
