@@ -44,8 +44,7 @@ struct Surface {
     SurfaceRules rules;
     rules.Fit = FitSheet(static_cast<float>(kSize.width()), static_cast<float>(kSize.height()));
     rules.Area = QRectF(Image.rect());
-    Image.fill(Qt::white);
-    Drawer.Draw(List, 0, rules, Image);
+    Drawer.Draw(List, rules, Image);
     Keep(Image.constBits());
   }
 };

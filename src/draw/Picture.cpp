@@ -36,8 +36,7 @@ QByteArray PngBytes(const DisplayList& drawing, QSize size) {
     const int rows = std::min(most, size.height() - top);
     QImage band(size.width(), rows, QImage::Format_RGB32);
     if (band.isNull()) throw std::bad_alloc();
-    band.fill(Qt::white);
-    renderer.Draw(drawing, 0, RulesFor(size), band, top);
+    renderer.Draw(drawing, RulesFor(size), band, top);
     file.AddRows(band, 0, rows);
   }
   return file.Finish();
@@ -74,8 +73,7 @@ QByteArray PdfBytes(const DisplayList& drawing, QSize size) {
 
 QImage RenderImage(const DisplayList& drawing, QSize size) {
   QImage image(size, QImage::Format_RGB32);
-  image.fill(Qt::white);
-  Renderer().Draw(drawing, 0, RulesFor(size), image);
+  Renderer().Draw(drawing, RulesFor(size), image);
   return image;
 }
 

@@ -45,9 +45,11 @@ class Underway {
 
 }  // namespace
 
-void Renderer::Draw(const DisplayList& list, std::size_t from, const SurfaceRules& rules, QImage& image,
-                    int top) {
-  const int strips = StripsFor(image, list.Length() - from);
+/// Calls `draw(rows, canvas)` for each strip, at the same time.
+template <typename DrawRows>
+void Renderer::DrawStrips(QImage& image, int top, std::size_t figures, const SurfaceRules& rules,
+                          DrawRows drawRows) {
+  const int strips = StripsFor(image, figures);
   if (tools_.size() < static_cast<std::size_t>(strips)) tools_.resize(static_cast<std::size_t>(strips));
   uchar* const pixels = image.bits();
   const auto drawStrip = [&](int strip) {
@@ -56,13 +58,25 @@ void Renderer::Draw(const DisplayList& list, std::size_t from, const SurfaceRule
     QImage rows(pixels + first * image.bytesPerLine(), image.width(), behind - first, image.bytesPerLine(),
                 image.format());
     RasterCanvas canvas(rows, rules, tools_[static_cast<std::size_t>(strip)], top + first);
-    list.PlayFrom(from, canvas);
+    drawRows(rows, canvas);
     canvas.Finish();
   };
   Underway others;
   for (int strip = 1; strip < strips; ++strip) others.Start([&drawStrip, strip] { drawStrip(strip); });
   drawStrip(0);
   others.Finish();
+}
+
+void Renderer::Draw(const DisplayList& list, const SurfaceRules& rules, QImage& image, int top) {
+  DrawStrips(image, top, list.Length(), rules, [&](QImage& rows, RasterCanvas& canvas) {
+    rows.fill(Qt::white);
+    list.Play(canvas);
+  });
+}
+
+void Renderer::DrawMore(const DisplayList& list, std::size_t from, const SurfaceRules& rules, QImage& image) {
+  DrawStrips(image, 0, list.Length() - from, rules,
+             [&](QImage&, RasterCanvas& canvas) { list.PlayFrom(from, canvas); });
 }
 
 }  // namespace kestrel

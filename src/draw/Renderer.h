@@ -14,11 +14,17 @@ namespace kestrel {
 /// it the tools.
 class Renderer {
  public:
-  /// Draws what was drawn after the list was `from` long onto an image that holds the rows from `top` on of
-  /// the picture that the rules are for. The image must be RGB32.
-  void Draw(const DisplayList& list, std::size_t from, const SurfaceRules& rules, QImage& image, int top = 0);
+  /// Draws the list on white paper. The image, which must be RGB32, holds the rows from `top` on of the
+  /// picture that the rules are for.
+  void Draw(const DisplayList& list, const SurfaceRules& rules, QImage& image, int top = 0);
+
+  /// Draws what was drawn after the list was `from` long over what the image shows.
+  void DrawMore(const DisplayList& list, std::size_t from, const SurfaceRules& rules, QImage& image);
 
  private:
+  template <typename DrawRows>
+  void DrawStrips(QImage& image, int top, std::size_t figures, const SurfaceRules& rules, DrawRows drawRows);
+
   std::vector<DrawingTools> tools_;  // of each strip
 };
 

@@ -127,7 +127,7 @@ void frmOpening::RenderBackdrop() {
   rules.Fit = FitSheet(static_cast<float>(pixels.width()), static_cast<float>(pixels.height()), kDesign);
   rules.Area = QRectF(backdrop_.rect());
   rules.PixelSize = devicePixelRatio();
-  Renderer().Draw(overview_, 0, rules, backdrop_);
+  Renderer().DrawMore(overview_, 0, rules, backdrop_);
   backdropStale_ = false;
 }
 

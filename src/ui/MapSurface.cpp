@@ -40,24 +40,23 @@ QPointF MapSurface::FromSheet(Point sheet) const {
 void MapSurface::Render() {
   const QSize pixels = size() * devicePixelRatio();
   if (!stale_ && image_.size() == pixels) {
-    if (shown_ < drawing_.Length()) Play(shown_);
-    return;
+    if (shown_ < drawing_.Length()) renderer_.DrawMore(drawing_, shown_, Rules(), image_);
+  } else {
+    if (image_.size() != pixels) image_ = QImage(pixels, QImage::Format_RGB32);
+    image_.setDevicePixelRatio(devicePixelRatio());
+    renderer_.Draw(drawing_, Rules(), image_);
   }
-  if (image_.size() != pixels) image_ = QImage(pixels, QImage::Format_RGB32);
-  image_.setDevicePixelRatio(devicePixelRatio());
-  image_.fill(Qt::white);
-  Play(0);
+  shown_ = drawing_.Length();
   stale_ = false;
 }
 
-void MapSurface::Play(std::size_t from) {
+SurfaceRules MapSurface::Rules() const {
   SurfaceRules rules;
   rules.Fit = FitSheet(static_cast<float>(image_.width()), static_cast<float>(image_.height()), area_);
   rules.Area = QRectF(image_.rect());
   rules.PixelSize = image_.devicePixelRatio();
   rules.SmallestXHeight = smallestXHeight_;
-  renderer_.Draw(drawing_, from, rules, image_);
-  shown_ = drawing_.Length();
+  return rules;
 }
 
 void MapSurface::paintEvent(QPaintEvent*) {

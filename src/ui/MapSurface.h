@@ -4,8 +4,8 @@
 #include <QWidget>
 #include <functional>
 
-#include "draw/Renderer.h"
 #include "draw/Fonts.h"
+#include "draw/Renderer.h"
 #include "map/DisplayList.h"
 #include "map/Sheet.h"
 
@@ -59,7 +59,7 @@ class MapSurface final : public QWidget {
 
  private:
   void Render();
-  void Play(std::size_t from);
+  SurfaceRules Rules() const;
   SheetFit Fit() const;
 
   PlatformTextMeasure measure_;

@@ -26,8 +26,8 @@ QImage Paper(int rows) {
 }
 
 /// Figures of all kinds everywhere, letters that are not ASCII among them.
-void Scribble(Canvas& canvas) {
-  std::mt19937 random(23);
+void Scribble(Canvas& canvas, unsigned seed = 23) {
+  std::mt19937 random(seed);
   std::uniform_real_distribution<float> place(-2000, 14000);
   const auto point = [&] { return Point{place(random), place(random)}; };
   for (int i = 0; i < 300; ++i) {
@@ -58,15 +58,31 @@ TEST(RendererTest, APictureInStripsIsTheSameAsTheWhole) {
   Renderer renderer;
   for (int round = 0; round < 2; ++round) {  // with new tools, and with those of the first
     QImage image = Paper(kLarge.height());
-    renderer.Draw(list, 0, Rules(), image);
+    image.fill(Qt::red);
+    renderer.Draw(list, Rules(), image);
     EXPECT_EQ(image, whole);
   }
   // The lower rows alone, which again are drawn in strips, and a few that are not.
   for (const int rows : {600, 31}) {
     QImage lower = Paper(rows);
-    renderer.Draw(list, 0, Rules(), lower, kLarge.height() - rows);
+    renderer.Draw(list, Rules(), lower, kLarge.height() - rows);
     EXPECT_EQ(lower, whole.copy(0, kLarge.height() - rows, kLarge.width(), rows)) << rows;
   }
+}
+
+TEST(RendererTest, WhatCameLaterIsDrawnOverWhatIsThere) {
+  const PlatformTextMeasure measure;
+  DisplayList list(measure);
+  Renderer renderer;
+  QImage image = Paper(kLarge.height());
+  Scribble(list);
+  renderer.Draw(list, Rules(), image);
+  const std::size_t length = list.Length();
+  Scribble(list, 24);
+  renderer.DrawMore(list, length, Rules(), image);
+  QImage whole = Paper(kLarge.height());
+  renderer.Draw(list, Rules(), whole);
+  EXPECT_EQ(image, whole);
 }
 
 }  // namespace
