@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "core/EightCharacters.h"
+
 // Text is UTF-8 throughout. Lengths and columns count characters (code points), never bytes.
 
 namespace kestrel {
@@ -11,6 +13,9 @@ namespace kestrel {
 /// Without the blanks (U+0020) at both ends.
 inline std::string_view Trim(std::string_view text) {
   while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
+  // Columns are often filled up with many.
+  while (text.size() >= 8 && EightCharacters(text.data() + text.size() - 8) == 0x0101010101010101 * ' ')
+    text.remove_suffix(8);
   while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
   return text;
 }

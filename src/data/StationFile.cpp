@@ -8,15 +8,6 @@
 namespace kestrel {
 namespace {
 
-/// The number of a field whose line goes on to `lineEnd`, which lets it be read without regard to its end.
-double FieldNumber(std::string_view field, const char* lineEnd) {
-  const char* begin = field.data();
-  const char* const end = begin + field.size();
-  if (begin != end && *begin == ' ') ++begin;
-  double plain = 0;
-  return begin != end && ReadPlainNumber(begin, lineEnd, plain) == end ? plain : LeadingNumber(field);
-}
-
 float Number(std::string_view field) {
   return static_cast<float>(LeadingNumber(field));
 }
@@ -42,6 +33,15 @@ bool ReadPlainTower(std::string_view line, std::size_t i, StationRecord& record)
 }
 
 }  // namespace
+
+double StationLine::Number(std::string_view field) const {
+  const char* begin = field.data();
+  const char* const end = begin + field.size();
+  if (begin != end && *begin == ' ') ++begin;
+  double plain = 0;
+  // Nearly all end with their field; where the line goes on behind it, no care need be taken of its end.
+  return begin != end && ReadPlainNumber(begin, LineEnd, plain) == end ? plain : LeadingNumber(field);
+}
 
 bool IsStationLine(std::string_view line) {
   return !line.empty() && line.front() >= '1' && line.front() <= '9';
@@ -75,18 +75,15 @@ void CutTowerLine(std::string_view line, int tower, StationRecord& record) {
 }
 
 double StoreStationLine(const StationLine& line, StationRecord& record) {
-  const auto number = [lineEnd = line.LineEnd](std::string_view field) {
-    return FieldNumber(field, lineEnd);
-  };
   record.CallSign = Trim(line.CallSign);
   record.City = Trim(line.City);
   record.State = Trim(line.State);
   record.Country = Trim(line.Country);
   record.HoursCode = Trim(line.HoursCode);
-  record.Latitude = static_cast<float>(number(line.Latitude));
-  record.Longitude = static_cast<float>(number(line.Longitude));
-  record.PowerKW = static_cast<float>(number(line.PowerKW));
-  const double towers = RoundToWhole(number(line.TowerCount));
+  record.Latitude = static_cast<float>(line.Number(line.Latitude));
+  record.Longitude = static_cast<float>(line.Number(line.Longitude));
+  record.PowerKW = static_cast<float>(line.Number(line.PowerKW));
+  const double towers = RoundToWhole(line.Number(line.TowerCount));
   record.TowerCount =
       towers >= 0 && towers <= MaxTowers ? static_cast<std::int16_t>(towers) : std::int16_t{0};
   return towers;

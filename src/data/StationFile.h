@@ -42,11 +42,14 @@ struct StationRecord {
   std::array<float, MaxTowers + 1> Bearings{};  ///< degrees true
 };
 
-/// The twelve fields of a station line as the line holds them, blanks included; views into the line.
+/// The fields of a station line as the line holds them, blanks included; views into the line.
 struct StationLine {
   std::string_view Frequency, CallSign, City, State, Country, HoursCode, Latitude, Longitude, PowerKW,
       TowerCount;
   const char* LineEnd = nullptr;  ///< at or behind the end of every field
+
+  /// What LeadingNumber reads in one of the fields.
+  double Number(std::string_view field) const;
 };
 
 /// Whether the line begins with a digit 1 to 9, as station lines do and tower lines must not.

@@ -145,8 +145,8 @@ void DrawMapPicture(Canvas& canvas, const DataFolder& folder) {
     if (!bytes) continue;
     StationLineReader stations(View(*bytes));
     while (const auto station = stations.Next()) {
-      const auto at = projection.Station(static_cast<float>(LeadingNumber(station->Latitude)),
-                                         static_cast<float>(LeadingNumber(station->Longitude)));
+      const auto at = projection.Station(static_cast<float>(station->Number(station->Latitude)),
+                                         static_cast<float>(station->Number(station->Longitude)));
       if (at) canvas.FilledCircle(*at, 26);
     }
   }

@@ -31,8 +31,8 @@ std::vector<StationMark> ReadMarks(std::string_view bytes, const MapProjection& 
                      static_cast<int>(channel),
                      std::string(Trim(line->CallSign)),
                      std::string(Trim(line->HoursCode))});
-    latitudes.push_back(static_cast<float>(LeadingNumber(line->Latitude)));
-    longitudesEast.push_back(-static_cast<float>(LeadingNumber(line->Longitude)));
+    latitudes.push_back(static_cast<float>(line->Number(line->Latitude)));
+    longitudesEast.push_back(-static_cast<float>(line->Number(line->Longitude)));
   }
   std::vector<Point> places(marks.size());
   projection.Vertices(latitudes, longitudesEast, places);

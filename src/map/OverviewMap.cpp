@@ -30,8 +30,8 @@ void DrawStations(Canvas& canvas, const DataFolder& folder, float channel, const
   if (!bytes) return;
   StationLineReader reader(View(*bytes));
   while (const auto station = reader.Next()) {
-    const auto at = projection.Station(static_cast<float>(LeadingNumber(station->Latitude)),
-                                       static_cast<float>(LeadingNumber(station->Longitude)));
+    const auto at = projection.Station(static_cast<float>(station->Number(station->Latitude)),
+                                       static_cast<float>(station->Number(station->Longitude)));
     if (at) canvas.FilledCircle(*at, kStationRadius);
   }
 }
