@@ -1,8 +1,10 @@
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <locale>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,7 +13,7 @@
 
 // corpus_replay TARGET FOLDER: gives every file of the folder to the target, whole, as each of its first
 // halvings, and without its first byte. A folder without files is a failure, and so is a file that the reader
-// refuses, or takes, against expectation.
+// refuses, or takes, against expectation. With KESTREL_COMMA_LOCALE it runs under the environment's locale.
 
 namespace {
 
@@ -29,6 +31,12 @@ std::string Bytes(const std::filesystem::path& path) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  if (std::getenv("KESTREL_COMMA_LOCALE") != nullptr) {
+    std::locale::global(std::locale(""));
+    char text[8];
+    std::snprintf(text, sizeof text, "%.1f", 0.5);
+    kestrel::fuzz::Hold(std::string_view(text) == "0,5", "numbers are written with a comma");
+  }
   const kestrel::fuzz::Target target = argc == 3 ? kestrel::fuzz::FindTarget(argv[1]) : nullptr;
   if (!target || !std::filesystem::is_directory(argv[2])) {
     std::fprintf(stderr, "usage: corpus_replay TARGET FOLDER\n");
