@@ -19,9 +19,10 @@
 namespace kestrel::fuzz {
 namespace {
 
-/// Puts the stations together and reads the files that come of it.
-void Finish(Readings readings, const ImportOptions& options, ImportReport& report) {
-  const std::vector<Station> stations = MergeStations(std::move(readings.amq), readings.tables, options, report);
+/// Puts the stations together and reads the files that come of it. Returns whether there is a station.
+bool Finish(Readings readings, const ImportOptions& options, ImportReport& report) {
+  const std::vector<Station> stations =
+      MergeStations(std::move(readings.amq), readings.tables, options, report);
   const ImportReport::File total = report.Total();
   Hold(total.rows == total.taken + total.leftOut, "every row is taken or left out, once");
 
@@ -34,6 +35,7 @@ void Finish(Readings readings, const ImportOptions& options, ImportReport& repor
   }
   Hold(records == stations.size(), "an imported station is read again");
   ReportText(report);
+  return !stations.empty();
 }
 
 /// The first byte chooses the options.
@@ -49,7 +51,7 @@ ImportOptions ChosenOptions(std::string_view& bytes) {
 
 }  // namespace
 
-void AmqList(std::string_view bytes) {
+bool AmqList(std::string_view bytes) {
   const ImportOptions options = ChosenOptions(bytes);
   Readings readings;
   readings.hasAmq = true;
@@ -57,11 +59,11 @@ void AmqList(std::string_view bytes) {
   MemoryStream stream(bytes);
   LineStream lines(stream);
   ReadAmqList(lines, report.AddFile("amq.txt", "AM Query list"), options, readings.amq, report);
-  Finish(std::move(readings), options, report);
+  return Finish(std::move(readings), options, report);
 }
 
 /// Several files, a line with an equals sign between them.
-void AntennaTables(std::string_view bytes) {
+bool AntennaTables(std::string_view bytes) {
   constexpr std::string_view kBetween = "\n=\n";
   const ImportOptions options = ChosenOptions(bytes);
   Readings readings;
@@ -72,41 +74,47 @@ void AntennaTables(std::string_view bytes) {
     ReadSourceFile(stream, "file", options, readings, report);
     end = end == std::string_view::npos ? bytes.size() : end + kBetween.size();
   }
-  Finish(std::move(readings), options, report);
+  return Finish(std::move(readings), options, report);
 }
 
-void ImportJournal(std::string_view bytes) {
+bool ImportJournal(std::string_view bytes) {
   const std::optional<SwapJournal> journal = ReadJournal(bytes);
-  if (!journal) return;
+  if (!journal) return false;
   QStringList names = journal->oldFiles + journal->newFiles;
   for (const QString& name : names << journal->source)
-    Hold(!name.isEmpty() && name != "." && name != ".." && !name.contains('/'), "a name of the folder itself");
+    Hold(!name.isEmpty() && name != "." && name != ".." && !name.contains('/'),
+         "a name of the folder itself");
   const std::string text = JournalText(*journal);
   const std::optional<SwapJournal> again = ReadJournal(text);
   Hold(again && JournalText(*again) == text, "a journal reads back to the same");
+  return true;
 }
 
-void ZipIntake(std::string_view bytes) {
+/// Taken when every part is unpacked whole.
+bool ZipIntake(std::string_view bytes) {
   constexpr std::uint64_t kLargest = 1 << 20;
   const int file = memfd_create("zip", MFD_CLOEXEC);
   Hold(file >= 0 && write(file, bytes.data(), bytes.size()) == static_cast<ssize_t>(bytes.size()),
        "there is memory for the input");
-  if (auto intake = OpenIntake("/proc/self/fd/" + QString::number(file), kLargest)) {
-    std::uint64_t total = 0;
-    for (std::size_t part = 0; part < (*intake)->Parts().size(); ++part) {
-      total += (*intake)->Parts()[part].size;
-      auto stream = (*intake)->Open(part);
-      if (!stream) continue;
-      std::vector<char> buffer(4096);
-      std::uint64_t length = 0;
-      while (const std::size_t count = (*stream)->Read(buffer.data(), buffer.size())) length += count;
-      const std::uint64_t size = (*intake)->Parts()[part].size;
-      Hold(length <= size, "a part is no longer than it says");
-      Hold(length == size || !(*stream)->Problem().empty(), "a part that is shorter has a problem");
-    }
-    Hold(total <= kLargest, "no more is unpacked than allowed");
+  const auto intake = OpenIntake("/proc/self/fd/" + QString::number(file), kLargest);
+  bool whole = static_cast<bool>(intake);
+  std::uint64_t total = 0;
+  for (std::size_t part = 0; intake && part < (*intake)->Parts().size(); ++part) {
+    const std::uint64_t size = (*intake)->Parts()[part].size;
+    total += size;
+    const auto stream = (*intake)->Open(part);
+    whole = whole && static_cast<bool>(stream);
+    if (!stream) continue;
+    std::vector<char> buffer(4096);
+    std::uint64_t length = 0;
+    while (const std::size_t count = (*stream)->Read(buffer.data(), buffer.size())) length += count;
+    Hold(length <= size, "a part is no longer than it says");
+    Hold(length == size || !(*stream)->Problem().empty(), "a part that is shorter has a problem");
+    whole = whole && (*stream)->Problem().empty();
   }
+  Hold(total <= kLargest, "no more is unpacked than allowed");
   close(file);
+  return whole;
 }
 
 }  // namespace kestrel::fuzz

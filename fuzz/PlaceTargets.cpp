@@ -2,29 +2,27 @@
 #include <string>
 #include <vector>
 
+#include "ByTheRules.h"
 #include "Targets.h"
-#include "core/Lines.h"
-#include "core/Numbers.h"
 #include "core/Text.h"
-#include "core/TextFields.h"
 #include "data/OutlineFile.h"
 #include "data/PlaceLists.h"
 
 namespace kestrel::fuzz {
 namespace {
 
-/// The same by the rules alone, every line taken the long way.
 Outline OutlineByTheRules(std::string_view bytes, CommentLines comments) {
   Outline outline;
-  LineReader lines(bytes);
-  while (const auto next = lines.Next()) {
-    std::string_view line = Trim(*next);
+  for (const std::string& entry : EntriesByTheRules(bytes)) {
+    const std::string line = Trimmed(entry);
     if (line.empty()) continue;
-    if (comments == CommentLines::Skip && std::string_view("><!*'/\\").find(line[0]) != std::string_view::npos)
+    if (comments == CommentLines::Skip &&
+        std::string_view("><!*'/\\").find(line[0]) != std::string_view::npos)
       continue;
-    if (LeadingNumber(line) == -2000) break;
-    const auto latitude = static_cast<float>(LeadingNumber(NextBlankField(line).value_or("")));
-    const auto longitude = static_cast<float>(LeadingNumber(NextBlankField(line).value_or("")));
+    if (NumberByTheRules(line) == -2000) break;
+    const auto fields = FieldsByTheRules(line, ' ', 2);
+    const auto latitude = static_cast<float>(NumberByTheRules(fields[0]));
+    const auto longitude = static_cast<float>(NumberByTheRules(fields[1]));
     if (latitude == -100 && longitude == -100) {
       outline.PenUpBefore.push_back(outline.Latitude.size());
     } else {
@@ -33,6 +31,21 @@ Outline OutlineByTheRules(std::string_view bytes, CommentLines comments) {
     }
   }
   return outline;
+}
+
+/// Holds the columns of both lists, their names as they stand.
+void HoldColumns(const std::string& entry) {
+  const auto columns = [&](std::size_t first, std::size_t last) {
+    return ColumnsByTheRules(entry, first, last);
+  };
+  const Place city = CutCity(entry);
+  Hold(city.Name == columns(12, 37), "a city's name is cut by its columns");
+  Hold(city.LatitudeText == columns(38, 46) && city.LongitudeText == columns(48, 56),
+       "a city's position is cut by its columns");
+  const Place call = CutCall(entry);
+  Hold(call.CallSign == columns(1, 8) && call.Name == columns(15, 39), "a call sign is cut by its columns");
+  Hold(call.LatitudeText == Trimmed(columns(54, 62)) && call.LongitudeText == Trimmed(columns(64, 72)),
+       "a station's position is cut by its columns");
 }
 
 void UsePlace(const Place& place) {
@@ -46,31 +59,35 @@ void UsePlace(const Place& place) {
 
 }  // namespace
 
-void OutlineFile(std::string_view bytes) {
+bool OutlineFile(std::string_view bytes) {
   for (const CommentLines comments : {CommentLines::Read, CommentLines::Skip}) {
     const Outline outline = ReadOutline(bytes, comments);
     const Outline wanted = OutlineByTheRules(bytes, comments);
     Hold(outline.Latitude == wanted.Latitude && outline.Longitude == wanted.Longitude &&
              outline.PenUpBefore == wanted.PenUpBefore,
-         "the quick way through a line reads what the long way reads");
+         "an outline is read by the rules");
     for (std::size_t i = 0; i < outline.Latitude.size(); ++i) {
       HoldFinite(outline.Latitude[i]);
       HoldFinite(outline.Longitude[i]);
     }
   }
+  return true;
 }
 
-void PlaceLists(std::string_view bytes) {
+bool PlaceLists(std::string_view bytes) {
   constexpr std::size_t kMost = 50;
   const auto entries = ReadPlaceList(bytes, kMost);
-  if (!entries) return;
-  Hold(entries->size() <= kMost, "no more entries than allowed");
+  const auto wanted = EntriesByTheRules(bytes);
+  Hold(entries.has_value() == (wanted.size() <= kMost), "a list is refused when it has too many entries");
+  if (!entries) return false;
+  Hold(*entries == wanted, "the entries are the lines that are not empty");
   for (const std::string& entry : *entries) {
-    Hold(!entry.empty(), "empty lines are no entries");
+    HoldColumns(entry);
     UsePlace(CutCity(entry));
     UsePlace(CutCall(entry));
     UsePlace(TakeCity(entry));
   }
+  return true;
 }
 
 }  // namespace kestrel::fuzz

@@ -1,6 +1,8 @@
+#include <algorithm>
 #include <string>
 #include <vector>
 
+#include "ByTheRules.h"
 #include "Targets.h"
 #include "core/Text.h"
 #include "data/StationFile.h"
@@ -21,11 +23,11 @@ std::string Written(const std::vector<StationRecord>& records) {
   return text;
 }
 
-std::vector<StationRecord> Read(std::string_view bytes, std::size_t& notes) {
+std::vector<StationRecord> Read(std::string_view bytes, std::vector<std::string>& notes) {
   std::vector<StationRecord> records;
   StationFileReader reader("1230x.dat", bytes);
   while (const StationRecord* record = reader.Next()) records.push_back(*record);
-  notes = reader.Notes().size();
+  notes = reader.Notes();
   return records;
 }
 
@@ -43,29 +45,67 @@ void UseRecord(const StationRecord& record) {
     for (const float value : values) HoldFinite(value);
 }
 
+void HoldSame(const StationRecord& a, const StationRecord& b) {
+  Hold(a.CallSign == b.CallSign && a.City == b.City && a.State == b.State && a.Country == b.Country &&
+           a.HoursCode == b.HoursCode,
+       "a station's texts are read by the rules");
+  Hold(a.Latitude == b.Latitude && a.Longitude == b.Longitude && a.PowerKW == b.PowerKW &&
+           a.TowerCount == b.TowerCount,
+       "a station's numbers are read by the rules");
+  for (std::size_t i = 1; i <= static_cast<std::size_t>(a.TowerCount); ++i)
+    Hold(a.Switch[i] == b.Switch[i] && a.Fields[i] == b.Fields[i] && a.Heights[i] == b.Heights[i] &&
+             a.Phases[i] == b.Phases[i] && a.Spacings[i] == b.Spacings[i] && a.Bearings[i] == b.Bearings[i],
+         "a tower is read by the rules");
+}
+
+/// The first MaxNotes faults are reported with file and line, and that there are more.
+void HoldNotes(const std::vector<std::string>& notes, const std::vector<int>& lines) {
+  constexpr std::size_t kMost = MaxNotes;
+  Hold(notes.size() == std::min(lines.size(), kMost + 1), "every fault is reported, up to the limit");
+  for (std::size_t i = 0; i < std::min(notes.size(), kMost); ++i)
+    Hold(notes[i].starts_with("1230x.dat:" + std::to_string(lines[i]) + ": "),
+         "a fault is reported with its line");
+}
+
+void HoldFields(const StationLine& line, const std::vector<std::string>& fields) {
+  Hold(line.Frequency == fields[0] && line.CallSign == fields[1] && line.City == fields[2] &&
+           line.State == fields[3] && line.Country == fields[4] && line.HoursCode == fields[5] &&
+           line.Latitude == fields[6] && line.Longitude == fields[7] && line.PowerKW == fields[8] &&
+           line.TowerCount == fields[11],
+       "a station line is cut by the rules");
+}
+
 }  // namespace
 
-void StationFile(std::string_view bytes) {
-  std::size_t notes = 0;
+bool StationFile(std::string_view bytes) {
+  const StationsByTheRules wanted = ReadStationsByTheRules(bytes);
+  std::vector<std::string> notes;
   const std::vector<StationRecord> records = Read(bytes, notes);
-  for (const StationRecord& record : records) UseRecord(record);
+  Hold(records.size() == wanted.Records.size(), "as many records as by the rules");
+  for (std::size_t i = 0; i < records.size(); ++i) {
+    HoldSame(records[i], wanted.Records[i]);
+    UseRecord(records[i]);
+  }
+  HoldNotes(notes, wanted.FaultyLines);
 
-  std::size_t stationLines = 0;
   StationLineReader lines(bytes);
-  while (const auto line = lines.Next()) {
-    ++stationLines;
+  for (const std::vector<std::string>& fields : wanted.Stations) {
+    const auto line = lines.Next();
+    Hold(line.has_value(), "as many station lines as by the rules");
+    HoldFields(*line, fields);
     const StationSelection selection = ParseListLine(ListLine(*line));
     HoldFinite(selection.Latitude + 0.0);
     HoldFinite(selection.Longitude + 0.0);
   }
-  Hold(stationLines >= records.size(), "a station line a record");
+  Hold(!lines.Next(), "no more station lines than by the rules");
 
   // What the writer makes of it is a file without faults, and stays the same from then on.
   const std::string once = Written(records);
   const std::vector<StationRecord> reread = Read(once, notes);
-  Hold(reread.size() == records.size() && notes == 0, "a written file is read whole");
+  Hold(reread.size() == records.size() && notes.empty(), "a written file is read whole");
   const std::string twice = Written(reread);
   Hold(Written(Read(twice, notes)) == twice, "a written file is written the same again");
+  return true;
 }
 
 }  // namespace kestrel::fuzz

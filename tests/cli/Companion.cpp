@@ -30,8 +30,16 @@ Answer Folder::Run(const QStringList& arguments) const {
   return RunIn(Path(), QStringList{"--data", Path()} + arguments);
 }
 
-Answer RunIn(const QString& folder, const QStringList& arguments, const QString& locale,
-             const QString& output) {
+bool UnderCommaLocale() {
+  return qEnvironmentVariableIsSet("KESTREL_COMMA_LOCALE");
+}
+
+QString UsualLocale() {
+  return UnderCommaLocale() ? qEnvironmentVariable("LC_ALL") : QString("C");
+}
+
+Answer RunIn(const QString& folder, const QStringList& arguments, const QString& output,
+             const QString& locale) {
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "XDG_RUNTIME_DIR", "QT_QPA_PLATFORM", "LANG"})
     environment.remove(name);

@@ -39,9 +39,16 @@ class Folder {
   QTemporaryDir dir_;
 };
 
-/// Runs the companion in `folder`, which is its home, too; no display, the plainest locale. `output`
-/// takes its standard output when it is not empty.
-Answer RunIn(const QString& folder, const QStringList& arguments, const QString& locale = "C",
-             const QString& output = {});
+/// Whether the tests run under the locale that writes numbers with a comma.
+bool UnderCommaLocale();
+
+/// The locale that the companion runs under if nothing else is said: the plainest, or that of the tests where
+/// it is the one with the comma.
+QString UsualLocale();
+
+/// Runs the companion in `folder`, which is its home, too; no display. `output` takes its standard output
+/// when it is not empty.
+Answer RunIn(const QString& folder, const QStringList& arguments, const QString& output = {},
+             const QString& locale = UsualLocale());
 
 }  // namespace kestrel::cli

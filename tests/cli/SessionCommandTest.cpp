@@ -76,6 +76,8 @@ TEST(SessionCommandTest, WhatIsWrittenReadsBackTheSame) {
   const std::string written = folder.Read("new.cfg");
   const std::size_t date = written.find("\r\n* ") + 4;
   EXPECT_EQ(written.substr(0, date), "* Kestrel last-session file\r\n* ");
+  // The date alone has the form of the locale, with points in the one that writes numbers with a comma.
+  EXPECT_EQ(written.find('.', date) < written.find("\r\n", date), UnderCommaLocale());
   EXPECT_EQ(
       written.substr(written.find("\r\n", date)),
       "\r\n\r\nFrequency displayed: 1230\r\nHome: \"Là-bas\"  QC\r\nHome latitude: -45.5\r\n"

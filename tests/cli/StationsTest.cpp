@@ -71,7 +71,7 @@ TEST(StationsTest, AnEmptyChannelIsAnEmptyListAndAFullDiskStatusOne) {
   folder.Write("620x.dat", "");
   EXPECT_EQ(folder.Run({"stations", "--json"}), (Answer{0, "[]\n", ""}));
   EXPECT_EQ(
-      RunIn(folder.Path(), {"--data", ".", "stations"}, "C", "/dev/full"),
+      RunIn(folder.Path(), {"--data", ".", "stations"}, "/dev/full"),
       (Answer{1, "",
               "kestrel-cli: standard output does not take the whole answer; look for room on the disk\n"}));
 }

@@ -61,7 +61,7 @@ TEST(UsageTest, HelpIsAnAnswerAndNamesEveryCommand) {
   EXPECT_EQ(answer.Err, "");
   for (const char* command : {"stations", "pattern", "hets", "distance", "map", "scan", "session"})
     EXPECT_NE(answer.Out.find(command), std::string::npos) << command;
-  EXPECT_EQ(RunIn(folder.Path(), {"--help"}, "C", "/dev/full").Status, 1);
+  EXPECT_EQ(RunIn(folder.Path(), {"--help"}, "/dev/full").Status, 1);
 }
 
 TEST(UsageTest, ADataFolderThatIsNotThereIsStatusOne) {
