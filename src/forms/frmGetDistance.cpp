@@ -131,8 +131,8 @@ void frmGetDistance::SetUnit(std::int16_t unit) {
 }
 
 void frmGetDistance::Compute() {
-  const std::string latitude = latitude_.Box->text().toStdString();
-  const std::string longitude = longitude_.Box->text().toStdString();
+  const std::string latitude = TypedNumber(*latitude_.Box);
+  const std::string longitude = TypedNumber(*longitude_.Box);
   const auto mark = [](const Entry& entry, std::string_view hint) {
     entry.Hint->setText(Text(hint));
     MarkBox(entry.Box, !hint.empty());

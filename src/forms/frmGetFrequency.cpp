@@ -7,6 +7,7 @@
 
 #include "core/ChannelChoice.h"
 #include "core/Numbers.h"
+#include "ui/Controls.h"
 
 namespace kestrel {
 
@@ -56,12 +57,12 @@ void frmGetFrequency::AddPlot() {
   constexpr float kUnsetChannel = 1020;
   if (workspace_.State.CurrentFrequency == 0) workspace_.State.CurrentFrequency = kUnsetChannel;
   CloseWith(Plot::OnTop,
-            EnterChannel(workspace_.State, txtGetFrequency_->text().toStdString(), "Entry reset to 1700"));
+            EnterChannel(workspace_.State, TypedNumber(*txtGetFrequency_), "Entry reset to 1700"));
 }
 
 void frmGetFrequency::ErasePlot() {
-  CloseWith(Plot::AfterErase, EnterChannel(workspace_.State, txtGetFrequency_->text().toStdString(),
-                                           "Entry over 1700 reset to 1700"));
+  CloseWith(Plot::AfterErase,
+            EnterChannel(workspace_.State, TypedNumber(*txtGetFrequency_), "Entry over 1700 reset to 1700"));
 }
 
 void frmGetFrequency::Step(std::optional<std::string> (*step)(SessionState&)) {

@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "core/EntryHints.h"
 #include "core/Numbers.h"
 #include "forms/frmPlotStates.h"
 #include "ui/Controls.h"
@@ -23,7 +24,13 @@ frmGetHome::frmGetHome(const Workspace& workspace, QWidget* parent) : QDialog(pa
                                 state.CallList, CallColumns());
   latitude_ = MakeBox("txtLatitude", "Degrees, north positive, -88 to 88");
   longitude_ = MakeBox("txtLongitude", "Degrees, west positive, 30 to 170; a sign is dropped");
+  QLabel* latitudeHint = MakeLabel("lblHintLatitude", {});
+  QLabel* longitudeHint = MakeLabel("lblHintLongitude", {});
   ShowCoordinates(FormatNumber(state.HomeLatitude), FormatNumber(state.HomeLongitude));
+  connect(latitude_, &QLineEdit::textChanged, this,
+          [this, latitudeHint] { ShowHint(latitude_, latitudeHint, LatitudeHint); });
+  connect(longitude_, &QLineEdit::textChanged, this,
+          [this, longitudeHint] { ShowHint(longitude_, longitudeHint, LongitudeHint); });
 
   QPushButton* accept = MakeButton("cmdExit", "&Accept and return", "Makes this place your home");
   QPushButton* old = MakeButton("cmdQuickExit", "&Use old values and return",
@@ -57,6 +64,8 @@ frmGetHome::frmGetHome(const Workspace& workspace, QWidget* parent) : QDialog(pa
   QLabel* info = MakeLabel("lblInfo", "Entries are positive for North and for West.");
   info->setWordWrap(true);
   entry->addWidget(info, 0, 4);
+  entry->addWidget(latitudeHint, 1, 0, 1, 2, Qt::AlignRight);
+  entry->addWidget(longitudeHint, 1, 2, 1, 2, Qt::AlignRight);
   entry->setColumnStretch(4, 1);
 
   auto* buttons = new QHBoxLayout;
@@ -80,6 +89,14 @@ void frmGetHome::ShowCoordinates(const std::string& latitude, const std::string&
   longitude_->setText(shownLongitude_);
 }
 
+void frmGetHome::ShowHint(QLineEdit* box, QLabel* label, std::string_view (*hint)(std::string_view)) {
+  // An empty box is accepted as 0 like every other text without a number.
+  const std::string typed = TypedNumber(*box);
+  const std::string said(hint(typed.empty() ? " " : typed));
+  label->setText(QString::fromStdString(said));
+  MarkBox(box, !said.empty());
+}
+
 void frmGetHome::Take(const Place& place) {
   ShowCoordinates(place.LatitudeText, place.LongitudeText);
   const HomePosition home = ReadHomePosition(place.LatitudeText, place.LongitudeText);
@@ -90,8 +107,7 @@ void frmGetHome::Take(const Place& place) {
 
 void frmGetHome::TakeTyped() {
   // The boxes show rounded text: one that nobody changed is not read back.
-  const HomePosition typed =
-      ReadHomePosition(latitude_->text().toStdString(), longitude_->text().toStdString());
+  const HomePosition typed = ReadHomePosition(TypedNumber(*latitude_), TypedNumber(*longitude_));
   const bool latitudeTyped = latitude_->text() != shownLatitude_;
   const bool longitudeTyped = longitude_->text() != shownLongitude_;
   if (latitudeTyped) workspace_.State.HomeLatitude = typed.Latitude;

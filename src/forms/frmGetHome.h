@@ -2,10 +2,12 @@
 
 #include <QDialog>
 #include <string>
+#include <string_view>
 
 #include "data/PlaceLists.h"
 #include "forms/Workspace.h"
 
+class QLabel;
 class QLineEdit;
 
 namespace kestrel {
@@ -21,6 +23,8 @@ class frmGetHome final : public QDialog {
   void TakeTyped();
   void UseMap();
   void ShowCoordinates(const std::string& latitude, const std::string& longitude);
+  /// Says below a box what its text is not, as it is typed.
+  static void ShowHint(QLineEdit* box, QLabel* label, std::string_view (*hint)(std::string_view));
 
   Workspace workspace_;
   QLineEdit* latitude_;

@@ -18,6 +18,7 @@
 #include "forms/frmShowTowers.h"
 #include "map/StationPlot.h"
 #include "ui/Controls.h"
+#include "ui/FitToScreen.h"
 #include "ui/MapSurface.h"
 #include "ui/PrintCommands.h"
 
@@ -26,9 +27,9 @@ namespace {
 
 constexpr double kWidthOfScreen = 0.75;
 constexpr double kHeightOfScreen = 0.85;
-constexpr double kListOfWindow = 0.3;   // the list takes no more of the height
-constexpr double kLineOfScreen = 0.92;  // a line's heads take no more of the width
-constexpr double kSmallestPoints = 8;   // unless they would be too small to read
+constexpr double kListOfWindow = 0.3;    // the list takes no more of the height
+constexpr double kLineOfScreen = 0.92;   // a line's heads take no more of the width
+constexpr double kSmallestPoints = 7.5;  // unless they would be too small to read
 
 QString Text(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
@@ -39,10 +40,13 @@ QFont ListFont(int screenWidth) {
   QFont courier = QFontDatabase::systemFont(QFontDatabase::FixedFont);
   courier.setFamilies({"Courier New", "DejaVu Sans Mono", "Liberation Mono", "Courier"});
   courier.setStyleHint(QFont::Monospace);
-  const double share =
-      kLineOfScreen * screenWidth / QFontMetricsF(courier).horizontalAdvance(Text(ListHeads()));
-  const double points = QFontInfo(courier).pointSizeF();
-  if (share < 1) courier.setPointSizeF(std::max(std::min(points, kSmallestPoints), points * share));
+  // Half a point at a time: hinted letters are whole pixels wide.
+  double points = QFontInfo(courier).pointSizeF();
+  while (points > kSmallestPoints &&
+         QFontMetricsF(courier).horizontalAdvance(Text(ListHeads())) > kLineOfScreen * screenWidth) {
+    points = std::max(kSmallestPoints, points - 0.5);
+    courier.setPointSizeF(points);
+  }
   return courier;
 }
 
@@ -87,6 +91,7 @@ void frmGetStationData::LayOutEntry(QVBoxLayout* rows) {
                                   [this] { Search(); });
   search->setDefault(true);
   label4_ = MakeLabel("Label4", "Click on a line in the list to see that station's pattern ");
+  label4_->setWordWrap(true);
   label4_->hide();
 
   auto* grid = new QGridLayout;
@@ -140,7 +145,6 @@ void frmGetStationData::LayOutPlot(QVBoxLayout* rows) {
   plot_->setObjectName("Plot");
   plot_->setAccessibleName("Pattern and towers");
   label5_ = MakeLabel("Label5", "Patterns are individually resized to fill the plotting area");
-  label5_->hide();
 
   auto* column = new QVBoxLayout;
   column->addWidget(AddButton("cmdTowers", "&Tower data", "The towers of this record as a table", [this] {
@@ -156,14 +160,13 @@ void frmGetStationData::LayOutPlot(QVBoxLayout* rows) {
   }));
   column->addWidget(AddButton("cmdExit", "&Close", "Back to the map (Escape)", [this] { reject(); }));
   column->addStretch();
-  for (QPushButton* button : commands_)
-    if (button->objectName() != "cmdGetData") button->hide();
 
   auto* row = new QHBoxLayout;
   row->addLayout(column);
   row->addWidget(plot_, 1);
   rows->addLayout(row, 1);
   rows->addWidget(label5_);
+  ForgetRecord();
 }
 
 void frmGetStationData::Search() {
@@ -173,6 +176,7 @@ void frmGetStationData::Search() {
   state.LookupCallSign = result.CallSign;
   if (!result.CallSign.empty()) state.RememberedCallSign = result.CallSign;
   txtGetData_->setText(Text(result.CallSign));
+  ForgetRecord();
 
   rows_ = result.Rows;
   {
@@ -204,9 +208,18 @@ void frmGetStationData::ShowRecord(int row) {
   label5_->show();
 }
 
+void frmGetStationData::ForgetRecord() {
+  selection_ = {};
+  plot_->Drawing().Clear();
+  plot_->ShowDrawing();
+  for (QPushButton* button : commands_) button->setVisible(button->objectName() == "cmdGetData");
+  label5_->hide();
+}
+
 void frmGetStationData::OpenOnSelection(QDialog& form) {
   QWidget* focus = focusWidget();
   for (QPushButton* button : commands_) button->setEnabled(false);
+  FitToScreen(form);
   form.exec();
   for (QPushButton* button : commands_) button->setEnabled(true);
   if (focus != nullptr) focus->setFocus();

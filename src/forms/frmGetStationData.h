@@ -34,6 +34,7 @@ class frmGetStationData final : public QDialog {
 
   void Search();
   void ShowRecord(int row);
+  void ForgetRecord();
   /// Opens a window on the selected record; the commands rest until it is closed, in whatever way.
   void OpenOnSelection(QDialog& form);
   void FitList();

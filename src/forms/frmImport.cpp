@@ -122,10 +122,8 @@ QWidget* frmImport::MakeChoices() {
 }
 
 QLayout* frmImport::MakeCountries() {
-  txtCountries_ = new QLineEdit;
-  txtCountries_->setObjectName("txtCountries");
+  txtCountries_ = MakeBox("txtCountries", "Only the stations of these countries");
   txtCountries_->setPlaceholderText("all; or the FCC's codes, as in US,CA,MX");
-  txtCountries_->setToolTip("Only the stations of these countries");
   txtCountries_->setAcceptDrops(false);  // files dropped there are for the list
   auto* row = new QHBoxLayout;
   row->addWidget(MakeLabel("lblCountries", "Cou&ntries:", txtCountries_));

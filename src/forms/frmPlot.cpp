@@ -25,6 +25,7 @@
 #include "map/StationTip.h"
 #include "map/View.h"
 #include "ui/CommandColumn.h"
+#include "ui/FitToScreen.h"
 #include "ui/MapSurface.h"
 #include "ui/PrintCommands.h"
 
@@ -96,9 +97,7 @@ void frmPlot::UpdateZoomCommands() {
 }
 
 void frmPlot::RunForm(QDialog& form) {
-  const QSize frame(0, 2 * fontMetrics().height());
-  if (form.testAttribute(Qt::WA_Resized))
-    form.resize(form.size().boundedTo(screen()->availableSize() - frame));
+  FitToScreen(form);
   form.exec();
   // A message or a map that closes together with the form below it leaves some window managers without an
   // active window.

@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QScreen>
+#include <algorithm>
 
 #include "map/StatesMap.h"
 #include "ui/Controls.h"
@@ -15,7 +16,10 @@ frmPlotStates::frmPlotStates(const Workspace& workspace, QWidget* parent)
   setObjectName("frmPlotStates");
   setWindowTitle("KestrelII - States");
 
-  map_ = new MapSurface(this, StatesMapArea);
+  // On the lowest screens the names of the longitudes must not grow into each other.
+  constexpr double kScreenPerXHeight = 56;
+  map_ = new MapSurface(this, StatesMapArea,
+                        std::min(7.0, screen()->availableSize().height() / kScreenPerXHeight));
   map_->setObjectName("Map");
   map_->setCursor(Qt::CrossCursor);
   map_->setToolTip("A click makes this place your home");
@@ -23,9 +27,10 @@ frmPlotStates::frmPlotStates(const Workspace& workspace, QWidget* parent)
   map_->MousePressed = [this](Point at, Qt::MouseButton button) { TakePoint(at, button); };
   DrawStatesMap(map_->Drawing(), workspace_.Folder);
 
-  // Its texts stand side by side and must not grow into each other.
-  constexpr double kSmallestXHeight = 4.2;
-  readout_ = new MapSurface(this, StatesReadoutArea, kSmallestXHeight);
+  // Its texts stand side by side and must not grow into each other: the size that can just be read is in
+  // pixels of the screen itself.
+  constexpr double kSmallestXHeight = 4.1;
+  readout_ = new MapSurface(this, StatesReadoutArea, kSmallestXHeight / devicePixelRatio());
   readout_->setObjectName("Readout");
 
   QPushButton* exit = MakeButton("cmdExit", "&Return", "Back to the home window without a change");

@@ -31,24 +31,25 @@ void DrawGrid(Canvas& canvas) {
   canvas.SetLineWidth(1);
   canvas.SetFont(kGridFont);
   constexpr float kGap = 40;  // between a label and its line
-  const auto line = [&](Point from, Point to, Point label, const std::string& text) {
+  // The label stands so many lines above the point it belongs to, also when it has grown.
+  const auto line = [&](Point from, Point to, Point named, float lines, const std::string& text) {
     canvas.SetColor(kGridColor);
     canvas.Line(from, to);
     canvas.SetColor(kGridTextColor);
-    canvas.Text(label, text);
+    canvas.BeginPanel(named, kGridFont);
+    canvas.Text({named.x + kGap, named.y - lines * canvas.TextHeight()}, text);
+    canvas.EndPanel();
   };
-  const float height = canvas.TextHeight();
   for (int east = kWestEdge; east <= kEastEdge; east += kGridStep) {
     const auto longitude = static_cast<float>(east);
     const Point south = PlaceOnStatesMap(kSouthEdge, longitude);
-    line(PlaceOnStatesMap(kNorthEdge, longitude), south, {south.x + kGap, south.y - height},
-         std::to_string(360 - east) + " W");
+    line(PlaceOnStatesMap(kNorthEdge, longitude), south, south, 1, std::to_string(360 - east) + " W");
   }
   for (int latitude = kSouthEdge; latitude <= kNorthEdge; latitude += kGridStep) {
     const Point west = PlaceOnStatesMap(static_cast<float>(latitude), kWestEdge);
     // The lowest one stands above the names of the longitudes.
-    const float lift = latitude == kSouthEdge ? 2 * height : height;
-    line(west, PlaceOnStatesMap(static_cast<float>(latitude), kEastEdge), {west.x + kGap, west.y - lift},
+    const float lines = latitude == kSouthEdge ? 2 : 1;
+    line(west, PlaceOnStatesMap(static_cast<float>(latitude), kEastEdge), west, lines,
          std::to_string(latitude) + " N");
   }
 }
@@ -101,6 +102,10 @@ void DrawStatesReadout(Canvas& canvas, std::optional<Point> mouse, const Session
   const auto print = [&](float x, const char* caption, float value) {
     canvas.Text({x, kStripTextTop}, caption + NumberText(CutToThousandth(value)));
   };
+  // Two texts keep apart when they have grown.
+  const auto beginPair = [&](float x) {
+    canvas.BeginPanel({x, kStripTextTop + canvas.TextHeight() / 2}, kStripFont);
+  };
   canvas.SetColor(kStripColor);
   canvas.FilledBox({1, 7600}, {11999, 7999});
   canvas.SetColor(kHomeStripColor);
@@ -108,12 +113,16 @@ void DrawStatesReadout(Canvas& canvas, std::optional<Point> mouse, const Session
   if (mouse) {
     const Position pointed = PointedPosition(*mouse);
     canvas.SetColor(0);
+    beginPair(300);
     print(300, "Mouse latitude: ", pointed.Latitude);
     print(2310, "Longitude: ", pointed.Longitude);
+    canvas.EndPanel();
   }
   canvas.SetColor(kWhite);
+  beginPair(4700);
   print(4700, "Current home latitude: ", state.HomeLatitude);
   print(7400, "Longitude: ", state.HomeLongitude);
+  canvas.EndPanel();
 }
 
 }  // namespace kestrel

@@ -5,6 +5,8 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include "ui/Controls.h"
+
 namespace kestrel {
 
 CommandColumn::CommandColumn(QWidget* parent) : QScrollArea(parent), column_(new QWidget) {
@@ -19,13 +21,12 @@ CommandColumn::CommandColumn(QWidget* parent) : QScrollArea(parent), column_(new
 
 QPushButton* CommandColumn::AddCommand(const char* name, const QString& caption, const QString& tip,
                                        const QList<QKeySequence>& shortcuts, std::function<void()> action) {
-  auto* button = new QPushButton(caption);
-  button->setObjectName(name);
+  QPushButton* button = MakeButton(
+      name, caption,
+      shortcuts.isEmpty() ? tip : tip + " (" + shortcuts.front().toString(QKeySequence::NativeText) + ')');
   button->setAutoDefault(true);  // Enter presses it too
   for (const QKeySequence& keys : shortcuts)
     connect(new QShortcut(keys, window()), &QShortcut::activated, button, &QPushButton::click);
-  button->setToolTip(
-      shortcuts.isEmpty() ? tip : tip + " (" + shortcuts.front().toString(QKeySequence::NativeText) + ')');
   connect(button, &QPushButton::clicked, this, std::move(action));
   layout_->addWidget(button);
   return button;

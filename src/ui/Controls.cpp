@@ -4,6 +4,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QStyleOptionButton>
+#include <QStylePainter>
 
 namespace kestrel {
 namespace {
@@ -17,10 +19,27 @@ QPalette BoxPalette() {
   return palette;
 }
 
+/// A button whose caption is English on every desktop: the icon stands before it, the dots after it.
+class CaptionButton final : public QPushButton {
+ public:
+  explicit CaptionButton(const QString& caption) : QPushButton(caption) {
+    setLayoutDirection(Qt::LeftToRight);
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QStylePainter painter(this);
+    painter.setLayoutDirection(Qt::LeftToRight);  // which is the desktop's otherwise
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    painter.drawControl(QStyle::CE_PushButton, option);
+  }
+};
+
 }  // namespace
 
 QPushButton* MakeButton(const char* name, const QString& caption, const QString& tip) {
-  auto* button = new QPushButton(caption);
+  auto* button = new CaptionButton(caption);
   button->setObjectName(name);
   button->setToolTip(tip);
   return button;
@@ -51,6 +70,16 @@ void MarkBox(QLineEdit* box, bool marked) {
     palette.setColor(QPalette::Text, Qt::black);
   }
   box->setPalette(palette);
+}
+
+std::string TypedNumber(const QLineEdit& box) {
+  constexpr QChar kArabicDecimalSeparator(0x066B);
+  QString text = box.text();
+  for (QChar& character : text) {
+    if (character.isDigit()) character = QChar('0' + character.digitValue());
+    if (character == kArabicDecimalSeparator) character = '.';
+  }
+  return text.toStdString();
 }
 
 }  // namespace kestrel

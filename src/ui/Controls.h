@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <string>
 
 class QLabel;
 class QLineEdit;
@@ -22,5 +23,9 @@ QLineEdit* MakeBox(const char* name, const QString& tip);
 
 /// Colours the box as one whose entry wants a second look, or as an ordinary one.
 void MarkBox(QLineEdit* box, bool marked);
+
+/// What the box holds, for the number routine: the decimal digits of every script as 0 to 9, the Arabic
+/// decimal separator as a point.
+std::string TypedNumber(const QLineEdit& box);
 
 }  // namespace kestrel

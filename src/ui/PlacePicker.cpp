@@ -19,7 +19,8 @@ namespace kestrel {
 namespace {
 
 constexpr int kFewestRows = 6;
-constexpr int kRowMargin = 4;  // pixels
+constexpr int kRowMargin = 4;    // pixels
+constexpr int kBesideLists = 8;  // characters: what a window with two lists shows left, right and between
 
 QString Trimmed(const std::string& text) {
   return QString::fromStdString(text).trimmed();
@@ -105,7 +106,9 @@ PlacePicker::PlacePicker(const char* listName, const char* searchName, const QSt
   // On a small screen two lists stand side by side still, and scroll sideways.
   const int wholeWidth =
       totalWidth + list_->verticalScrollBar()->sizeHint().width() + 2 * list_->frameWidth();
-  const int offeredWidth = std::min(wholeWidth, screen()->availableSize().width() * 2 / 5);
+  const int screenWidth = screen()->availableSize().width();
+  const bool twoFit = 2 * wholeWidth + kBesideLists * metrics.averageCharWidth() <= screenWidth;
+  const int offeredWidth = twoFit ? wholeWidth : std::min(wholeWidth, screenWidth * 2 / 5);
   if (offeredWidth == wholeWidth) header->setSectionResizeMode(look.WideColumn, QHeaderView::Stretch);
   list_->setMinimumSize(offeredWidth, kFewestRows * (metrics.height() + kRowMargin));
 

@@ -15,6 +15,7 @@
 
 #include "draw/PagePainter.h"
 #include "ui/Controls.h"
+#include "ui/FitToScreen.h"
 
 namespace kestrel {
 namespace {
@@ -71,6 +72,7 @@ class PrintPreview final : public QDialog {
     setup->setAutoDefault(false);
     connect(setup, &QPushButton::clicked, this, [this, orientation] {
       QPageSetupDialog dialog(&printer_, this);
+      FitToScreen(dialog);
       if (dialog.exec() != QDialog::Accepted) return;
       orientation->setCurrentIndex(printer_.pageLayout().orientation() == QPageLayout::Landscape ? 1 : 0);
       view_->updatePreview();
@@ -94,6 +96,7 @@ class PrintPreview final : public QDialog {
     print->setDefault(true);
     connect(print, &QPushButton::clicked, this, [this] {
       QPrintDialog dialog(&printer_, this);
+      FitToScreen(dialog);
       if (dialog.exec() == QDialog::Accepted) accept();
     });
     QPushButton* close = MakeButton("cmdClose", "&Close", "Prints nothing");

@@ -93,6 +93,27 @@ TEST_F(HomeTest, TypedCoordinatesAreReadLimitedAndNameless) {
   }
 }
 
+TEST_F(HomeTest, WhatIsNoNumberIsSaidAsItIsTyped) {
+  frmGetHome form(Everything);
+  const auto hints = [&] { return Shown(form, "lblHintLatitude") + "|" + Shown(form, "lblHintLongitude"); };
+  Use(form, [&] {
+    EXPECT_EQ(hints(), "|");
+    Type(form, "txtLatitude", "north");
+    EXPECT_EQ(hints(), "No number here|");
+    Type(form, "txtLongitude", "");
+    EXPECT_EQ(hints(), "No number here|No number here");
+    Type(form, "txtLatitude", "-95");
+    EXPECT_EQ(hints(), "Latitude beyond 90|No number here");
+    ClickRow(form, "lstCities", 0);
+    EXPECT_EQ(hints(), "|");
+    Type(form, "txtLatitude", "x");
+    Find<QLineEdit>(form, "txtLongitude")->setText("٩٦٫٥");
+    EXPECT_EQ(hints(), "No number here|");
+    Press(form, "cmdExit");
+  });
+  EXPECT_EQ(Home(), "Abilene  TX 0 96.5") << "it counts all the same";
+}
+
 TEST_F(HomeTest, WhatNobodyChangedStaysExact) {
   const SessionState before = State;
   frmGetHome untouched(Everything);

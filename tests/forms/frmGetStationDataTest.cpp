@@ -102,6 +102,19 @@ TEST_F(frmGetStationDataTest, OneEnterShowsAPatternAndTheArrowsTheNextOne) {
   EXPECT_EQ(Plotted().All("Line").size(), 2U * 36) << "two records with one call sign, hours and tower count";
 }
 
+TEST_F(frmGetStationDataTest, ASearchThatFindsNothingLeavesNothingOfTheStationBefore) {
+  Open("QABC");
+  EXPECT_TRUE(IsShown("cmdTowers"));
+  LookFor("nope");
+  EXPECT_EQ(List()->count(), 0);
+  for (const char* hidden : {"Label5", "cmdTowers", "cmdContext", "cmdPrint", "cmdExit"})
+    EXPECT_FALSE(IsShown(hidden)) << hidden;
+  EXPECT_EQ(Plotted().List.size(), 0U);
+  LookFor("qabc");
+  EXPECT_TRUE(IsShown("cmdTowers"));
+  EXPECT_EQ(Plotted().All("Line").size(), 36U);
+}
+
 TEST_F(frmGetStationDataTest, WhatIsNotFoundIsSaid) {
   Open();
   EXPECT_EQ(Shown(*form_, "txtGetData"), "");

@@ -151,6 +151,21 @@ TEST_F(frmImportTest, OnlyTheStationsOfTheCountriesWanted) {
   EXPECT_NE(folder_.Text("620x.dat").find("KAAA"), std::string::npos);
 }
 
+TEST_F(frmImportTest, TheHintInItsBoxCanBeReadInADarkTheme) {
+  const QPalette before = QApplication::palette("QLineEdit");
+  QPalette dark = before;
+  dark.setColor(QPalette::Base, Qt::black);
+  dark.setColor(QPalette::Text, Qt::white);
+  dark.setColor(QPalette::PlaceholderText, Qt::black);
+  QApplication::setPalette(dark, "QLineEdit");
+  {
+    frmImport form(workspace_);
+    const auto* box = form.findChild<QLineEdit*>("txtCountries");
+    EXPECT_EQ(box->palette().color(QPalette::PlaceholderText).lightness(), 255);
+  }
+  QApplication::setPalette(before, "QLineEdit");
+}
+
 TEST_F(frmImportTest, FilesMayBeDropped) {
   frmImport form(workspace_);
   QMimeData data;

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QRectF>
+#include <optional>
+
 #include "RecordingCanvas.h"
 #include "TestFolder.h"
 
@@ -49,6 +52,48 @@ TEST(StatesMapTest, TheFigureAndItsReadout) {
   EXPECT_EQ(strip.Texts(), (std::vector<std::string>{"Mouse latitude: 10", "Longitude: 30",
                                                      "Current home latitude: -33.456", "Longitude: 96.541"}));
   EXPECT_EQ(strip.All("Text").back().Color, 0xFFFFFF);
+}
+
+/// Where the canvas' texts stand on a surface that makes them so much larger.
+std::vector<QRectF> GrownTexts(const RecordingCanvas& canvas, float growth) {
+  std::vector<QRectF> boxes;
+  const FixedMeasure measure;
+  std::optional<Point> anchor;
+  for (const Drawn& drawn : canvas.List) {
+    if (drawn.Verb == "Panel") anchor = drawn.Points[0];
+    if (drawn.Verb == "EndPanel") anchor.reset();
+    if (drawn.Verb != "Text") continue;
+    const float height = measure.TextHeight(drawn.Face);
+    Point corner = {drawn.Points[0].x, drawn.Points[0].y + height};  // the lower left one
+    if (anchor)
+      corner = {anchor->x + (corner.x - anchor->x) * growth, anchor->y + (corner.y - anchor->y) * growth};
+    boxes.emplace_back(corner.x, corner.y - height * growth,
+                       measure.TextWidth(drawn.Face, drawn.Text) * growth, height * growth);
+  }
+  return boxes;
+}
+
+TEST(StatesMapTest, TextsThatHaveGrownKeepApart) {
+  const TestFolder folder;
+  SessionState state;
+  state.HomeLatitude = -33.45679F;
+  RecordingCanvas map;
+  DrawStatesMap(map, folder.Folder());
+  RecordingCanvas strip;
+  DrawStatesReadout(strip, Point{1234, 2345}, state);
+  const struct {
+    const RecordingCanvas& canvas;
+    float growth;
+    std::size_t texts;
+  } rows[] = {{map, 1, 10U + 8U}, {map, 2.5F, 10U + 8U}, {strip, 1, 4}, {strip, 1.25F, 4}};
+  for (const auto& row : rows) {
+    const std::vector<QRectF> boxes = GrownTexts(row.canvas, row.growth);
+    ASSERT_EQ(boxes.size(), row.texts);
+    for (std::size_t i = 0; i < boxes.size(); ++i)
+      for (std::size_t other = 0; other < i; ++other)
+        EXPECT_FALSE(boxes[i].intersects(boxes[other]))
+            << row.canvas.Texts()[i] << ", " << row.canvas.Texts()[other] << ", " << row.growth;
+  }
 }
 
 }  // namespace
