@@ -33,12 +33,6 @@ inline int BytesBefore(std::uint64_t set) {
   return std::countr_zero(set) / 8;
 }
 
-/// A set as eight bits, that of the first byte the lowest.
-inline std::uint64_t SetBits(std::uint64_t set) {
-  // Each byte's bit reaches the top byte at a place of its own; no two products meet.
-  return (set >> 7) * 0x0102040810204080 >> 56;
-}
-
 /// The number that eight decimal digits write, given as values 0 to 9, the first in the lowest byte. Digits
 /// are joined to pairs, pairs to fours and fours to the whole, each step in all bytes at once.
 inline std::uint64_t EightDigits(std::uint64_t digits) {

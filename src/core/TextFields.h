@@ -60,7 +60,7 @@ std::array<std::string_view, N> FirstFields(std::string_view line) {
       endField(at);
       if (count == N) return fields;
     }
-  endField(end);
+  if (begin != end) fields[count] = {begin, static_cast<std::size_t>(end - begin)};
   return fields;
 }
 

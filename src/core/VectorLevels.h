@@ -6,8 +6,9 @@
 // The kernels live in a namespace that a test replaces to compile them again, each vector level by itself.
 #ifndef KESTREL_KERNELS
 #define KESTREL_KERNELS kernels
-// One function compiled for several levels, the best one chosen when the program starts.
-#if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__)
+// One function compiled for several levels, the best one chosen when the program starts, where the compiler
+// can do so.
+#ifdef KESTREL_HAS_CLONES
 #define KESTREL_CLONES __attribute__((target_clones("default", "arch=x86-64-v3", "arch=x86-64-v4")))
 #endif
 #endif

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <bit>
+#include <cfloat>
 #include <cstdint>
 
 #include "core/VectorLevels.h"
@@ -16,6 +17,8 @@ struct SineCosine {
   double Sine;
   double Cosine;
 };
+
+static_assert(FLT_EVAL_METHOD == 0, "needs arithmetic in plain doubles, as with -msse2 -mfpmath=sse");
 
 /// Adding it to a number below 2^51 leaves the number rounded to whole in the last bits of the sum.
 constexpr double RoundingShift = 0x1.8p52;

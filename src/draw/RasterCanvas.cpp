@@ -88,16 +88,16 @@ void RasterCanvas::Box(Point corner, Point opposite) {
 
 void RasterCanvas::FilledBox(Point corner, Point opposite) {
   LayInk();
-  const QRectF whole(0, top_, image_.width(), image_.height());
-  const QRectF filled = view_.Filled(corner, opposite);
-  // Written so that a box that is no number is passed over.
-  const bool shown = filled.left() < whole.right() && filled.right() > whole.left() &&
-                     filled.top() < whole.bottom() && filled.bottom() > whole.top();
-  if (!shown) return;
-  const QRect box = filled.intersected(whole).toRect();
-  for (int y = box.top(); y <= box.bottom(); ++y)
-    std::fill_n(reinterpret_cast<QRgb*>(image_.scanLine(y - top_)) + box.left(), std::max(0, box.width()),
-                color_);
+  const QRectF box = view_.Filled(corner, opposite);
+  // Each edge is rounded by itself, so that boxes share it wherever it lies; what is no number is 0.
+  const auto pixel = [](double edge, int most) {
+    return edge > 0 ? static_cast<int>(std::lround(std::min<double>(edge, most))) : 0;
+  };
+  const int left = pixel(box.left(), image_.width());
+  const int right = pixel(box.right(), image_.width());
+  const int bottom = pixel(box.bottom() - top_, image_.height());
+  for (int y = pixel(box.top() - top_, image_.height()); y < bottom; ++y)
+    std::fill_n(reinterpret_cast<QRgb*>(image_.scanLine(y)) + left, std::max(0, right - left), color_);
 }
 
 void RasterCanvas::Dot(Point at) {

@@ -3,6 +3,7 @@
 #include <QThread>
 #include <QThreadPool>
 #include <algorithm>
+#include <functional>
 #include <future>
 #include <memory>
 #include <utility>
@@ -12,13 +13,13 @@
 namespace kestrel {
 namespace {
 
-constexpr int kMostStrips = 4;
+constexpr int kMostProcessors = 4;
 constexpr std::size_t kLittleToDraw = 100;       // figures, quicker drawn than handed out
 constexpr qsizetype kLittleToShow = 500 * 1000;  // pixels, likewise
 
-int StripsFor(const QImage& image, std::size_t figures) {
-  if (figures < kLittleToDraw || qsizetype{image.width()} * image.height() < kLittleToShow) return 1;
-  return std::clamp(QThread::idealThreadCount(), 1, kMostStrips);
+int StripsFor(const QImage& image, std::size_t figures, int processors) {
+  const bool little = figures < kLittleToDraw || qsizetype{image.width()} * image.height() < kLittleToShow;
+  return little ? 1 : processors;
 }
 
 /// Work under way, waited for however its owner is left.
@@ -32,10 +33,13 @@ class Underway {
     // Shared, since the pool copies what it is given.
     const auto piece = std::make_shared<std::packaged_task<void()>>(std::move(work));
     pieces_.push_back(piece->get_future());
-    QThreadPool::globalInstance()->start([piece] { (*piece)(); });
+    QThreadPool* const processors = QThreadPool::globalInstance();
+    processors->setExpiryTimeout(-1);  // each has made its fonts, which would be made anew
+    processors->start([piece] { (*piece)(); });
   }
 
   void Finish() {
+    for (const std::future<void>& piece : pieces_) piece.wait();
     for (std::future<void>& piece : std::exchange(pieces_, {})) piece.get();
   }
 
@@ -45,11 +49,15 @@ class Underway {
 
 }  // namespace
 
+Renderer::Renderer(int processors)
+    : processors_(processors > 0 ? processors : std::clamp(QThread::idealThreadCount(), 1, kMostProcessors)) {
+}
+
 /// Calls `draw(rows, canvas)` for each strip, at the same time.
 template <typename DrawRows>
 void Renderer::DrawStrips(QImage& image, int top, std::size_t figures, const SurfaceRules& rules,
                           DrawRows drawRows) {
-  const int strips = StripsFor(image, figures);
+  const int strips = StripsFor(image, figures, processors_);
   if (tools_.size() < static_cast<std::size_t>(strips)) tools_.resize(static_cast<std::size_t>(strips));
   uchar* const pixels = image.bits();
   const auto drawStrip = [&](int strip) {

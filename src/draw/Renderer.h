@@ -14,6 +14,9 @@ namespace kestrel {
 /// it the tools.
 class Renderer {
  public:
+  /// Draws with so many processors; 0: with those of the machine, at most four.
+  explicit Renderer(int processors = 0);
+
   /// Draws the list on white paper. The image, which must be RGB32, holds the rows from `top` on of the
   /// picture that the rules are for.
   void Draw(const DisplayList& list, const SurfaceRules& rules, QImage& image, int top = 0);
@@ -25,6 +28,7 @@ class Renderer {
   template <typename DrawRows>
   void DrawStrips(QImage& image, int top, std::size_t figures, const SurfaceRules& rules, DrawRows drawRows);
 
+  const int processors_;
   std::vector<DrawingTools> tools_;  // of each strip
 };
 

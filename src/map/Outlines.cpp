@@ -69,7 +69,8 @@ void DrawOutline(Canvas& canvas, std::string_view bytes, const MapProjection& pr
     placed.Points = Places(placed.Vertices, projection);
     return placed;
   };
-  auto readingBack = std::async(std::launch::async, read, bytes.substr(cut));
+  if (cut == bytes.size()) return DrawOutline(canvas, ReadOutline(bytes), projection);
+  auto readingBack = std::async(read, bytes.substr(cut));
   PlacedOutline front = read(bytes.substr(0, cut));
   PlacedOutline back = readingBack.get();
   JoinVertices(canvas, front.Vertices, front.Points);

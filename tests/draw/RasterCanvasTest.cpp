@@ -147,6 +147,55 @@ TEST(RasterCanvasTest, NothingOfADrawingComesBackInTheNext) {
   EXPECT_LT(LargestLocalDifference(wide.copy(QRect(QPoint(0, 0), kSize)), first), 0.1);
 }
 
+/// Eight pixels are laid at a time, and what is left over at the right side one by one.
+TEST(RasterCanvasTest, APictureOfAnyWidthShowsTheLeftColumnsOfAWiderOne) {
+  const auto drawn = [](int width) {
+    QImage image(width, 40, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    DrawingTools tools;
+    SurfaceRules rules;
+    rules.Fit = FitSheet(800, 600);
+    rules.Area = QRectF(0, 0, 800, 600);
+    RasterCanvas canvas(image, rules, tools);
+    std::mt19937 random(8);
+    std::uniform_real_distribution<float> x(-300, 12000), y(-300, 900);
+    for (int i = 0; i < 300; ++i) {
+      canvas.SetColor(i * 70001);
+      canvas.SetLineWidth(0.5F * static_cast<float>(i % 7 + 1));
+      canvas.Line({x(random), y(random)}, {x(random), y(random)});
+      canvas.FilledCircle({x(random), y(random)}, 60);
+      canvas.Text({x(random), y(random)}, "1230");
+    }
+    canvas.Finish();
+    return image;
+  };
+  const QImage wide = drawn(700);
+  for (const int width : {1, 2, 3, 7, 8, 9, 15, 16, 17, 63, 64, 65, 487, 488, 489, 511, 512, 513, 699})
+    EXPECT_EQ(drawn(width), wide.copy(0, 0, width, 40)) << width;
+}
+
+/// Legends are laid on boxes side by side; lines must not shine through between them.
+TEST(RasterCanvasTest, BoxesThatShareAnEdgeLeaveNoSeam) {
+  for (const double pixelSize : {1.0, 1.25, 1.5, 1.75, 2.0}) {
+    SurfaceRules rules = Rules();
+    rules.PixelSize = pixelSize;
+    for (float edge = 3000; edge < 3400; edge += 7) {
+      QImage image = Paper();
+      DrawingTools tools;
+      RasterCanvas canvas(image, rules, tools);
+      canvas.SetColor(0);
+      canvas.FilledBox({2000, 2000}, {5000, edge});
+      canvas.FilledBox({2000, edge}, {5000, 5000});
+      canvas.Finish();
+      const int column = 70;
+      int changes = 0;
+      for (int y = 1; y < image.height(); ++y)
+        changes += image.pixel(column, y) != image.pixel(column, y - 1) ? 1 : 0;
+      ASSERT_EQ(changes, 2) << pixelSize << ' ' << edge;
+    }
+  }
+}
+
 TEST(RasterCanvasTest, NothingIsDrawnOutsideThePictureWhateverTheCoordinates) {
   const float hostile[] = {0,
                            -1,

@@ -12,10 +12,11 @@ namespace {
 
 constexpr QSize kLarge(1000, 750);
 
-SurfaceRules Rules() {
+SurfaceRules Rules(double pixelSize = 1) {
   SurfaceRules rules;
   rules.Fit = FitSheet(static_cast<float>(kLarge.width()), static_cast<float>(kLarge.height()));
   rules.Area = QRectF(QPointF(0, 0), QSizeF(kLarge));
+  rules.PixelSize = pixelSize;
   return rules;
 }
 
@@ -49,24 +50,27 @@ TEST(RendererTest, APictureInStripsIsTheSameAsTheWhole) {
   const PlatformTextMeasure measure;
   DisplayList list(measure);
   Scribble(list);
-  QImage whole = Paper(kLarge.height());
-  DrawingTools tools;
-  RasterCanvas canvas(whole, Rules(), tools);
-  list.Play(canvas);
-  canvas.Finish();
-
-  Renderer renderer;
-  for (int round = 0; round < 2; ++round) {  // with new tools, and with those of the first
-    QImage image = Paper(kLarge.height());
-    image.fill(Qt::red);
-    renderer.Draw(list, Rules(), image);
-    EXPECT_EQ(image, whole);
-  }
-  // The lower rows alone, which again are drawn in strips, and a few that are not.
-  for (const int rows : {600, 31}) {
-    QImage lower = Paper(rows);
-    renderer.Draw(list, Rules(), lower, kLarge.height() - rows);
-    EXPECT_EQ(lower, whole.copy(0, kLarge.height() - rows, kLarge.width(), rows)) << rows;
+  for (const double pixelSize : {1.0, 1.75}) {
+    QImage whole = Paper(kLarge.height());
+    DrawingTools tools;
+    RasterCanvas canvas(whole, Rules(pixelSize), tools);
+    list.Play(canvas);
+    canvas.Finish();
+    for (const int processors : {2, 4}) {
+      Renderer renderer(processors);
+      for (int round = 0; round < 2; ++round) {  // with new tools, and with those of the first
+        QImage image = Paper(kLarge.height());
+        image.fill(Qt::red);
+        renderer.Draw(list, Rules(pixelSize), image);
+        EXPECT_EQ(image, whole) << pixelSize << ' ' << processors;
+      }
+      // The lower rows alone, which again are drawn in strips, and a few that are not.
+      for (const int rows : {600, 31}) {
+        QImage lower = Paper(rows);
+        renderer.Draw(list, Rules(pixelSize), lower, kLarge.height() - rows);
+        EXPECT_EQ(lower, whole.copy(0, kLarge.height() - rows, kLarge.width(), rows)) << rows;
+      }
+    }
   }
 }
 

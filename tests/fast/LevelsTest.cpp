@@ -4,63 +4,12 @@
 #include <random>
 
 #include "Samples.h"
-#include "draw/Mixing.h"
-#include "map/VertexPlaces.h"
-#include "pattern/PatternSweep.h"
+#include "levels/Levels.h"
 
 // The kernels give the same bytes at every vector level that the machine has.
 
-#ifdef KESTREL_LEVELS
-
-#define KESTREL_DECLARE_LEVEL(level)                                                                \
-  namespace level {                                                                                 \
-  bool SweepPattern(const SweepTower* towers, int count, float* magnitudes);                        \
-  void PlaceVertices(const ProjectionCenter& home, const float* latitudes, const float* longitudes, \
-                     float* places, std::size_t count);                                             \
-  void MixRows(QRgb color, const InkRows& ink, const PixelRows& pixels, int eights, int rows);      \
-  void LayEights(QRgb color, std::uint8_t* ink, QRgb* pixels, std::uint64_t eights);                \
-  }
-
 namespace kestrel {
-KESTREL_DECLARE_LEVEL(x86_64)
-KESTREL_DECLARE_LEVEL(x86_64_v3)
-KESTREL_DECLARE_LEVEL(x86_64_v4)
-
 namespace {
-
-struct Level {
-  const char* Name;
-  bool Here;
-  decltype(&SweepPattern) Sweep;
-  decltype(&PlaceVertices) Place;
-  decltype(&MixRows) Mix;
-  decltype(&LayEights) Lay;
-};
-
-// By their features, since Clang 14 does not know the levels by name.
-bool HasLevel3() {
-  return __builtin_cpu_supports("avx2") && __builtin_cpu_supports("fma") && __builtin_cpu_supports("bmi2");
-}
-
-bool HasLevel4() {
-  return HasLevel3() && __builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512bw") &&
-         __builtin_cpu_supports("avx512cd") && __builtin_cpu_supports("avx512dq") &&
-         __builtin_cpu_supports("avx512vl");
-}
-
-std::vector<Level> LevelsHere() {
-  const Level all[] = {
-      {"x86-64", true, x86_64::SweepPattern, x86_64::PlaceVertices, x86_64::MixRows, x86_64::LayEights},
-      {"x86-64-v3", HasLevel3(), x86_64_v3::SweepPattern, x86_64_v3::PlaceVertices, x86_64_v3::MixRows,
-       x86_64_v3::LayEights},
-      {"x86-64-v4", HasLevel4(), x86_64_v4::SweepPattern, x86_64_v4::PlaceVertices, x86_64_v4::MixRows,
-       x86_64_v4::LayEights},
-  };
-  std::vector<Level> here;
-  for (const Level& level : all)
-    if (level.Here) here.push_back(level);
-  return here;
-}
 
 TEST(LevelsTest, SweepGivesTheSameBytes) {
   for (const StationRecord& record : SampleArrays(500, 11)) {
@@ -129,5 +78,3 @@ TEST(LevelsTest, MixingGivesTheColorsOfTheFormula) {
 
 }  // namespace
 }  // namespace kestrel
-
-#endif

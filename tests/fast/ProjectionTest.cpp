@@ -4,6 +4,7 @@
 
 #include "Samples.h"
 #include "straight/Formulas.h"
+#include "straight/Reading.h"
 
 namespace kestrel {
 namespace {
@@ -27,23 +28,31 @@ void ExpectSamePlace(float fast, float straight) {
   EXPECT_NEAR(fast, straight, 0.01);
 }
 
+void ExpectSamePlaces(const Home& home, float scale, const SampleVertices& vertices) {
+  const std::vector<Point> fast = Places(MapProjection(home.Latitude, home.Longitude, scale), vertices);
+  for (std::size_t i = 0; i < fast.size(); ++i) {
+    const Point straight =
+        straight::Place(home.Latitude, home.Longitude, scale, vertices.Latitudes[i], vertices.Longitudes[i]);
+    // Near the point opposite home the direction, and so the place, hangs on the last bits.
+    const double reach = std::hypot(straight.x - 6000, straight.y - 4500) / scale * 75 / 111.44;
+    if (reach > 179.999) continue;
+    ExpectSamePlace(fast[i].x, straight.x);
+    ExpectSamePlace(fast[i].y, straight.y);
+    if (testing::Test::HasFailure()) FAIL() << vertices.Latitudes[i] << ' ' << vertices.Longitudes[i];
+  }
+}
+
 TEST(ProjectionTest, VerticesLieWhereTheStraightFormulaPutsThem) {
   const SampleVertices vertices = SampleSphere(20000, 7);
-  for (const Home& home : kHomes) {
-    for (const float scale : {50.0F, 200.0F, 10000.0F}) {
-      const std::vector<Point> fast = Places(MapProjection(home.Latitude, home.Longitude, scale), vertices);
-      for (std::size_t i = 0; i < fast.size(); ++i) {
-        const Point straight = straight::Place(home.Latitude, home.Longitude, scale, vertices.Latitudes[i],
-                                               vertices.Longitudes[i]);
-        // Near the point opposite home the direction, and so the place, hangs on the last bits.
-        const double reach = std::hypot(straight.x - 6000, straight.y - 4500) / scale * 75 / 111.44;
-        if (reach > 179.999) continue;
-        ExpectSamePlace(fast[i].x, straight.x);
-        ExpectSamePlace(fast[i].y, straight.y);
-        if (HasFailure()) FAIL() << vertices.Latitudes[i] << ' ' << vertices.Longitudes[i];
-      }
-    }
-  }
+  for (const Home& home : kHomes)
+    for (const float scale : {50.0F, 200.0F, 10000.0F})
+      ASSERT_NO_FATAL_FAILURE(ExpectSamePlaces(home, scale, vertices));
+}
+
+TEST(ProjectionTest, OutlinesLieWhereTheStraightFormulaPutsThem) {
+  const Outline outline = straight::ReadOutline(std::string(KESTREL_SHARE_DIR) + "/REGION2.dat");
+  ASSERT_GT(outline.Latitude.size(), 10000U);
+  ASSERT_NO_FATAL_FAILURE(ExpectSamePlaces(kHomes[0], 200, {outline.Latitude, outline.Longitude}));
 }
 
 TEST(ProjectionTest, HomeIsExactAndHostileAnglesKeepTheirPlace) {

@@ -22,6 +22,7 @@ void ExpectSamePattern(const StationRecord& original) {
   ASSERT_EQ(std::memcmp(fast.data(), straight.data(), sizeof fast), 0) << original.CallSign;
   if (!finished) return;
   ASSERT_EQ(fastRecord.Fields, straightRecord.Fields);
+  ASSERT_EQ(fastRecord.Spacings, straightRecord.Spacings);
   ASSERT_EQ(fastRecord.Bearings, straightRecord.Bearings);
 }
 
