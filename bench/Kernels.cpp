@@ -1,10 +1,14 @@
 #include <proj.h>
 
+#include <array>
+#include <cmath>
+#include <cstdio>
 #include <random>
 
 #include "Rows.h"
 #include "Table.h"
 #include "core/Geodesy.h"
+#include "levels/Levels.h"
 #include "straight/Formulas.h"
 #include "straight/Reading.h"
 
@@ -59,6 +63,17 @@ class ProjPlot {
     projection_ = proj_create(nullptr, text.c_str());
   }
 
+  /// In the program's twips, its sphere having 111.44 km to the degree.
+  std::vector<Point> Places() {
+    Run();
+    const double radius = KilometresPerDegree * DegreesPerRadian * kScale / 75;
+    std::vector<Point> places;
+    for (const PJ_COORD& place : coordinates_)
+      places.push_back({static_cast<float>(HomeOnSheet.x + place.xy.x * radius),
+                        static_cast<float>(HomeOnSheet.y - place.xy.y * radius)});
+    return places;
+  }
+
   void Run() {
     for (std::size_t i = 0; i < coordinates_.size(); ++i)
       coordinates_[i] = proj_coord(proj_torad(BringIntoRange(outline_.Longitude[i])),
@@ -72,6 +87,18 @@ class ProjPlot {
   std::vector<PJ_COORD> coordinates_;
   PJ* projection_;
 };
+
+void AddDistanceNote(const std::vector<Point>& places, const std::vector<Point>& others) {
+  double farthest = 0;
+  for (std::size_t i = 0; i < places.size(); ++i)
+    farthest = std::max<double>(
+        {farthest, std::abs(places[i].x - others[i].x), std::abs(places[i].y - others[i].y)});
+  std::array<char, 100> text;
+  std::snprintf(text.data(), text.size(),
+                "Places of REGION2.dat and PROJ's on the same sphere: at most %.4f twip apart (asked: 0.01).",
+                farthest);
+  AddNote(text.data());
+}
 
 }  // namespace
 
@@ -98,6 +125,26 @@ void AddProjectionRows() {
     Keep(points.data());
   });
   AddRow("projection of REGION2.dat", "PROJ aeqd on a sphere", {8, 0}, fast, [] { proj.Run(); });
+  fast();
+  AddDistanceNote(points, proj.Places());
+}
+
+void AddLevelRows() {
+  static const StationRecord record = TwelveTowers();
+  static std::vector<SweepTower> towers;
+  for (std::size_t i = 1; i <= MaxTowers; ++i)
+    towers.push_back({record.Fields[i], record.Spacings[i] / DegreesPerRadian,
+                      record.Bearings[i] / DegreesPerRadian, record.Phases[i] / DegreesPerRadian});
+  for (const Level& level : LevelsHere())
+    AddRow(
+        std::string("kernel of the sweep, 12 towers, ") + level.Name, "scalar formula",
+        {std::string_view(level.Name) == "x86-64" ? 5.0 : 12.0, 0},
+        [level] {
+          std::array<float, PatternAzimuths> magnitudes;
+          static_cast<void>(level.Sweep(towers.data(), MaxTowers, magnitudes.data()));
+          Keep(magnitudes.data());
+        },
+        Sweeping({record}, straight::ComputePattern));
 }
 
 }  // namespace kestrel::bench

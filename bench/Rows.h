@@ -8,6 +8,7 @@ namespace kestrel::bench {
 
 void AddSweepRow();
 void AddProjectionRows();
+void AddLevelRows();  ///< a kernel at each vector level
 void AddSweepRow(const Band& band);
 void AddOutlineReaderRow();
 void AddStationReaderRow(const Band& band);

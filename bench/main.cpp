@@ -9,6 +9,7 @@ int main(int argc, char** argv) {
   int qtArguments = 1;
   const QGuiApplication app(qtArguments, argv);
   AddSweepRow();
+  AddLevelRows();
   AddProjectionRows();
   AddOutlineReaderRow();
   for (const Band& band : Bands()) {
