@@ -166,7 +166,7 @@ void Undo(const Request& request) {
   const auto platform = StartPlatform(Platform::Files);
   const DataFolder folder = DataFor(request);
   if (const Result<Done> undone = UndoImport(folder); !undone) throw Failure(undone.error().Message());
-  const std::string line = folder.StationsLine();
+  const std::string line = StationsLineOf(folder);
   if (!request.Json)
     return Print("The station files of before are back: " + (line.empty() ? "none" : line) + '\n');
   JsonWriter json;
