@@ -202,7 +202,7 @@ TEST(AntennaTables, NumbersAreTakenUpToTheirLimits) {
     };
     for (const std::string& value : taken) EXPECT_EQ(badFields(value), 0) << column << ' ' << value;
     for (const std::string& value : leftOut) EXPECT_EQ(badFields(value), 1) << column << ' ' << value;
-    for (const std::string& value : {"inf", "-inf", "nan", "1e400", "-1e400"})
+    for (const char* value : {"inf", "-inf", "nan", "1e400", "-1e400"})
       EXPECT_EQ(badFields(value), 1) << column << ' ' << value;
     EXPECT_EQ(badFields(std::string(400, '9')), 1) << column;
   }
