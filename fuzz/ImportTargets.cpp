@@ -21,8 +21,7 @@ namespace {
 
 /// Puts the stations together and reads the files that come of it. Returns whether there is a station.
 bool Finish(Readings readings, const ImportOptions& options, ImportReport& report) {
-  const std::vector<Station> stations =
-      MergeStations(std::move(readings.amq), readings.tables, options, report);
+  const Stations stations = MergeStations(std::move(readings.amq), readings.tables, options, report);
   const ImportReport::File total = report.Total();
   Hold(total.rows == total.taken + total.leftOut, "every row is taken or left out, once");
 

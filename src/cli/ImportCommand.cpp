@@ -67,8 +67,8 @@ void WriteFindings(JsonWriter& json, const ImportReport& report, std::size_t fir
 }
 
 void WriteChange(JsonWriter& json, const Change& change) {
-  json.BeginObject().Key("frequency").Whole(change.channel).Key("call").Text(change.callSign);
-  json.Key("hours").Text(change.hours).Key("place").Text(change.place);
+  json.BeginObject().Key("frequency").Whole(change.channel).Key("call").Text(change.CallSign());
+  json.Key("hours").Text(change.Hours()).Key("place").Text(change.Place());
   switch (change.kind) {
     case ChangeKind::Moved:
       json.Key("distance_km").Number(change.after);
@@ -83,7 +83,7 @@ void WriteChange(JsonWriter& json, const Change& change) {
           .Whole(static_cast<int>(change.after));
       break;
     case ChangeKind::CallSign:
-      json.Key("call_before").Text(change.formerCallSign);
+      json.Key("call_before").Text(change.FormerCallSign());
       break;
     default:
       break;
@@ -91,7 +91,7 @@ void WriteChange(JsonWriter& json, const Change& change) {
   json.EndObject();
 }
 
-void WriteChanges(JsonWriter& json, const std::vector<Change>& changes) {
+void WriteChanges(JsonWriter& json, const Changes& changes) {
   json.BeginObject();
   for (const ChangeKind kind : {ChangeKind::New, ChangeKind::Gone, ChangeKind::Moved, ChangeKind::Power,
                                 ChangeKind::Pattern, ChangeKind::CallSign}) {
@@ -166,7 +166,7 @@ void Undo(const Request& request) {
   const auto platform = StartPlatform(Platform::Files);
   const DataFolder folder = DataFor(request);
   if (const Result<Done> undone = UndoImport(folder); !undone) throw Failure(undone.error().Message());
-  const std::string line = folder.StationsLine();
+  const std::string line = StationsLineOf(folder);
   if (!request.Json)
     return Print("The station files of before are back: " + (line.empty() ? "none" : line) + '\n');
   JsonWriter json;

@@ -55,6 +55,13 @@ DataFolder DataFor(const Request& request) {
   return *folder;
 }
 
+std::string StationsLineOf(const DataFolder& folder) {
+  const Result<std::string> line = folder.ReadStationsLine();
+  if (line) return *line;
+  Say(line.error().Message());
+  return {};
+}
+
 QByteArray ReadChannel(const DataFolder& folder, float frequency) {
   if (!(frequency >= LowestChannel && frequency <= HighestChannel))
     throw Failure("the session's channel is " + NumberText(frequency) +

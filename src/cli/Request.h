@@ -38,6 +38,9 @@ SessionState SessionFor(const Request& request, MissingSession missing = Missing
 /// taken back. Throws Failure. REQUIRES: the platform is started.
 DataFolder DataFor(const Request& request);
 
+/// The line of "Stations.txt"; when it cannot be read none, and standard error says why.
+std::string StationsLineOf(const DataFolder& folder);
+
 /// The bytes of the channel's station file. Throws Failure when there are none.
 QByteArray ReadChannel(const DataFolder& folder, float frequency);
 

@@ -40,7 +40,7 @@ void ForEachValue(const SessionState& state, Text text, Number number, Whole who
   whole("PlotAllStations", state.PlotAllStations);
 }
 
-std::string Json(const SessionState& state, const DataFolder& folder) {
+std::string Json(const SessionState& state, const DataFolder& folder, const std::string& stations) {
   JsonWriter json;
   json.BeginObject();
   ForEachValue(
@@ -52,11 +52,11 @@ std::string Json(const SessionState& state, const DataFolder& folder) {
   for (const ColorValue color : state.FurtherAdjacentColors) json.Whole(color);
   json.EndArray();
   json.Key("DataFolder").Text(folder.Path().toStdString());
-  json.Key("Stations").Text(folder.StationsLine());
+  json.Key("Stations").Text(stations);
   return json.EndObject().Finish();
 }
 
-std::string ForPeople(const SessionState& state, const DataFolder& folder) {
+std::string ForPeople(const SessionState& state, const DataFolder& folder, const std::string& stations) {
   Table table({{""}, {""}});
   ForEachValue(
       state,
@@ -74,7 +74,7 @@ std::string ForPeople(const SessionState& state, const DataFolder& folder) {
   for (const ColorValue color : state.FurtherAdjacentColors) colors += std::to_string(color) + ' ';
   table.AddRow({"FurtherAdjacentColors", colors});
   table.AddRow({"DataFolder", folder.Path().toStdString()});
-  table.AddRow({"Stations", folder.StationsLine()});
+  table.AddRow({"Stations", stations});
   return table.Text();
 }
 
@@ -93,7 +93,8 @@ void ShowSession(Request request, const std::optional<std::string>& file,
   const SessionState state = SessionFor(request, MissingSession::IsFirstStart);
   const DataFolder folder = DataFor(request);
   if (writeTo) Save(state, *writeTo);
-  Print(request.Json ? Json(state, folder) : ForPeople(state, folder));
+  const std::string stations = StationsLineOf(folder);
+  Print(request.Json ? Json(state, folder, stations) : ForPeople(state, folder, stations));
 }
 
 }  // namespace

@@ -61,8 +61,14 @@ Result<Done> DataFolder::Write(const QString& name, std::string_view bytes) cons
 }
 
 std::string DataFolder::StationsLine() const {
+  const Result<std::string> line = ReadStationsLine();
+  return line ? *line : std::string();
+}
+
+Result<std::string> DataFolder::ReadStationsLine() const {
   const Result<QByteArray> bytes = Read("Stations.txt");
-  if (!bytes) return {};
+  if (!bytes && bytes.error().kind == Error::Kind::NotFound) return std::string();
+  if (!bytes) return bytes.error();
   LineReader lines(std::string_view(bytes->constData(), static_cast<std::size_t>(bytes->size())));
   return std::string(Trim(lines.Next().value_or("")));
 }

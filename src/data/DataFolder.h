@@ -28,7 +28,11 @@ class DataFolder {
   /// Replaces the file as a whole, or leaves the old one whole. A name already there in another case is kept.
   Result<Done> Write(const QString& name, std::string_view bytes) const;
 
-  /// The line of "Stations.txt" that says where the station data come from; empty when there is none.
+  /// The line of "Stations.txt" that says where the station data come from; empty when there is no such file.
+  /// Errors as ReadFile's for one that is there.
+  Result<std::string> ReadStationsLine() const;
+
+  /// The same for who can do without: empty for a file that cannot be read, too.
   std::string StationsLine() const;
 
  private:

@@ -33,12 +33,9 @@ QString Text(std::string_view text) {
 }
 
 QStringList ChangeCells(const Change& change) {
-  return {Text(ChangeName(change.kind)),
-          QString::number(change.channel),
-          Text(change.callSign),
-          Text(change.hours),
-          Text(change.place),
-          Text(ChangeDetail(change))};
+  return {Text(ChangeName(change.kind)), QString::number(change.channel),
+          Text(change.CallSign()),       Text(change.Hours()),
+          Text(change.Place()),          Text(ChangeDetail(change))};
 }
 
 QCheckBox* MakeCheckBox(const char* name, const QString& caption, const QString& tip) {
@@ -195,7 +192,7 @@ void frmImport::ShowOutcome(const ImportOutcome& outcome, bool dryRun) {
   results_->setCurrentWidget(txtReport_);
 }
 
-void frmImport::ShowChanges(std::vector<Change> changes) {
+void frmImport::ShowChanges(Changes changes) {
   changes_ = std::move(changes);
   auto* model = new RowsModel(
       {"Change", "kHz", "Call", "Hours", "Place", "What"}, static_cast<int>(changes_.size()),

@@ -44,7 +44,7 @@ class frmImport final : public QDialog {
   void SaveReport();
   void Undo();
   void ShowOutcome(const ImportOutcome& outcome, bool dryRun);
-  void ShowChanges(std::vector<Change> changes);
+  void ShowChanges(Changes changes);
   void SetRunning(bool running);
   void UpdateCommands();
 
@@ -58,7 +58,7 @@ class frmImport final : public QDialog {
   QTabWidget* results_;
   QPlainTextEdit* txtReport_;
   QTableView* lstChanges_;
-  std::vector<Change> changes_;
+  Changes changes_;
   std::string wholeReport_;
   bool running_ = false;
   bool cancelled_ = false;

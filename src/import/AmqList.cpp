@@ -105,24 +105,25 @@ std::optional<Fault> Reader::ReadStatus(Station& station) {
   if (status == kStatuses.end()) return Fault{Finding::BadField, "status " + Quoted(fields_[kStatus])};
   const std::optional<char> hours = HoursCode(fields_[kPeriod]);
   if (!hours) return Fault{Finding::BadField, "hours " + Quoted(fields_[kPeriod])};
+  const std::optional<FacilityId> facility = ReadFacilityId(fields_[kFacility]);
+  if (!facility) return Fault{Finding::BadField, "facility " + Quoted(fields_[kFacility])};
+  station.facility = *facility;
   station.hours = *hours;
-  station.country = CountryCode(fields_[kCountry]);
-  station.callSign = UpperCase(MendedName(fields_[kCall]));
-  station.city = MendedName(fields_[kCity]);
-  station.state = MendedName(fields_[kState]);
+  const std::string_view country = CountryCode(fields_[kCountry]);
+  const std::string callSign = UpperCase(MendedName(fields_[kCall]));
+  station.names = StationNames(callSign, MendedName(fields_[kCity]), MendedName(fields_[kState]), country);
   const double frequency = NumberWithUnit(fields_[kFrequency], "kHz").value_or(0);
-  if (IsOnRaster(frequency)) station.channel = static_cast<int>(frequency);
-  if (fields_[kFacility] != "0" && fields_[kFacility] != "-") station.facility = fields_[kFacility];
-  station.preference = static_cast<int>(status - kStatuses.begin());
-  station.permit = station.country == "US" && *status != "LIC" && *status != "STA";
-  if (!station.facility.empty()) stations_.facilities.insert(station.facility);
+  if (IsOnRaster(frequency)) station.channel = static_cast<std::int16_t>(frequency);
+  station.preference = static_cast<std::uint8_t>(status - kStatuses.begin()) & 0x3F;
+  station.permit = country == "US" && *status != "LIC" && *status != "STA";
+  if (station.facility != 0) stations_.facilities.push_back(station.facility);
 
-  const bool named = IsCallSign(station.callSign);
-  if (named && IsOnAir(*status, station.country, options_.includePermits)) return std::nullopt;
-  if (!station.facility.empty()) stations_.offAir.emplace(station.facility, station.hours);
-  if (!named || IsEnded(*status)) stations_.endedIn[Identity(station)] = station.row.file;
-  if (!named) return Fault{Finding::NotOnAir, "call sign " + Quoted(station.callSign)};
-  return Fault{Finding::NotOnAir, station.callSign + ", status " + std::string(*status)};
+  const bool named = IsCallSign(callSign);
+  if (named && IsOnAir(*status, country, options_.includePermits)) return std::nullopt;
+  if (station.facility != 0) stations_.offAir.emplace_back(station.facility, station.hours);
+  if (!named || IsEnded(*status)) stations_.ended.push_back(station);
+  if (!named) return Fault{Finding::NotOnAir, "call sign " + Quoted(callSign)};
+  return Fault{Finding::NotOnAir, callSign + ", status " + std::string(*status)};
 }
 
 std::optional<Fault> Reader::ReadSite(Station& station) const {
@@ -136,14 +137,14 @@ std::optional<Fault> Reader::ReadSite(Station& station) const {
   if (!directional.empty() && directional != "-" && directional != "Directional")
     return Fault{Finding::BadField, "antenna " + Quoted(directional)};
 
-  if (!IsOnRaster(*frequency))
-    return Fault{Finding::OffRaster, station.callSign + ", " + DecimalText(*frequency, 3) + " kHz"};
-  if (const std::string fault = PowerFault(*power); !fault.empty())
-    return Fault{Finding::BadField, station.callSign + ", " + fault};
-  if (!IsInAmericas(*position))
-    return Fault{Finding::OutsideAmericas, station.callSign + ", " + std::string(fields_[kCity])};
-  if (!options_.WantsCountry(station.country))
-    return Fault{Finding::OtherCountry, station.callSign + ", " + station.country};
+  const auto fault = [&](Finding finding, const std::string& text) {
+    return Fault{finding, std::string(station.names.CallSign()) + ", " + text};
+  };
+  if (!IsOnRaster(*frequency)) return fault(Finding::OffRaster, DecimalText(*frequency, 3) + " kHz");
+  if (const std::string why = PowerFault(*power); !why.empty()) return fault(Finding::BadField, why);
+  if (!IsInAmericas(*position)) return fault(Finding::OutsideAmericas, std::string(fields_[kCity]));
+  if (const std::string_view country = station.names.Country(); !options_.WantsCountry(country))
+    return fault(Finding::OtherCountry, std::string(country));
 
   station.powerKW = *power;
   station.position = *position;

@@ -1,9 +1,6 @@
 #pragma once
 
-#include <set>
-#include <string>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -18,16 +15,16 @@
 namespace kestrel {
 
 /// A facility and its hours of operation.
-using FacilityHours = std::pair<std::string, char>;
+using FacilityHours = std::pair<FacilityId, char>;
 
-/// What the lists said, all of them together.
+/// What the lists said, all of them together, in the order read.
 struct AmqStations {
-  std::vector<Station> onAir;        ///< in the order read
-  std::set<FacilityHours> offAir;    ///< periods that a list has under a status that is not on the air
-  std::set<std::string> facilities;  ///< that a list has, on the air or not
-  /// The last file that has a station under a status that ends it, or without a call sign, by Identity. A
+  Stations onAir;
+  std::vector<FacilityHours> offAir;   ///< periods that a list has under a status that is not on the air
+  std::vector<FacilityId> facilities;  ///< that a list has, on the air or not; any number of times
+  /// Those under a status that ends them, or without a call sign: what makes their identity, and the row. A
   /// permit or an application beside a licence ends nothing.
-  std::unordered_map<std::string, int> endedIn;
+  Stations ended;
 };
 
 /// Whether a line looks like a row of such a list; any number of fields from 31 on.

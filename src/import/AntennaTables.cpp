@@ -12,22 +12,25 @@ namespace {
 constexpr double kMostDegrees = 100000;  // of a height or spacing
 
 /// Keeps `value` under `key`; an earlier row there is left out.
-template <typename Value>
-void Keep(std::unordered_map<std::string, Value>& map, std::string key, Value value, ImportReport& report) {
-  const auto [at, isNew] = map.try_emplace(std::move(key), value);
-  if (isNew) return;
-  report.LeaveOut(at->second.row, Finding::Superseded, at->first);
+template <typename Key, typename Value>
+void Keep(std::unordered_map<Key, Value>& map, Key key, Value value, ImportReport& report) {
+  const auto at = map.find(key);
+  if (at == map.end()) {
+    map.emplace(std::move(key), std::move(value));
+    return;
+  }
+  report.LeaveOut(at->second.row, Finding::Superseded, KeyText(key));
   at->second = std::move(value);
 }
 
 /// What an earlier file has under `key` is left out, now that this row is there and tells of nothing in its
 /// place.
-template <typename Value>
-void Withdraw(std::unordered_map<std::string, Value>& map, std::string_view key, const TableRow& row,
+template <typename Key, typename Value>
+void Withdraw(std::unordered_map<Key, Value>& map, const Key& key, const TableRow& row,
               ImportReport& report) {
-  const auto at = map.find(std::string(key));
+  const auto at = map.find(key);
   if (at == map.end() || at->second.row.file == row.Place().file) return;
-  report.LeaveOut(at->second.row, Finding::Superseded, at->first + ", by a later file");
+  report.LeaveOut(at->second.row, Finding::Superseded, KeyText(key) + ", by a later file");
   map.erase(at);
 }
 
@@ -51,19 +54,19 @@ bool IsInForce(TableRow& row) {
 void ReadAntennaSystem(TableRow& row, bool current, AntennaTables& tables, ImportReport& report) {
   AntennaSystem system;
   system.row = row.Place();
-  system.id = row.Key("ant_sys_id");
+  std::string id = row.Key("ant_sys_id");
   system.application = row.Key("application_id");
   system.current = current;
-  const auto withdraw = [&] { Withdraw(tables.systems, system.id, row, report); };
+  const auto withdraw = [&] { Withdraw(tables.systems, id, row, report); };
   if (!IsInForce(row)) return withdraw();
   if (row.HasColumn("eng_record_type") && row.Text("eng_record_type") != "C") {
     row.LeaveOut(Finding::NotLicensed,
-                 "antenna system " + system.id + ", record type " + std::string(row.Text("eng_record_type")));
+                 "antenna system " + id + ", record type " + std::string(row.Text("eng_record_type")));
     return withdraw();
   }
   const std::string_view hours = row.Text("hours_operation");
   if (hours == "P" || hours == "X") {
-    row.LeaveOut(Finding::OtherHours, "antenna system " + system.id + ", hours " + std::string(hours));
+    row.LeaveOut(Finding::OtherHours, "antenna system " + id + ", hours " + std::string(hours));
     return withdraw();
   }
   if (hours.size() != 1 || std::string_view("UDNCR").find(hours) == std::string_view::npos)
@@ -75,7 +78,6 @@ void ReadAntennaSystem(TableRow& row, bool current, AntennaTables& tables, Impor
   system.powerKW = row.Number("power", 0, 1e6).value_or(0);
   system.position = row.Position();
   if (row.Faulty()) return;
-  std::string id = system.id;
   Keep(tables.systems, std::move(id), std::move(system), report);
 }
 
@@ -97,12 +99,15 @@ void ReadTower(TableRow& row, AntennaTables& tables, ImportReport& report) {
   std::string system = row.Key("ant_sys_id");
   if (!IsInForce(row)) return WithdrawTowers(tables, system, row, report);
   row.Key("tower_num");
-  tower.number = static_cast<int>(row.Number("tower_num", 1, 1000).value_or(0));
-  tower.field = row.Number("field_ratio", 0, 1e6);
-  tower.height = ElectricalHeight(row);
-  tower.phase = row.Number("phasing_deg", -360, 360).value_or(0);
-  tower.spacing = row.Number("spacing_deg", 0, kMostDegrees).value_or(0);
-  tower.bearing = row.Number("orientation_deg", -360, 360).value_or(0);
+  tower.number = static_cast<std::int16_t>(row.Number("tower_num", 1, 1000).value_or(0));
+  const auto degrees = [&](std::string_view column, double least, double most) {
+    return static_cast<float>(row.Number(column, least, most).value_or(0));
+  };
+  if (const auto field = row.Number("field_ratio", 0, 1e6)) tower.field = static_cast<float>(*field);
+  tower.height = static_cast<float>(ElectricalHeight(row));
+  tower.phase = degrees("phasing_deg", -360, 360);
+  tower.spacing = degrees("spacing_deg", 0, kMostDegrees);
+  tower.bearing = degrees("orientation_deg", -360, 360);
   const std::string_view reference = row.Text("tower_ref_switch");
   if (!reference.empty() && reference != "0" && reference != "1") row.Fail("tower_ref_switch");
   tower.fromPrevious = reference == "1";
@@ -126,7 +131,7 @@ void ReadApplication(TableRow& row, std::unordered_map<std::string, ApplicationR
   application.row = row.Place();
   std::string id = row.Key("application_id");
   if (!IsInForce(row)) return Withdraw(map, id, row, report);
-  application.facility = row.Text("facility_id");
+  application.facility = row.Facility();
   application.domesticStatus = row.Letter("am_dom_status");
   const std::string_view service = row.Text("app_service");
   if (!service.empty() && service != "AM")
@@ -138,19 +143,19 @@ void ReadApplication(TableRow& row, std::unordered_map<std::string, ApplicationR
 void ReadFacility(TableRow& row, AntennaTables& tables, ImportReport& report) {
   const std::string_view service = row.Text("fac_service");
   if (service != "AM") return row.LeaveOut(Finding::OtherService, "service \"" + std::string(service) + '"');
-  if (!IsInForce(row)) return Withdraw(tables.facilities, row.Text("facility_id"), row, report);
+  const FacilityId id = row.Facility();
+  if (!IsInForce(row)) return Withdraw(tables.facilities, id, row, report);
   FacilityRow facility;
   facility.row = row.Place();
-  std::string id = row.Key("facility_id");
-  facility.callSign = UpperCase(MendedName(row.Text("fac_callsign")));
-  facility.city = MendedName(row.Text("comm_city"));
-  facility.state = MendedName(row.Text("comm_state"));
-  facility.country = row.Text("fac_country");
+  if (id == 0) row.Fail("facility_id");
+  facility.names =
+      StationNames(UpperCase(MendedName(row.Text("fac_callsign"))), MendedName(row.Text("comm_city")),
+                   MendedName(row.Text("comm_state")), row.Text("fac_country"));
   facility.status = row.Text("fac_status");
   facility.frequency = row.Number("fac_frequency", 0, 1e6).value_or(0);
   facility.application = row.Text("application_id");
   if (row.Faulty()) return;
-  Keep(tables.facilities, std::move(id), std::move(facility), report);
+  Keep(tables.facilities, id, std::move(facility), report);
 }
 
 }  // namespace

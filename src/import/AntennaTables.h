@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <unordered_map>
@@ -8,6 +9,7 @@
 #include "import/ImportReport.h"
 #include "import/LineStream.h"
 #include "import/SitePosition.h"
+#include "import/Station.h"
 #include "import/TableLayout.h"
 
 // The rows of the antenna tables, kept by their keys until the stations are put together from them. Of
@@ -19,39 +21,39 @@ namespace kestrel {
 /// A row of am_ant_sys: one antenna of one application for its hours.
 struct AntennaSystem {
   RowPlace row;
-  std::string id;
   std::string application;
   char hours = 'U';          ///< D, N, C or U
   char domesticStatus = 0;   ///< L licensed, C permit, ...; 0 abroad
   bool directional = false;  ///< as the record says; its towers may tell more
   bool current = false;      ///< of the current system: licensed unless its facility says otherwise
-  int towerCount = 0;        ///< announced
+  int towerCount = 0;        ///< announced, 0 to 1000
   SitePosition position;
-  double powerKW = 0;
+  double powerKW = 0;  ///< 0 to 1e6; no more than 10000 is taken
 };
 
 /// A row of am_towers.
 struct TowerRow {
   RowPlace row;
-  int number = 0;
-  std::optional<double> field;
-  double height = 0, phase = 0, spacing = 0,
-         bearing = 0;         ///< degrees; spacing and bearing as the switch says
+  std::int16_t number = 0;    ///< 1 to 1000
   bool fromPrevious = false;  ///< placed from the tower before, else from the reference point
+  std::optional<float> field;  ///< 0 to 1e6
+  float height = 0, phase = 0, spacing = 0,
+        bearing = 0;  ///< degrees, 0 to 100000, and -360 to 360 for angles; spacing and bearing as the switch says
 };
 
 /// A row of am_eng_data or application: whose application it is. A facility row of the current system is one
 /// too.
 struct ApplicationRow {
   RowPlace row;
-  std::string facility;
+  FacilityId facility = 0;
   char domesticStatus = 0;
 };
 
 /// A row of facility, service AM.
 struct FacilityRow {
   RowPlace row;
-  std::string callSign, city, state, country, status;
+  StationNames names;
+  std::string status;
   double frequency = 0;     ///< kHz
   std::string application;  ///< the one in force; only in the current system
 };
@@ -61,8 +63,15 @@ struct AntennaTables {
   std::unordered_map<std::string, std::vector<TowerRow>> towers;  ///< by ant_sys_id
   std::unordered_map<std::string, ApplicationRow> engineering;    ///< by application_id
   std::unordered_map<std::string, ApplicationRow> applications;   ///< by application_id
-  std::unordered_map<std::string, FacilityRow> facilities;        ///< by facility_id
+  std::unordered_map<FacilityId, FacilityRow> facilities;
 };
+
+inline const std::string& KeyText(const std::string& key) {
+  return key;
+}
+inline std::string KeyText(FacilityId key) {
+  return std::to_string(key);
+}
 
 /// Reads the table to its end. Rows that are not kept are left out in `report` with their reason; the others
 /// are taken or left out when the stations are put together.

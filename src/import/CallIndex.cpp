@@ -1,8 +1,9 @@
 #include <algorithm>
-#include <map>
-#include <set>
+#include <array>
 #include <tuple>
+#include <utility>
 
+#include "core/Numbers.h"
 #include "core/Text.h"
 #include "data/PlaceLists.h"
 #include "data/StationLineText.h"
@@ -12,30 +13,49 @@
 namespace kestrel {
 namespace {
 
-/// A station at one site; its columns are those that CutCall reads, the others are for people.
+/// How a site serves for choosing home, the best first.
+enum class Use : char { StrongestOfTown, FurtherStation, FurtherSite };
+
+/// A station at one site.
 struct Site {
   const Station* station = nullptr;  // one of its antennas
   double powerKW = 0;                // the highest
-  std::string hours;
+  std::array<char, 5> hours{};
+  Use use = Use::FurtherSite;
 };
-
-using SiteKey = std::tuple<std::string, int, std::string, std::string>;
 
 std::string PositionColumn(double degrees) {
   const std::string text = DegreesText(static_cast<float>(degrees));
   return std::string(9 - std::min<std::size_t>(9, text.size()), ' ') + text;
 }
 
-std::map<SiteKey, Site> SitesOf(const std::vector<Station>& stations) {
-  std::map<SiteKey, Site> sites;
-  for (const Station& station : stations) {
-    Site& site = sites[{station.callSign, station.channel, PositionColumn(station.position.latitude),
-                        PositionColumn(station.position.longitude)}];
-    if (!site.station) site.station = &station;
-    site.powerKW = std::max(site.powerKW, station.powerKW);
-    if (site.hours.find(station.hours) == std::string::npos) site.hours += station.hours;
+float ColumnValue(double degrees) {
+  return static_cast<float>(LeadingNumber(DegreesText(static_cast<float>(degrees))));
+}
+
+/// Calls `each` with the sites by call sign, channel and position.
+template <typename Each>
+void ForEachSite(const Stations& stations, Each each) {
+  struct Antenna {
+    const Station* station;
+    float latitude, longitude;
+    auto Key() const { return std::tuple(station->names.CallSign(), station->channel, latitude, longitude); }
+  };
+  std::vector<Antenna> antennas;
+  antennas.reserve(stations.size());
+  for (const Station& s : stations)
+    antennas.push_back({&s, ColumnValue(s.position.latitude), ColumnValue(s.position.longitude)});
+  std::stable_sort(antennas.begin(), antennas.end(),
+                   [](const Antenna& a, const Antenna& b) { return a.Key() < b.Key(); });
+  for (auto at = antennas.begin(); at != antennas.end();) {
+    Site site{at->station};
+    for (const auto key = at->Key(); at != antennas.end() && at->Key() == key; ++at) {
+      site.powerKW = std::max(site.powerKW, at->station->powerKW);
+      const auto hours = std::find(site.hours.begin(), site.hours.end() - 1, at->station->hours);
+      if (hours == site.hours.end() - 1) *std::find(site.hours.begin(), hours, '\0') = at->station->hours;
+    }
+    each(site);
   }
-  return sites;
 }
 
 /// "THUNDER BAY" -> "Thunder Bay": capitals at the front and behind blanks, hyphens and the like.
@@ -52,21 +72,23 @@ std::string Capitalised(std::string_view name) {
   return text;
 }
 
+/// The columns that CutCall reads; what stands between them is for people.
 std::string IndexLine(const Site& site) {
   constexpr std::size_t kNameWidth = 25;
   const Station& station = *site.station;
-  const bool hasState = !station.state.empty() && station.state != "-";
-  std::string region = hasState ? station.state : std::string(CountryName(station.country));
-  if (region.empty()) region = station.country;
+  const StationNames& names = station.names;
+  const bool hasState = !names.State().empty() && names.State() != "-";
+  std::string region(hasState ? names.State() : CountryName(names.Country()));
+  if (region.empty()) region = names.Country();
   const std::size_t cityWidth = kNameWidth - std::min(kNameWidth - 1, CharacterCount(region) + 2);
   const std::string name =
-      std::string(Trim(Columns(Capitalised(station.city), 1, cityWidth))) + "  " + region;
+      std::string(Trim(Columns(Capitalised(names.City()), 1, cityWidth))) + "  " + region;
 
   const std::string channel = std::to_string(station.channel);
   const std::string power = DecimalText(site.powerKW, 4, 6);
-  std::string line = PadTo(std::string(Columns(station.callSign, 1, 8)), 13 - channel.size()) + channel + ' ';
+  std::string line = PadTo(std::string(Columns(names.CallSign(), 1, 8)), 13 - channel.size()) + channel + ' ';
   line = PadTo(line + std::string(Columns(name, 1, kNameWidth)), 39);
-  line += std::string(7 - std::min<std::size_t>(7, power.size()), ' ') + power + " kW " + site.hours;
+  line += std::string(7 - std::min<std::size_t>(7, power.size()), ' ') + power + " kW " + site.hours.data();
   return PadTo(std::string(Columns(line, 1, 53)), 53) + PositionColumn(station.position.latitude) + ' ' +
          PositionColumn(station.position.longitude) + "\r\n";
 }
@@ -79,59 +101,72 @@ bool CanBeHome(const Site& site) {
 /// "QABC 1230, SPRINGFIELD, IL, 1 kW"
 std::string Named(const Site& site) {
   const Station& station = *site.station;
-  return station.callSign + ' ' + std::to_string(station.channel) + ", " + station.city + ", " +
-         station.state + ", " + DecimalText(site.powerKW, 4) + " kW";
+  const StationNames& names = station.names;
+  return std::string(names.CallSign()) + ' ' + std::to_string(station.channel) + ", " +
+         std::string(names.City()) + ", " + std::string(names.State()) + ", " + DecimalText(site.powerKW, 4) +
+         " kW";
 }
 
-/// The sites by their use for choosing home: first the strongest of each town, so that no town is without
-/// one; then the others by power; a station's further sites last.
-std::vector<const Site*> ByUse(std::vector<const Site*> sites) {
-  std::stable_sort(sites.begin(), sites.end(),
-                   [](const Site* a, const Site* b) { return a->powerKW > b->powerKW; });
-  enum Use { StrongestOfTown, FurtherStation, FurtherSite };
-  std::set<std::tuple<std::string, std::string, std::string>> towns;
-  std::set<std::pair<std::string, int>> calls;
-  std::vector<std::pair<Use, const Site*>> byUse;
-  for (const Site* site : sites) {
-    const Station& station = *site->station;
-    const bool newCall = calls.emplace(station.callSign, station.channel).second;
-    const bool newTown = newCall && towns.emplace(station.country, station.state, station.city).second;
-    byUse.emplace_back(newTown ? StrongestOfTown : newCall ? FurtherStation : FurtherSite, site);
-  }
-  std::stable_sort(byUse.begin(), byUse.end(),
-                   [](const auto& a, const auto& b) { return a.first < b.first; });
-  std::transform(byUse.begin(), byUse.end(), sites.begin(), [](const auto& entry) { return entry.second; });
+/// The first of those with the same key, by their order in memory.
+template <typename Key>
+std::vector<Site*> FirstOfEach(std::vector<Site*> sites, Key key) {
+  std::sort(sites.begin(), sites.end(),
+            [&](Site* a, Site* b) { return std::pair(key(*a), a) < std::pair(key(*b), b); });
+  const auto end =
+      std::unique(sites.begin(), sites.end(), [&](Site* a, Site* b) { return key(*a) == key(*b); });
+  sites.erase(end, sites.end());
   return sites;
+}
+
+/// Orders the sites by their use for choosing home: first the strongest of each town, so that no town is
+/// without one; then the others by power; a station's further sites last.
+void SortByUse(std::vector<Site>& sites) {
+  std::stable_sort(sites.begin(), sites.end(),
+                   [](const Site& a, const Site& b) { return a.powerKW > b.powerKW; });
+  std::vector<Site*> stations;
+  stations.reserve(sites.size());
+  for (Site& site : sites) stations.push_back(&site);
+  stations = FirstOfEach(std::move(stations), [](const Site& site) {
+    return std::pair(site.station->names.CallSign(), site.station->channel);
+  });
+  for (Site* site : stations) site->use = Use::FurtherStation;
+  const std::vector<Site*> strongest = FirstOfEach(std::move(stations), [](const Site& site) {
+    const StationNames& names = site.station->names;
+    return std::tuple(names.Country(), names.State(), names.City());
+  });
+  for (Site* site : strongest) site->use = Use::StrongestOfTown;
+  std::stable_sort(sites.begin(), sites.end(), [](const Site& a, const Site& b) { return a.use < b.use; });
 }
 
 }  // namespace
 
-std::string CallIndexText(const std::vector<Station>& stations, ImportReport& report) {
-  const std::map<SiteKey, Site> sites = SitesOf(stations);
-  std::vector<const Site*> chosen;
-  for (const auto& [key, site] : sites) {
+std::string CallIndexText(const Stations& stations, ImportReport& report) {
+  std::vector<Site> sites;
+  ForEachSite(stations, [&](const Site& site) {
     if (CanBeHome(site))
-      chosen.push_back(&site);
+      sites.push_back(site);
     else
       report.Remark(site.station->row, Finding::NoHome, Named(site));
-  }
-  if (chosen.size() > MaxCalls) {
-    chosen = ByUse(std::move(chosen));
-    for (std::size_t i = MaxCalls; i < chosen.size(); ++i)
-      report.Remark(chosen[i]->station->row, Finding::IndexFull, Named(*chosen[i]));
-    chosen.resize(MaxCalls);
+  });
+  if (sites.size() > MaxCalls) {
+    SortByUse(sites);
+    for (std::size_t i = MaxCalls; i < sites.size(); ++i)
+      report.Remark(sites[i].station->row, Finding::IndexFull, Named(sites[i]));
+    sites.resize(MaxCalls);
   }
   std::vector<std::string> lines;
-  lines.reserve(chosen.size());
-  for (const Site* site : chosen) lines.push_back(IndexLine(*site));
+  lines.reserve(sites.size());
+  for (const Site& site : sites) lines.push_back(IndexLine(site));
   std::sort(lines.begin(), lines.end());
   std::string text;
   for (const std::string& line : lines) text += line;
   return text;
 }
 
-int SiteCount(const std::vector<Station>& stations) {
-  return static_cast<int>(SitesOf(stations).size());
+int SiteCount(const Stations& stations) {
+  int count = 0;
+  ForEachSite(stations, [&](const Site&) { ++count; });
+  return count;
 }
 
 }  // namespace kestrel

@@ -9,6 +9,7 @@
 #include <tuple>
 #include <utility>
 
+#include "data/StationFile.h"
 #include "data/StationLineText.h"
 #include "import/SitePosition.h"
 
@@ -16,27 +17,24 @@ namespace kestrel {
 namespace {
 
 constexpr double kSamePlace = 1;  // km
+constexpr int kMostPairs = 400'000;
 constexpr std::array kKinds = {ChangeKind::New,   ChangeKind::Gone,    ChangeKind::Moved,
                                ChangeKind::Power, ChangeKind::Pattern, ChangeKind::CallSign};
 
-double Distance(const StationRecord& a, const StationRecord& b) {
-  return SiteDistance({a.Latitude, a.Longitude}, {b.Latitude, b.Longitude});
+double Distance(const ListedAntenna& a, const ListedAntenna& b) {
+  return SiteDistance({a.latitude, a.longitude}, {b.latitude, b.longitude});
 }
-
-/// A tower by what the pattern sees of it: its share of the strongest field, its phase and place from tower
-/// 1's.
-struct SeenTower {
-  double field, phase, east, north;
-};
 
 std::vector<SeenTower> SeenTowers(const StationRecord& record) {
   constexpr double kRadian = std::numbers::pi / 180;
   std::vector<SeenTower> towers;
-  double strongest = 0;
+  if (record.TowerCount < 2) return towers;
+  towers.reserve(static_cast<std::size_t>(record.TowerCount));
+  float strongest = 0;
   for (std::size_t i = 1; i <= static_cast<std::size_t>(record.TowerCount); ++i) {
     SeenTower tower{record.Fields[i], record.Phases[i],
-                    record.Spacings[i] * std::sin(record.Bearings[i] * kRadian),
-                    record.Spacings[i] * std::cos(record.Bearings[i] * kRadian)};
+                    static_cast<float>(record.Spacings[i] * std::sin(record.Bearings[i] * kRadian)),
+                    static_cast<float>(record.Spacings[i] * std::cos(record.Bearings[i] * kRadian))};
     if (record.Switch[i] != "0" && !towers.empty()) {
       tower.east += towers.back().east;
       tower.north += towers.back().north;
@@ -44,7 +42,6 @@ std::vector<SeenTower> SeenTowers(const StationRecord& record) {
     towers.push_back(tower);
     strongest = std::max(strongest, tower.field);
   }
-  if (towers.empty()) return towers;
   const SeenTower first = towers.front();
   for (SeenTower& tower : towers) {
     if (strongest > 0) tower.field /= strongest;
@@ -56,9 +53,8 @@ std::vector<SeenTower> SeenTowers(const StationRecord& record) {
 }
 
 /// Whether the two make the same pattern, but for its size. Towers are compared in their order.
-bool SamePattern(const StationRecord& a, const StationRecord& b) {
-  if (a.TowerCount != b.TowerCount) return false;
-  if (a.TowerCount <= 1) return true;
+bool SamePattern(const ListedAntenna& a, const ListedAntenna& b) {
+  if (a.towerCount != b.towerCount) return false;
   constexpr double kField = 0.001;
   constexpr double kDegrees = 0.01;
   const auto near = [&](const SeenTower& x, const SeenTower& y) {
@@ -66,9 +62,7 @@ bool SamePattern(const StationRecord& a, const StationRecord& b) {
     return std::abs(x.field - y.field) <= kField && std::abs(turn) <= kDegrees &&
            std::abs(x.east - y.east) <= kDegrees && std::abs(x.north - y.north) <= kDegrees;
   };
-  const std::vector<SeenTower> seenA = SeenTowers(a);
-  const std::vector<SeenTower> seenB = SeenTowers(b);
-  return std::equal(seenA.begin(), seenA.end(), seenB.begin(), seenB.end(), near);
+  return std::equal(a.array.begin(), a.array.end(), b.array.begin(), b.array.end(), near);
 }
 
 std::string Towers(float count) {
@@ -77,8 +71,8 @@ std::string Towers(float count) {
 }
 
 /// How many things a listener would be told of two antennas of one site: power, pattern.
-int Differences(const StationRecord& a, const StationRecord& b) {
-  return (a.PowerKW != b.PowerKW ? 1 : 0) + (SamePattern(a, b) ? 0 : 1);
+int Differences(const ListedAntenna& a, const ListedAntenna& b) {
+  return (a.powerKW != b.powerKW ? 1 : 0) + (SamePattern(a, b) ? 0 : 1);
 }
 
 /// The two sides, and which antennas of each have found their counterpart.
@@ -91,7 +85,7 @@ class Comparison {
   /// then the nearest.
   template <typename Key, typename Paired>
   void PairOnSite(Key key, Paired paired) {
-    Pair(key, paired, [](const StationRecord& a, const StationRecord& b, double distance) {
+    Pair(key, paired, [](const ListedAntenna& a, const ListedAntenna& b, double distance) {
       return distance <= kSamePlace ? std::optional(std::pair(double(Differences(a, b)), distance))
                                     : std::nullopt;
     });
@@ -100,7 +94,7 @@ class Comparison {
   /// Pairs those of equal key anywhere, the nearest first.
   template <typename Key, typename Paired>
   void PairAnywhere(Key key, Paired paired) {
-    Pair(key, paired, [](const StationRecord& a, const StationRecord& b, double distance) {
+    Pair(key, paired, [](const ListedAntenna& a, const ListedAntenna& b, double distance) {
       return std::optional(std::pair(distance, double(Differences(a, b))));
     });
   }
@@ -117,16 +111,17 @@ class Comparison {
   /// Pairs those of equal key, the smallest rank first; those without a rank do not belong together.
   template <typename Key, typename Paired, typename Rank>
   void Pair(Key key, Paired paired, Rank rank) {
-    std::multimap<std::string, std::size_t> byKey;
+    std::multimap<decltype(key(before_.front())), std::size_t> byKey;
     for (std::size_t i = 0; i < before_.size(); ++i)
-      if (!foundBefore_[i]) byKey.emplace(key(before_[i].record), i);
+      if (!foundBefore_[i]) byKey.emplace(key(before_[i]), i);
     std::vector<std::tuple<std::pair<double, double>, std::size_t, std::size_t>> pairs;
+    int left = kMostPairs;
     for (std::size_t j = 0; j < after_.size(); ++j) {
       if (foundAfter_[j]) continue;
-      const auto [first, last] = byKey.equal_range(key(after_[j].record));
-      for (auto at = first; at != last; ++at) {
-        const StationRecord& old = before_[at->second].record;
-        if (const auto ranked = rank(old, after_[j].record, Distance(old, after_[j].record)); ranked)
+      const auto [first, last] = byKey.equal_range(key(after_[j]));
+      for (auto at = first; at != last && left > 0; ++at, --left) {
+        const ListedAntenna& old = before_[at->second];
+        if (const auto ranked = rank(old, after_[j], Distance(old, after_[j])); ranked)
           pairs.emplace_back(*ranked, at->second, j);
       }
     }
@@ -134,7 +129,7 @@ class Comparison {
     for (const auto& [ranked, i, j] : pairs) {
       if (foundBefore_[i] || foundAfter_[j]) continue;
       foundBefore_[i] = foundAfter_[j] = true;
-      paired(before_[i], after_[j], Distance(before_[i].record, after_[j].record));
+      paired(before_[i], after_[j], Distance(before_[i], after_[j]));
     }
   }
 
@@ -167,7 +162,18 @@ std::string_view ChangeName(ChangeKind kind) {
 std::vector<ListedAntenna> ReadAntennas(int channel, const std::string& fileName, std::string_view bytes) {
   std::vector<ListedAntenna> antennas;
   StationFileReader reader(fileName, bytes);
-  while (const StationRecord* record = reader.Next()) antennas.push_back({channel, *record});
+  while (const StationRecord* record = reader.Next()) {
+    ListedAntenna antenna;
+    const std::string place = record->City + ", " + record->State + ", " + record->Country;
+    antenna.texts = PackedTexts<3>({record->CallSign, record->HoursCode, place});
+    antenna.channel = static_cast<std::int16_t>(channel);
+    antenna.towerCount = record->TowerCount;
+    antenna.latitude = record->Latitude;
+    antenna.longitude = record->Longitude;
+    antenna.powerKW = record->PowerKW;
+    antenna.array = SeenTowers(*record);
+    antennas.push_back(std::move(antenna));
+  }
   return antennas;
 }
 
@@ -181,47 +187,44 @@ std::string ChangeDetail(const Change& change) {
       return change.before == change.after ? Towers(change.after)
                                            : Towers(change.before) + " -> " + Towers(change.after);
     case ChangeKind::CallSign:
-      return "was " + change.formerCallSign;
+      return "was " + std::string(change.FormerCallSign());
     default:
       return {};
   }
 }
 
-std::vector<Change> CompareChannel(const std::vector<ListedAntenna>& before,
-                                   const std::vector<ListedAntenna>& after) {
-  std::vector<Change> changes;
-  const auto add = [&](ChangeKind kind, const ListedAntenna& antenna, std::string formerCallSign, float was,
-                       float is) {
-    const StationRecord& r = antenna.record;
-    changes.push_back({kind, antenna.channel, r.CallSign, r.HoursCode,
-                       r.City + ", " + r.State + ", " + r.Country, std::move(formerCallSign), was, is});
+Changes CompareChannel(const std::vector<ListedAntenna>& before, const std::vector<ListedAntenna>& after) {
+  Changes changes;
+  const auto add = [&](ChangeKind kind, const ListedAntenna& antenna, std::string_view formerCallSign,
+                       float was, float is) {
+    changes.push_back(
+        {kind, antenna.channel, was, is,
+         PackedTexts<4>({antenna.CallSign(), antenna.Hours(), antenna.Place(), formerCallSign})});
   };
   const auto compare = [&](const ListedAntenna& old, const ListedAntenna& now, double distance) {
     if (distance > kSamePlace) add(ChangeKind::Moved, now, {}, 0, static_cast<float>(distance));
-    if (old.record.PowerKW != now.record.PowerKW)
-      add(ChangeKind::Power, now, {}, old.record.PowerKW, now.record.PowerKW);
-    if (!SamePattern(old.record, now.record))
-      add(ChangeKind::Pattern, now, {}, old.record.TowerCount, now.record.TowerCount);
+    if (old.powerKW != now.powerKW) add(ChangeKind::Power, now, {}, old.powerKW, now.powerKW);
+    if (!SamePattern(old, now)) add(ChangeKind::Pattern, now, {}, old.towerCount, now.towerCount);
   };
 
   Comparison comparison(before, after);
-  const auto call = [](const StationRecord& r) { return r.CallSign + '|' + r.HoursCode; };
+  const auto call = [](const ListedAntenna& a) { return std::pair(a.CallSign(), a.Hours()); };
   comparison.PairOnSite(call, compare);
-  comparison.PairOnSite([](const StationRecord& r) { return r.HoursCode; },
+  comparison.PairOnSite([](const ListedAntenna& a) { return a.Hours(); },
                         [&](const ListedAntenna& old, const ListedAntenna& now, double distance) {
-                          add(ChangeKind::CallSign, now, old.record.CallSign, 0, 0);
+                          add(ChangeKind::CallSign, now, old.CallSign(), 0, 0);
                           compare(old, now, distance);
                         });
   comparison.PairAnywhere(call, compare);
   comparison.ForLeftOver(
       [&](ChangeKind kind, const ListedAntenna& antenna) { add(kind, antenna, {}, 0, 0); });
   std::stable_sort(changes.begin(), changes.end(), [](const Change& a, const Change& b) {
-    return std::tie(a.kind, a.callSign, a.hours) < std::tie(b.kind, b.callSign, b.hours);
+    return std::tuple(a.kind, a.CallSign(), a.Hours()) < std::tuple(b.kind, b.CallSign(), b.Hours());
   });
   return changes;
 }
 
-std::string ChangesText(const std::vector<Change>& changes, std::size_t most) {
+std::string ChangesText(const Changes& changes, std::size_t most) {
   if (changes.empty()) return "No changes\n";
   std::string text;
   for (const ChangeKind kind : kKinds) {
@@ -233,8 +236,8 @@ std::string ChangesText(const std::vector<Change>& changes, std::size_t most) {
     for (const Change& change : changes) {
       if (!isOfKind(change) || (most > 0 && shown == most)) continue;
       ++shown;
-      text += "  " + std::to_string(change.channel) + ' ' + change.callSign + ' ' + change.hours + ", " +
-              change.place;
+      text += "  " + std::to_string(change.channel) + ' ' + std::string(change.CallSign()) + ' ' +
+              std::string(change.Hours()) + ", " + std::string(change.Place());
       const std::string detail = ChangeDetail(change);
       text += detail.empty() ? "\n" : ": " + detail + '\n';
     }

@@ -1,19 +1,35 @@
 #pragma once
 
+#include <cstdint>
+#include <deque>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "data/StationFile.h"
+#include "import/PackedTexts.h"
 
 // What an import changed: one set of station files against the one before.
 
 namespace kestrel {
 
-/// One antenna of a station, as its file holds it.
+/// A tower by what the pattern sees of it: its share of the strongest field, its phase and place from tower
+/// 1's.
+struct SeenTower {
+  float field, phase;  ///< ratio, degrees
+  float east, north;   ///< electrical degrees
+};
+
+/// One antenna of a station, as far as listeners are told of its changes.
 struct ListedAntenna {
-  int channel = 0;
-  StationRecord record;
+  std::string_view CallSign() const { return texts[0]; }
+  std::string_view Hours() const { return texts[1]; }
+  std::string_view Place() const { return texts[2]; }
+
+  PackedTexts<3> texts;
+  std::int16_t channel = 0;
+  std::int16_t towerCount = 0;
+  float latitude = 0, longitude = 0, powerKW = 0;
+  std::vector<SeenTower> array;  ///< of more than one tower
 };
 
 enum class ChangeKind { New, Gone, Moved, Power, Pattern, CallSign };
@@ -22,15 +38,19 @@ enum class ChangeKind { New, Gone, Moved, Power, Pattern, CallSign };
 std::string_view ChangeName(ChangeKind kind);
 
 struct Change {
+  std::string_view CallSign() const { return texts[0]; }  ///< the new one
+  std::string_view Hours() const { return texts[1]; }
+  std::string_view Place() const { return texts[2]; }           ///< "SPRINGFIELD, IL, United States"
+  std::string_view FormerCallSign() const { return texts[3]; }  ///< of a changed call sign
+
   ChangeKind kind = ChangeKind::New;
-  int channel = 0;
-  std::string callSign;  ///< the new one
-  std::string hours;
-  std::string place;           ///< "SPRINGFIELD, IL, United States"
-  std::string formerCallSign;  ///< of a changed call sign
-  float before = 0;            ///< kW or towers; 0 towers: not known
-  float after = 0;             ///< kW, towers, or the km moved
+  std::int16_t channel = 0;
+  float before = 0;  ///< kW or towers; 0 towers: not known
+  float after = 0;   ///< kW, towers, or the km moved
+  PackedTexts<4> texts;
 };
+
+using Changes = std::deque<Change>;
 
 /// The antennas of a station file.
 std::vector<ListedAntenna> ReadAntennas(int channel, const std::string& fileName, std::string_view bytes);
@@ -39,14 +59,15 @@ std::vector<ListedAntenna> ReadAntennas(int channel, const std::string& fileName
 /// within 1 km, of several those of like power and pattern, whatever their order; then those within 1 km of
 /// another call sign, which have changed it; then those of one call sign anywhere, the nearest first. The
 /// rest are gone or new. An antenna more than 1 km off has moved; another power or, the power aside, another
-/// pattern are changes of their own. Sorted by kind, call sign and hours.
-std::vector<Change> CompareChannel(const std::vector<ListedAntenna>& before,
-                                   const std::vector<ListedAntenna>& after);
+/// pattern are changes of their own. Where there are so many of one call sign or site as no band has, some
+/// stay without their counterpart: at most 400,000 pairs are looked at in each of the three turns. Sorted by
+/// kind, call sign and hours.
+Changes CompareChannel(const std::vector<ListedAntenna>& before, const std::vector<ListedAntenna>& after);
 
 /// "12.3 km", "5 kW -> 10 kW", "2 towers -> 3 towers", "was KABC"; empty for new and gone.
 std::string ChangeDetail(const Change& change);
 
 /// For people: counts by kind, then a line for each change, at most `most` of a kind (0: all).
-std::string ChangesText(const std::vector<Change>& changes, std::size_t most);
+std::string ChangesText(const Changes& changes, std::size_t most);
 
 }  // namespace kestrel

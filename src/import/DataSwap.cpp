@@ -20,6 +20,8 @@ const QString kKeptSet = ".import-undo";  // replaced by the last import
 const QString kJournal = ".import-journal";
 const QString kLock = ".import-lock";
 
+constexpr qint64 kLongestLock = 1000;  // bytes: a process, a program, two names of the machine
+
 /// What stopped the work: a step that was not allowed, or a refusal of the system.
 struct Stopped {
   bool abandoned = false;
@@ -32,15 +34,28 @@ class Exchange {
  public:
   Exchange(const QString& folder, const SwapStep& step) : dir_(folder), step_(step) {}
 
+  /// What stands in the place of the lock file and is none: waiting for it, or reading it, could take for
+  /// ever.
+  bool HasForeignLock() const {
+    const QFileInfo entry(dir_.filePath(kLock));
+    return entry.isSymLink() || (entry.exists() && (!entry.isFile() || entry.size() > kLongestLock));
+  }
+
   bool Lock() {
+    if (HasForeignLock()) return false;
     lock_ = std::make_unique<QLockFile>(dir_.filePath(kLock));
     lock_->setStaleLockTime(0);  // a lock holds as long as its process
     return lock_->tryLock(0);
   }
   /// Whether it is another import that holds the lock.
-  bool IsBusy() const { return lock_->error() == QLockFile::LockFailedError; }
+  bool IsBusy() const { return lock_ && lock_->error() == QLockFile::LockFailedError; }
 
   bool Exists(const QString& name) const { return QFileInfo::exists(dir_.filePath(name)); }
+  /// A folder of this folder; what a link leads to is not ours, whoever put the link there.
+  bool IsFolder(const QString& name) const {
+    const QFileInfo entry(dir_.filePath(name));
+    return entry.isDir() && !entry.isSymLink();
+  }
   const std::optional<Stopped>& Failure() const { return stopped_; }
   void Forgive() { stopped_.reset(); }
   Result<Done> Outcome() const {
@@ -49,17 +64,14 @@ class Exchange {
   }
 
   void MakeFolder(const QString& name) {
-    const QFileInfo entry(dir_.filePath(name));
-    if (entry.isDir() && !entry.isSymLink()) return;
+    if (IsFolder(name)) return;
     Do(name, "the folder cannot be made", [&] { return dir_.mkdir(name); });
   }
   void RemoveFolder(const QString& name) {
     const QFileInfo entry(dir_.filePath(name));
     if (!entry.exists() && !entry.isSymLink()) return;
-    // What a link leads to is not ours, whoever put the link there.
     Do(name, "the folder cannot be removed", [&] {
-      return entry.isDir() && !entry.isSymLink() ? QDir(entry.filePath()).removeRecursively()
-                                                 : QFile::remove(entry.filePath());
+      return IsFolder(name) ? QDir(entry.filePath()).removeRecursively() : QFile::remove(entry.filePath());
     });
   }
   void RenameFolder(const QString& from, const QString& to) {
@@ -184,6 +196,9 @@ bool IsOurs(const SwapJournal& journal) {
 }
 
 Error NotLocked(const Exchange& exchange, const DataFolder& folder) {
+  if (exchange.HasForeignLock())
+    return {Error::Kind::NotAFile, kLock.toStdString(), 0,
+            "is not the lock file of an import; remove it to go on"};
   return {Error::Kind::Refused, folder.Path().toStdString(), 0,
           exchange.IsBusy() ? "another import is at work in it" : "cannot be written to"};
 }
@@ -230,7 +245,7 @@ Result<Done> UndoImport(const DataFolder& folder, const SwapStep& step) {
   Exchange exchange(folder.Path(), step);
   if (!exchange.Lock()) return NotLocked(exchange, folder);
   if (const Result<Done> recovered = Recover(exchange, folder.Path()); !recovered) return recovered;
-  if (!exchange.Exists(kKeptSet))
+  if (!exchange.IsFolder(kKeptSet))
     return Error{Error::Kind::NotFound, folder.Path().toStdString(), 0,
                  "holds no station files that an import replaced"};
   const SwapJournal journal{false, kKeptSet, PresentFiles(folder.Path()),
@@ -243,7 +258,10 @@ Result<Done> UndoImport(const DataFolder& folder, const SwapStep& step) {
 Result<Done> RecoverImport(const DataFolder& folder, const SwapStep& step) {
   Exchange exchange(folder.Path(), step);
   if (!exchange.Exists(kJournal) && !exchange.Exists(kNewSet) && !exchange.Exists(kOldSet)) return Done{};
-  if (!exchange.Lock()) return Done{};
+  if (!exchange.Lock()) {
+    if (exchange.HasForeignLock()) return NotLocked(exchange, folder);
+    return Done{};
+  }
   return Recover(exchange, folder.Path());
 }
 

@@ -19,7 +19,8 @@ using SwapStep = std::function<bool()>;
 /// written beside the old ones first; interrupted before all are whole, the old set stays, later the new one
 /// is completed by RecoverImport. A failure brings the old set back; there is none once all files are
 /// exchanged. Errors: Refused, with the file that made the trouble, or the folder when it cannot be written
-/// to or another import is at work in it.
+/// to or another import is at work in it; NotAFile when something that is no lock file, a link or a long file
+/// among them, stands in the lock file's place; nothing is waited for.
 Result<Done> SwapInStations(const DataFolder& folder, const StationSet& files, const SwapStep& step = {});
 
 /// Brings the set back that the last import replaced, and keeps the present one in its turn: done twice, all
@@ -28,7 +29,7 @@ Result<Done> UndoImport(const DataFolder& folder, const SwapStep& step = {});
 
 /// Finishes or takes back what an interrupted import left. To be called before the folder's files are read;
 /// costs next to nothing when there is nothing to do, and does nothing while an import is at work. Errors:
-/// Refused; the next call tries again.
+/// Refused and NotAFile as above; Malformed for a damaged journal; the next call tries again.
 Result<Done> RecoverImport(const DataFolder& folder, const SwapStep& step = {});
 
 }  // namespace kestrel

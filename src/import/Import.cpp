@@ -4,11 +4,12 @@
 #include <QFileInfo>
 #include <QLocale>
 #include <algorithm>
-#include <charconv>
 #include <memory>
+#include <new>
 #include <utility>
 
 #include "data/FileIo.h"
+#include "data/StationFile.h"
 #include "import/DataSwap.h"
 #include "import/Intake.h"
 #include "import/Merge.h"
@@ -100,27 +101,22 @@ std::string StationsLine(const QDateTime& newest, const Readings& readings, int 
   return line + ", " + std::to_string(stations) + " stations";
 }
 
-std::vector<Change> CompareWith(const DataFolder& folder, const StationSet& files) {
-  std::vector<Change> changes;
-  for (const auto& [name, bytes] : files) {
-    int channel = 0;
-    if (std::from_chars(name.data(), name.data() + name.size(), channel).ec != std::errc{}) continue;
+Changes CompareWith(const DataFolder& folder, const StationSet& files) {
+  Changes changes;
+  for (int channel = static_cast<int>(LowestChannel); IsOnRaster(channel);
+       channel += static_cast<int>(ChannelStep)) {
+    const std::string name = StationFileName(static_cast<float>(channel)).toStdString();
     const Result<QByteArray> old = folder.Read(QString::fromStdString(name));
     const std::string_view oldBytes =
         old ? std::string_view(old->constData(), static_cast<std::size_t>(old->size())) : "";
     for (Change& change :
-         CompareChannel(ReadAntennas(channel, name, oldBytes), ReadAntennas(channel, name, bytes)))
+         CompareChannel(ReadAntennas(channel, name, oldBytes), ReadAntennas(channel, name, files.at(name))))
       changes.push_back(std::move(change));
   }
-  std::stable_sort(changes.begin(), changes.end(),
-                   [](const Change& a, const Change& b) { return a.channel < b.channel; });
   return changes;
 }
 
-}  // namespace
-
-ImportOutcome RunImport(const ImportRequest& request, const DataFolder& folder,
-                        const ImportProgress& progress) {
+ImportOutcome Import(const ImportRequest& request, const DataFolder& folder, const ImportProgress& progress) {
   ImportOutcome outcome;
   Readings readings;
   QDateTime newest;
@@ -134,15 +130,15 @@ ImportOutcome RunImport(const ImportRequest& request, const DataFolder& folder,
   };
 
   goesOn(kReadingShare, "putting the stations together");
-  const std::vector<Station> stations =
-      MergeStations(std::move(readings.amq), readings.tables, request.options, outcome.report);
   const StationSet files = [&] {
-    const std::string line = StationsLine(newest, readings, SiteCount(stations));
-    outcome.stationsLine = line;
-    return MakeStationSet(stations, line, outcome.report);
+    const Stations stations =
+        MergeStations(std::move(readings.amq), readings.tables, request.options, outcome.report);
+    readings.tables = {};
+    outcome.stationsLine = StationsLine(newest, readings, SiteCount(stations));
+    return MakeStationSet(stations, outcome.stationsLine, outcome.report);
   }();
   if (outcome.failure) return outcome;
-  if (stations.empty()) {
+  if (outcome.report.records == 0) {
     outcome.failure =
         Error{Error::Kind::Malformed, "", 0, "no station was found; the station files are as they were"};
     return outcome;
@@ -158,6 +154,21 @@ ImportOutcome RunImport(const ImportRequest& request, const DataFolder& folder,
   }
   if (progress) progress(1, "done");  // it is too late for cancelling
   return outcome;
+}
+
+}  // namespace
+
+ImportOutcome RunImport(const ImportRequest& request, const DataFolder& folder,
+                        const ImportProgress& progress) {
+  try {
+    return Import(request, folder, progress);
+  } catch (const std::bad_alloc&) {
+    ImportOutcome outcome;
+    outcome.failure =
+        Error{Error::Kind::Refused, "", 0,
+              "there is not enough memory for so long files; the station files are as they were"};
+    return outcome;
+  }
 }
 
 std::string OutcomeText(const ImportOutcome& outcome, std::size_t mostChanges) {

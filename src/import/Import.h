@@ -5,7 +5,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "core/Result.h"
 #include "data/DataFolder.h"
@@ -29,8 +28,8 @@ using ImportProgress = std::function<bool(double done, std::string_view what)>;
 
 struct ImportOutcome {
   ImportReport report;
-  std::vector<Change> changes;  ///< against what the folder held before, by channel
-  std::string stationsLine;     ///< the new line of "Stations.txt"
+  Changes changes;           ///< against what the folder held before, by channel
+  std::string stationsLine;  ///< the new line of "Stations.txt"
   std::optional<Error>
       failure;  ///< why nothing was written; the report says what was read, cancelled nothing
 };

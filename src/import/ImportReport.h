@@ -31,7 +31,8 @@ enum class Finding {
   NotReferred,  ///< a table row of no antenna taken, or of one whose pattern is not known
   NoField,      ///< a tower that radiates nothing
   NotUsed,      ///< augmentations: the pattern does without them
-  LastLeftOut = NotUsed,
+  ChannelFull,  ///< a station that its station file has no room for
+  LastLeftOut = ChannelFull,
   TowersUnknown,
   TooManyTowers,
   TowersPassedOver,  ///< non-directional, and the tables' array is not whole

@@ -11,8 +11,12 @@
 
 namespace kestrel {
 
-/// No file given to the importer is longer, and no zip unpacks to more.
-inline constexpr std::uint64_t LargestImportFile = 500ULL << 20;
+/// No file given to the importer is longer, and no zip unpacks to more. A list of the whole band has some 5
+/// MB, the longest tables, which hold other services too, some tens of MB.
+inline constexpr std::uint64_t LargestImportFile = 200ULL << 20;
+
+/// No zip given to the importer has more entries.
+inline constexpr int MostZipEntries = 1000;
 
 /// A file as the user gave it: a plain one, or a zip with its entries, told apart by their first bytes.
 /// Nothing is ever unpacked to the disk, so the names inside a zip are names in a report and no more.

@@ -1,20 +1,22 @@
 #include "import/Merge.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <iterator>
 #include <map>
-#include <set>
-#include <string_view>
+#include <numeric>
+#include <optional>
 #include <tuple>
-#include <unordered_map>
 #include <utility>
 
+#include "data/StationFile.h"
 #include "import/TableStations.h"
 
 namespace kestrel {
 namespace {
 
 std::string Named(const Station& station) {
-  return station.callSign + ' ' + std::to_string(station.channel) + ' ' + station.hours;
+  return std::string(station.names.CallSign()) + ' ' + std::to_string(station.channel) + ' ' + station.hours;
 }
 
 /// Whether row `a` counts rather than row `b` of the same station and hours.
@@ -28,57 +30,117 @@ bool Overlap(char a, char b) {
   return (a == 'U' && (b == 'D' || b == 'N')) || (b == 'U' && (a == 'D' || a == 'N'));
 }
 
+/// The stations by their places in the deque, in the order of `less`.
+using Order = std::vector<std::uint32_t>;
+template <typename Less>
+Order SortedBy(const Stations& stations, Less less) {
+  Order order(stations.size());
+  std::iota(order.begin(), order.end(), 0U);
+  std::sort(order.begin(), order.end(), [&](auto a, auto b) { return less(stations[a], stations[b]); });
+  return order;
+}
+
+/// Calls `each` with the beginning and the end of every run of stations that `less` finds equal.
+template <typename Less, typename Each>
+void ForEachRun(const Stations& stations, const Order& order, Less less, Each each) {
+  for (auto begin = order.begin(); begin != order.end();) {
+    const auto end =
+        std::find_if(begin, order.end(), [&](auto i) { return less(stations[*begin], stations[i]); });
+    each(begin, end);
+    begin = end;
+  }
+}
+
+void Erase(Stations& stations, const std::vector<bool>& gone) {
+  std::size_t i = 0;
+  std::erase_if(stations, [&](const Station&) { return gone[i++]; });
+}
+
+/// The file of the last list that ends the station; -1 when none does. `ended` is sorted.
+int EndedIn(const Stations& ended, const Station& station) {
+  const auto [first, last] = std::equal_range(ended.begin(), ended.end(), station, IdentityLess);
+  int file = -1;
+  for (auto at = first; at != last; ++at) file = std::max(file, at->row.file);
+  return file;
+}
+
 /// One row for each station and hours, none for those that a later list ends; the others are left out.
-std::vector<Station> ChosenRows(AmqStations amq, ImportReport& report) {
-  std::vector<Station> chosen;
-  std::unordered_map<std::string, std::size_t> places;
-  for (Station& row : amq.onAir) {
-    const std::string identity = Identity(row);
-    if (const auto ended = amq.endedIn.find(identity);
-        ended != amq.endedIn.end() && ended->second > row.row.file) {
-      report.LeaveOut(row.row, Finding::Superseded, Named(row) + ", off the air in a later list");
-      continue;
-    }
-    const auto [at, isNew] = places.try_emplace(identity, chosen.size());
-    if (isNew) {
-      chosen.push_back(std::move(row));
-      continue;
-    }
-    Station& kept = chosen[at->second];
-    if (IsPreferred(row, kept)) std::swap(kept, row);
-    report.LeaveOut(row.row, Finding::Superseded, Named(row));
+void ChooseRows(Stations& rows, Stations ended, ImportReport& report) {
+  std::sort(ended.begin(), ended.end(), IdentityLess);
+  std::vector<bool> gone(rows.size());
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    gone[i] = EndedIn(ended, rows[i]) > rows[i].row.file;
+    if (gone[i])
+      report.LeaveOut(rows[i].row, Finding::Superseded, Named(rows[i]) + ", off the air in a later list");
+  }
+  Erase(rows, gone);
+
+  gone.assign(rows.size(), false);
+  const auto preferredFirst = [](const Station& a, const Station& b) {
+    if (IdentityLess(a, b) || IdentityLess(b, a)) return IdentityLess(a, b);
+    return IsPreferred(a, b);
+  };
+  const Order order = SortedBy(rows, preferredFirst);
+  ForEachRun(rows, order, IdentityLess, [&](auto begin, auto end) {
+    for (auto at = begin + 1; at != end; ++at) gone[*at] = true;
+  });
+  const auto byFacility = [](const Station& a, const Station& b) { return a.facility < b.facility; };
+  std::vector<bool> replaced = gone;
+  ForEachRun(rows, order, byFacility, [&](auto begin, auto end) {
+    if (rows[*begin].facility == 0) return;
+    Order kept;
+    std::copy_if(begin, end, std::back_inserter(kept), [&](auto i) { return !gone[i]; });
+    for (const auto i : kept)
+      replaced[i] = std::any_of(kept.begin(), kept.end(), [&](auto other) {
+        return rows[other].row.file > rows[i].row.file && Overlap(rows[other].hours, rows[i].hours);
+      });
+  });
+  for (std::size_t i = 0; i < rows.size(); ++i)
+    if (replaced[i]) report.LeaveOut(rows[i].row, Finding::Superseded, Named(rows[i]));
+  Erase(rows, replaced);
+}
+
+/// The room in the station files. What has none is left out, the weakest stations first.
+class Room {
+ public:
+  void Fill(Stations& stations, ImportReport& report) {
+    const Order order = SortedBy(stations, [](const Station& a, const Station& b) {
+      return std::tuple(-a.powerKW, a.row.file, a.row.line) < std::tuple(-b.powerKW, b.row.file, b.row.line);
+    });
+    std::vector<bool> gone(stations.size());
+    for (const auto i : order) gone[i] = ++records_[stations[i].channel] > MaxRecords;
+    for (std::size_t i = 0; i < stations.size(); ++i)
+      if (gone[i]) report.LeaveOut(stations[i].row, Finding::ChannelFull, Named(stations[i]));
+    Erase(stations, gone);
   }
 
-  std::unordered_map<std::string, std::vector<const Station*>> ofFacility;
-  for (const Station& station : chosen)
-    if (!station.facility.empty()) ofFacility[station.facility].push_back(&station);
-  std::vector<bool> replaced(chosen.size());
-  for (std::size_t i = 0; i < chosen.size(); ++i) {
-    const Station& station = chosen[i];
-    if (station.facility.empty()) continue;
-    const auto& others = ofFacility[station.facility];
-    replaced[i] = std::any_of(others.begin(), others.end(), [&](const Station* other) {
-      return other->row.file > station.row.file && Overlap(other->hours, station.hours);
-    });
-    if (replaced[i]) report.LeaveOut(station.row, Finding::Superseded, Named(station));
-  }
-  std::size_t i = 0;
-  std::erase_if(chosen, [&](const Station&) { return replaced[i++]; });
-  return chosen;
-}
+ private:
+  std::map<int, int> records_;  // by channel
+};
 
 /// The stations of the tables that no list has.
 class TableOnly {
  public:
-  TableOnly(const AmqStations& amq, const std::vector<Station>& listed, TableStations& tables,
-            ImportReport& report)
+  TableOnly(const AmqStations& amq, const Stations& listed, TableStations& tables, ImportReport& report)
       : amq_(amq), tables_(tables), report_(report) {
     for (const Station& station : listed)
-      if (!station.facility.empty()) listed_[station.facility] += station.hours;
+      if (station.facility != 0) listed_.emplace_back(station.facility, station.hours);
+    std::sort(listed_.begin(), listed_.end());
   }
 
-  void AddTo(std::vector<Station>& stations) {
-    std::map<FacilityHours, Station> found;  // of several the last one, a licensed one rather than a permit
+  void AddTo(Stations& stations, Room& room) {
+    Stations found = Found();
+    room.Fill(found, report_);
+    for (; !found.empty(); found.pop_front()) {
+      tables_.UseFor(tables_.IndexOf(found.front().row), found.front());
+      stations.push_back(std::move(found.front()));
+    }
+  }
+
+ private:
+  /// One for each facility and hours: of several the last one, a licensed one rather than a permit.
+  Stations Found() {
+    Stations found;
     for (std::size_t i = 0; i < tables_.Count(); ++i) {
       if (tables_.IsUsed(i)) continue;
       Station station;
@@ -88,35 +150,47 @@ class TableOnly {
         report_.LeaveOut(tables_.RowOf(i), fault->finding, fault->text);
         continue;
       }
-      indexOf_[{station.row.file, station.row.line}] = i;
-      const auto [at, isNew] = found.try_emplace({station.facility, station.hours}, station);
-      if (isNew) continue;
-      if (!station.permit || at->second.permit) std::swap(at->second, station);
-      report_.LeaveOut(station.row, Finding::Superseded, Named(station));
+      found.push_back(std::move(station));
     }
-    for (auto& [key, station] : found) {
-      tables_.UseFor(indexOf_.at({station.row.file, station.row.line}), station);
-      stations.push_back(std::move(station));
-    }
+    const auto hours = [](const Station& a, const Station& b) {
+      return FacilityHours(a.facility, a.hours) < FacilityHours(b.facility, b.hours);
+    };
+    const Order order = SortedBy(found, [](const Station& a, const Station& b) {
+      return std::tuple(a.facility, a.hours, a.permit, -a.row.file, -a.row.line) <
+             std::tuple(b.facility, b.hours, b.permit, -b.row.file, -b.row.line);
+    });
+    std::vector<bool> gone(found.size());
+    ForEachRun(found, order, hours, [&](auto begin, auto end) {
+      for (auto at = begin + 1; at != end; ++at) gone[*at] = true;
+    });
+    for (std::size_t i = 0; i < found.size(); ++i)
+      if (gone[i]) report_.LeaveOut(found[i].row, Finding::Superseded, Named(found[i]));
+    Erase(found, gone);
+    return found;
   }
 
- private:
   std::optional<Fault> AgainstLists(const Station& station) const {
-    if (!amq_.facilities.contains(station.facility)) return std::nullopt;
-    const auto hours = listed_.find(station.facility);
-    const bool off = hours == listed_.end() || amq_.offAir.contains({station.facility, station.hours});
-    const auto sameOrOverlapping = [&](char c) { return c == station.hours || Overlap(c, station.hours); };
-    if (hours != listed_.end() && std::any_of(hours->second.begin(), hours->second.end(), sameOrOverlapping))
-      return Fault{Finding::Superseded, Named(station)};
-    if (off) return Fault{Finding::NotOnAir, Named(station) + ", by the AM Query list"};
+    const auto contains = [](const auto& sorted, const auto& value) {
+      return std::binary_search(sorted.begin(), sorted.end(), value);
+    };
+    if (!contains(amq_.facilities, station.facility)) return std::nullopt;
+    const auto begin =
+        std::lower_bound(listed_.begin(), listed_.end(), FacilityHours(station.facility, '\0'));
+    const auto end = std::find_if(
+        begin, listed_.end(), [&](const FacilityHours& other) { return other.first != station.facility; });
+    const bool takesItsPlace = std::any_of(begin, end, [&](const FacilityHours& other) {
+      return other.second == station.hours || Overlap(other.second, station.hours);
+    });
+    if (takesItsPlace) return Fault{Finding::Superseded, Named(station)};
+    if (begin == end || contains(amq_.offAir, FacilityHours(station.facility, station.hours)))
+      return Fault{Finding::NotOnAir, Named(station) + ", by the AM Query list"};
     return std::nullopt;
   }
 
   const AmqStations& amq_;
   TableStations& tables_;
   ImportReport& report_;
-  std::unordered_map<std::string, std::string> listed_;  // the hours of each facility
-  std::map<std::pair<int, int>, std::size_t> indexOf_;   // of an antenna record by its row
+  std::vector<FacilityHours> listed_;  // sorted
 };
 
 /// A station's records stand together, by day, by night, in critical hours: those of a facility whatever
@@ -124,40 +198,51 @@ class TableOnly {
 bool InOrder(const Station& a, const Station& b) {
   constexpr std::string_view kHours = "DNCU";
   const auto station = [](const Station& s) {
-    return std::tie(s.channel, s.callSign, s.country, s.facility);
+    return std::tuple(s.channel, s.names.CallSign(), s.names.Country(), s.facility);
   };
-  const auto town = [](const Station& s) { return std::tie(s.state, s.city); };
+  const auto town = [](const Station& s) { return std::tuple(s.names.State(), s.names.City()); };
   const auto record = [&](const Station& s) {
     return std::tuple(kHours.find(s.hours), s.position.latitude, s.position.longitude);
   };
   if (station(a) != station(b)) return station(a) < station(b);
-  const bool byTown = a.facility == decltype(a.facility){};
-  if (byTown && town(a) != town(b)) return town(a) < town(b);
+  if (a.facility == 0 && town(a) != town(b)) return town(a) < town(b);
   return std::tuple(record(a), town(a)) < std::tuple(record(b), town(b));
 }
 
 }  // namespace
 
-std::vector<Station> MergeStations(AmqStations amq, const AntennaTables& tables, const ImportOptions& options,
-                                   ImportReport& report) {
+Stations MergeStations(AmqStations amq, const AntennaTables& tables, const ImportOptions& options,
+                       ImportReport& report) {
+  std::sort(amq.offAir.begin(), amq.offAir.end());
+  std::sort(amq.facilities.begin(), amq.facilities.end());
   TableStations known(tables, options, report);
-  std::vector<Station> stations = ChosenRows({std::move(amq.onAir), {}, {}, std::move(amq.endedIn)}, report);
+  Stations stations = std::move(amq.onAir);
+  ChooseRows(stations, std::move(amq.ended), report);
+  TableOnly others(amq, stations, known, report);
+  Room room;
+  room.Fill(stations, report);
 
-  const auto call = [](const Station& s) { return std::tuple(s.callSign, s.channel, s.hours); };
-  std::map<std::tuple<std::string, int, char>, int> sameCall;
-  for (const Station& station : stations) ++sameCall[call(station)];
-  for (Station& station : stations) {
+  const auto byCall = [](const Station& a, const Station& b) {
+    return std::tuple(a.names.CallSign(), a.channel, a.hours) <
+           std::tuple(b.names.CallSign(), b.channel, b.hours);
+  };
+  std::vector<bool> sharesCall(stations.size());
+  ForEachRun(stations, SortedBy(stations, byCall), byCall, [&](auto begin, auto end) {
+    for (auto at = begin; at != end; ++at) sharesCall[*at] = end - begin > 1;
+  });
+  for (std::size_t i = 0; i < stations.size(); ++i) {
+    Station& station = stations[i];
     report.Take(station.row);
     std::optional<std::size_t> antenna;
-    if (!station.facility.empty()) antenna = known.Find(station.facility, station.hours, station.permit);
-    if (!antenna && sameCall[call(station)] == 1) antenna = known.FindByCall(station, amq.facilities);
+    if (station.facility != 0) antenna = known.Find(station.facility, station.hours, station.permit);
+    if (!antenna && !sharesCall[i]) antenna = known.FindByCall(station, amq.facilities);
     if (antenna)
       known.UseFor(*antenna, station);
     else
       known.UseNothingFor(station);
   }
 
-  TableOnly(amq, stations, known, report).AddTo(stations);
+  others.AddTo(stations, room);
   known.CloseAccounts();
   std::sort(stations.begin(), stations.end(), InOrder);
   return stations;

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <vector>
-
 #include "import/AmqList.h"
 #include "import/AntennaTables.h"
 #include "import/ImportOptions.h"
@@ -18,9 +16,12 @@ namespace kestrel {
 /// gone. A later list, and any list before the tables, also replaces hours that overlap its own (unlimited
 /// with day or night). Joined by facility and hours, else by call sign, channel and hours.
 ///
+/// Of a channel at most MaxRecords, the strongest, are kept, those of the lists before those of the tables
+/// alone.
+///
 /// Every row that is still open in `report` is taken or left out. The result is sorted by channel, call sign,
 /// place and hours, whatever the order of the rows.
-std::vector<Station> MergeStations(AmqStations amq, const AntennaTables& tables, const ImportOptions& options,
-                                   ImportReport& report);
+Stations MergeStations(AmqStations amq, const AntennaTables& tables, const ImportOptions& options,
+                       ImportReport& report);
 
 }  // namespace kestrel

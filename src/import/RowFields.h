@@ -18,7 +18,7 @@ void SplitAtBars(std::string_view line, std::vector<std::string_view>& fields);
 void SplitTableRow(std::string_view row, std::vector<std::string_view>& fields, std::string& unescaped);
 
 /// The number that the whole of `text` is (blanks around it aside), or nothing: "12.5" and "-90.000000", but
-/// not "12x", "", "inf" or "0x1". An exponent is allowed.
+/// not "12x", "", "inf", "0x1" or what no double holds, as "1e400". An exponent is allowed.
 std::optional<double> WholeNumber(std::string_view text);
 
 /// The number before a unit: "5.0    kW" with the unit "kW" gives 5. Nothing when either is missing.

@@ -1,9 +1,15 @@
 #pragma once
 
+#include <cstdint>
+#include <deque>
+#include <memory>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "import/ImportReport.h"
+#include "import/PackedTexts.h"
 #include "import/SitePosition.h"
 
 namespace kestrel {
@@ -17,27 +23,54 @@ struct Tower {
   double bearing = 0;  ///< degrees true, 0 to 360
 };
 
-/// One antenna of a station for its hours of operation, whichever file told of it.
-struct Station {
-  RowPlace row;          ///< that it comes from
-  std::string facility;  ///< empty when the source has none
-  std::string callSign;  ///< in capitals
-  std::string city;
-  std::string state;
-  std::string country;    ///< two letters
-  int channel = 0;        ///< kHz, on the raster of the Americas
-  char hours = 'U';       ///< D, N, C or U
-  SitePosition position;  ///< in the Americas
-  double powerKW = 0;     ///< above 0
-  int preference = 0;     ///< of the status: the lower, the better
-  bool permit = false;    ///< not yet licensed (US)
-  bool directional = false;
-  std::vector<Tower> towers;  ///< none: the antenna is not known
+/// The towers of an antenna. Stations that have the same ones share them.
+using SharedTowers = std::shared_ptr<const std::vector<Tower>>;
+
+/// The number by which the FCC knows a station; 0 when the source has none.
+using FacilityId = std::uint32_t;
+
+/// Reads a facility id; 0, "-" and a blank one are none. Nothing when the text is no whole number, or one of
+/// more than 4294967295.
+std::optional<FacilityId> ReadFacilityId(std::string_view text);
+
+/// The names of a station. Of one of more than 200 bytes the first 50 characters are held; no file has room
+/// for as many.
+class StationNames {
+ public:
+  StationNames() = default;
+  StationNames(std::string_view callSign, std::string_view city, std::string_view state,
+               std::string_view country);
+
+  std::string_view CallSign() const { return texts_[0]; }  ///< in capitals
+  std::string_view City() const { return texts_[1]; }
+  std::string_view State() const { return texts_[2]; }
+  std::string_view Country() const { return texts_[3]; }  ///< two letters
+
+ private:
+  PackedTexts<4> texts_;
 };
 
-/// What makes two rows tell of the same antenna: facility and hours; where the facility is not known call
-/// sign, channel, town and hours.
-std::string Identity(const Station& station);
+/// One antenna of a station for its hours of operation, whichever file told of it.
+struct Station {
+  StationNames names;
+  RowPlace row;  ///< that it comes from
+  FacilityId facility = 0;
+  std::int16_t channel = 0;         ///< kHz, on the raster of the Americas
+  char hours = 'U';                 ///< D, N, C or U
+  std::uint8_t preference : 6 = 0;  ///< of the status: the lower, the better
+  bool permit : 1 = false;          ///< not yet licensed (US)
+  bool directional : 1 = false;
+  SitePosition position;  ///< in the Americas
+  double powerKW = 0;     ///< above 0
+  SharedTowers towers;    ///< none: the antenna is not known
+};
+
+/// Stations without end; no large piece of memory has to be found, or copied, for them.
+using Stations = std::deque<Station>;
+
+/// Compares what makes two rows tell of the same antenna: facility and hours; where the facility is not known
+/// call sign, channel, town and hours.
+bool IdentityLess(const Station& a, const Station& b);
 
 /// Whether the channel is one of 530, 540, ... 1700 kHz.
 bool IsOnRaster(double kilohertz);
@@ -45,7 +78,7 @@ bool IsOnRaster(double kilohertz);
 /// Whether the text names a station: not blank, "-" or "NEW".
 bool IsCallSign(std::string_view text);
 
-/// The reason why no station can have this power in kW; empty when it can.
+/// The reason why no station can have this power in kW; empty when it can: 0.0001 to 10000.
 std::string PowerFault(double powerKW);
 
 }  // namespace kestrel

@@ -16,16 +16,17 @@ std::string FileName(int channel) {
 
 StationRecord ToRecord(const Station& station) {
   StationRecord record;
-  record.CallSign = station.callSign;
-  record.City = station.city;
-  record.State = station.state;
-  record.Country = CountryName(station.country);
-  if (record.Country.empty()) record.Country = station.country;
+  record.CallSign = station.names.CallSign();
+  record.City = station.names.City();
+  record.State = station.names.State();
+  record.Country = CountryName(station.names.Country());
+  if (record.Country.empty()) record.Country = station.names.Country();
   record.HoursCode = station.hours;
   record.Latitude = static_cast<float>(station.position.latitude);
   record.Longitude = static_cast<float>(station.position.longitude);
   record.PowerKW = static_cast<float>(station.powerKW);
-  for (const Tower& tower : station.towers) {
+  if (!station.towers) return record;
+  for (const Tower& tower : *station.towers) {
     const auto i = static_cast<std::size_t>(++record.TowerCount);
     record.Switch[i] = "0";
     record.Fields[i] = static_cast<float>(tower.field);
@@ -38,12 +39,17 @@ StationRecord ToRecord(const Station& station) {
 }
 
 void RemarkOnNames(const Station& station, const FieldChanges& changes, ImportReport& report) {
-  const std::string name = station.callSign + ", " + station.city + ", " + station.state;
+  const std::string_view country = station.names.Country();
+  const bool unknown = CountryName(country).empty();
+  if (changes.cut + changes.blanked + changes.empty == 0 && !unknown) return;
+  const std::string call(station.names.CallSign());
+  const std::string name =
+      call + ", " + std::string(station.names.City()) + ", " + std::string(station.names.State());
   if (changes.cut > 0) report.Remark(station.row, Finding::NameCut, name);
   if (changes.blanked > 0) report.Remark(station.row, Finding::NameBlanked, name);
   if (changes.empty > 0) report.Remark(station.row, Finding::NameEmpty, name);
-  if (CountryName(station.country).empty())
-    report.Remark(station.row, Finding::CountryUnknown, station.callSign + ", \"" + station.country + '"');
+  if (unknown)
+    report.Remark(station.row, Finding::CountryUnknown, call + ", \"" + std::string(country) + '"');
 }
 
 }  // namespace
@@ -61,16 +67,16 @@ const std::vector<std::string>& StationSetNames() {
   return names;
 }
 
-StationSet MakeStationSet(const std::vector<Station>& stations, std::string_view stationsLine,
-                          ImportReport& report) {
+StationSet MakeStationSet(const Stations& stations, std::string_view stationsLine, ImportReport& report) {
   StationSet files;
   for (const std::string& name : StationSetNames()) files[name];
+  files[std::string(kCallIndex)] = CallIndexText(stations, report);
   for (const Station& station : stations) {
     FieldChanges changes;
     files[FileName(station.channel)] += StationRecordText(station.channel, ToRecord(station), changes);
     RemarkOnNames(station, changes, report);
   }
-  files[std::string(kCallIndex)] = CallIndexText(stations, report);
+  for (auto& [name, bytes] : files) bytes.shrink_to_fit();
   files[std::string(kStationsLine)] = std::string(stationsLine) + "\r\n";
   report.stations = SiteCount(stations);
   report.records = static_cast<int>(stations.size());

@@ -65,6 +65,12 @@ char TableRow::Letter(std::string_view column) const {
   return text.empty() ? '\0' : text.front();
 }
 
+FacilityId TableRow::Facility() {
+  const std::optional<FacilityId> id = ReadFacilityId(Text("facility_id"));
+  if (!id) Fail("facility_id");
+  return id.value_or(0);
+}
+
 SitePosition TableRow::Position() {
   const Result<SitePosition> position =
       ReadSitePosition({Text("lat_dir"), Text("lat_deg"), Text("lat_min"), Text("lat_sec")},

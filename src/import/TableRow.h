@@ -9,6 +9,7 @@
 #include "import/ImportReport.h"
 #include "import/LineStream.h"
 #include "import/SitePosition.h"
+#include "import/Station.h"
 #include "import/TableLayout.h"
 
 namespace kestrel {
@@ -36,6 +37,8 @@ class TableRow {
   std::optional<double> Number(std::string_view column, double least, double most);
   /// The first letter of the column, 0 when it is empty.
   char Letter(std::string_view column) const;
+  /// The number in facility_id; 0 when it is empty.
+  FacilityId Facility();
   SitePosition Position();
 
   /// Notes that the column cannot be read, unless another one was noted before.

@@ -10,7 +10,7 @@ namespace kestrel {
 namespace {
 
 template <typename Map>
-const typename Map::mapped_type* Lookup(const Map& map, const std::string& key) {
+const typename Map::mapped_type* Lookup(const Map& map, const typename Map::key_type& key) {
   const auto found = map.find(key);
   return found == map.end() ? nullptr : &found->second;
 }
@@ -19,13 +19,13 @@ bool Earlier(RowPlace a, RowPlace b) {
   return std::tie(a.file, a.line) < std::tie(b.file, b.line);
 }
 
-std::string Named(const AntennaSystem& system) {
-  return "antenna system " + system.id;
+std::string Named(const std::string& antennaSystem) {
+  return "antenna system " + antennaSystem;
 }
 
 /// "WAAA D", or with a fault "WAAA D, 2 of 3 towers".
 std::string Named(const Station& station, const std::string& fault) {
-  return station.callSign + ' ' + station.hours + (fault.empty() ? "" : ", " + fault);
+  return std::string(station.names.CallSign()) + ' ' + station.hours + (fault.empty() ? "" : ", " + fault);
 }
 
 }  // namespace
@@ -35,33 +35,42 @@ TableStations::TableStations(const AntennaTables& tables, const ImportOptions& o
   for (const auto& [id, facility] : tables.facilities)
     if (!facility.application.empty()) facilityOfApplication_.emplace(facility.application, id);
 
-  std::vector<const AntennaSystem*> inOrder;
-  for (const auto& [id, system] : tables.systems) inOrder.push_back(&system);
+  std::vector<const Entry*> inOrder;
+  inOrder.reserve(tables.systems.size());
+  for (const Entry& entry : tables.systems) inOrder.push_back(&entry);
   std::sort(inOrder.begin(), inOrder.end(),
-            [](const auto* a, const auto* b) { return Earlier(a->row, b->row); });
-  for (const AntennaSystem* system : inOrder) Join(*system);
+            [](const Entry* a, const Entry* b) { return Earlier(a->second.row, b->second.row); });
+  systems_.reserve(inOrder.size());
+  for (const Entry* entry : inOrder) Join(*entry);
+  BuildIndexes();
 }
 
-void TableStations::Join(const AntennaSystem& system) {
+void TableStations::Join(const Entry& entry) {
+  const AntennaSystem& system = entry.second;
   const ApplicationRow* engineering = Lookup(tables_.engineering, system.application);
   const std::optional<Standing> standing = StandingOf(system, engineering);
-  if (!standing) return report_.LeaveOut(system.row, Finding::NotLicensed, Named(system));
+  if (!standing) return report_.LeaveOut(system.row, Finding::NotLicensed, Named(entry.first));
 
-  System joined{&system, {}, nullptr, *standing};
+  System joined{&entry, nullptr, 0, *standing};
   if (engineering) joined.facility = engineering->facility;
   if (const ApplicationRow* application = Lookup(tables_.applications, system.application);
-      application && joined.facility.empty())
+      application && joined.facility == 0)
     joined.facility = application->facility;
-  if (const std::string* facility = Lookup(facilityOfApplication_, system.application); facility)
+  if (const FacilityId* facility = Lookup(facilityOfApplication_, system.application); facility)
     joined.facility = *facility;
   joined.station = Lookup(tables_.facilities, joined.facility);
+  systems_.push_back(joined);
+}
 
-  const std::size_t index = systems_.size();
-  if (!joined.facility.empty()) byFacility_.emplace(std::pair(joined.facility, system.hours), index);
-  if (joined.station)
-    byCall_.emplace(Call(joined.station->callSign, static_cast<int>(joined.station->frequency), system.hours),
-                    index);
-  systems_.push_back(std::move(joined));
+void TableStations::BuildIndexes() {
+  for (std::uint32_t i = 0; i < systems_.size(); ++i) {
+    if (systems_[i].facility != 0) byFacility_.push_back(i);
+    if (systems_[i].station) byCall_.push_back(i);
+  }
+  std::stable_sort(byFacility_.begin(), byFacility_.end(),
+                   [this](auto a, auto b) { return systems_[a].Hours() < systems_[b].Hours(); });
+  std::stable_sort(byCall_.begin(), byCall_.end(),
+                   [this](auto a, auto b) { return systems_[a].Call() < systems_[b].Call(); });
 }
 
 /// Nothing for a record that is neither in force nor wanted.
@@ -75,31 +84,45 @@ std::optional<TableStations::Standing> TableStations::StandingOf(const AntennaSy
   return std::nullopt;
 }
 
-std::optional<std::size_t> TableStations::Find(const std::string& facility, char hours, bool permit) const {
+std::optional<std::size_t> TableStations::Find(FacilityId facility, char hours, bool permit) const {
+  const FacilityHours key(facility, hours);
   std::optional<std::size_t> found;
-  const auto [first, last] = byFacility_.equal_range({facility, hours});
-  for (auto at = first; at != last; ++at)
-    if ((systems_[at->second].standing == Standing::Permit) == permit) found = at->second;
+  auto at = std::lower_bound(byFacility_.begin(), byFacility_.end(), key,
+                             [this](auto i, const auto& wanted) { return systems_[i].Hours() < wanted; });
+  for (; at != byFacility_.end() && systems_[*at].Hours() == key; ++at)
+    if ((systems_[*at].standing == Standing::Permit) == permit) found = *at;
   return found;
 }
 
 std::optional<std::size_t> TableStations::FindByCall(const Station& station,
-                                                     const std::set<std::string>& others) const {
+                                                     const std::vector<FacilityId>& others) const {
+  const std::tuple<std::string_view, int, char> key(station.names.CallSign(), station.channel, station.hours);
   std::optional<std::size_t> found;
-  const auto [first, last] = byCall_.equal_range(Call(station.callSign, station.channel, station.hours));
-  for (auto at = first; at != last; ++at) {
-    const System& system = systems_[at->second];
-    if (others.contains(system.facility) || (system.standing == Standing::Permit) != station.permit) continue;
+  auto at = std::lower_bound(byCall_.begin(), byCall_.end(), key,
+                             [this](auto i, const auto& wanted) { return systems_[i].Call() < wanted; });
+  for (; at != byCall_.end() && systems_[*at].Call() == key; ++at) {
+    const System& system = systems_[*at];
+    if (std::binary_search(others.begin(), others.end(), system.facility) ||
+        (system.standing == Standing::Permit) != station.permit)
+      continue;
     if (found && systems_[*found].facility != system.facility) return std::nullopt;
-    found = at->second;
+    found = *at;
   }
   return found;
 }
 
+std::size_t TableStations::IndexOf(RowPlace row) const {
+  const auto at =
+      std::lower_bound(systems_.begin(), systems_.end(), row,
+                       [](const System& s, RowPlace wanted) { return Earlier(s.Row().row, wanted); });
+  return static_cast<std::size_t>(at - systems_.begin());
+}
+
 bool TableStations::IsOnAir(const System& system) const {
   const std::string& status = system.station->status;
-  if (CountryCode(system.station->country) != "US" && !system.station->country.empty())
-    return system.standing == Standing::Abroad || system.system->current;
+  const std::string_view country = system.station->names.Country();
+  if (CountryCode(country) != "US" && !country.empty())
+    return system.standing == Standing::Abroad || system.Row().current;
   if (status == "LICEN" || (status == "LICSL" && options_.includeSilent))
     return system.standing != Standing::Abroad;
   return system.standing == Standing::Permit && status.starts_with("CP");
@@ -107,32 +130,33 @@ bool TableStations::IsOnAir(const System& system) const {
 
 std::optional<Fault> TableStations::MakeStation(std::size_t index, Station& station) const {
   const System& joined = systems_[index];
-  const AntennaSystem& system = *joined.system;
-  if (joined.facility.empty())
-    return Fault{Finding::NoStation, Named(system) + ", application " + system.application};
-  if (!joined.station) return Fault{Finding::NoStation, Named(system) + ", facility " + joined.facility};
+  const AntennaSystem& system = joined.Row();
+  if (joined.facility == 0)
+    return Fault{Finding::NoStation, Named(joined.Id()) + ", application " + system.application};
+  if (!joined.station)
+    return Fault{Finding::NoStation, Named(joined.Id()) + ", facility " + std::to_string(joined.facility)};
   const FacilityRow& facility = *joined.station;
-  if (!IsCallSign(facility.callSign))
-    return Fault{Finding::NotOnAir, "call sign \"" + facility.callSign + '"'};
+  const StationNames& names = facility.names;
+  const std::string callSign(names.CallSign());
+  if (!IsCallSign(callSign)) return Fault{Finding::NotOnAir, "call sign \"" + callSign + '"'};
   if (!IsOnAir(joined))
     return Fault{Finding::NotOnAir,
-                 facility.callSign + ", status " + (facility.status.empty() ? "blank" : facility.status)};
+                 callSign + ", status " + (facility.status.empty() ? "blank" : facility.status)};
   if (!IsOnRaster(facility.frequency))
-    return Fault{Finding::OffRaster, facility.callSign + ", " + DecimalText(facility.frequency, 3) + " kHz"};
+    return Fault{Finding::OffRaster, callSign + ", " + DecimalText(facility.frequency, 3) + " kHz"};
   if (const std::string fault = PowerFault(system.powerKW); !fault.empty())
-    return Fault{Finding::BadField, facility.callSign + ", " + fault};
+    return Fault{Finding::BadField, callSign + ", " + fault};
   if (!IsInAmericas(system.position))
-    return Fault{Finding::OutsideAmericas, facility.callSign + ", " + facility.city};
+    return Fault{Finding::OutsideAmericas, callSign + ", " + std::string(names.City())};
 
-  station.country = facility.country.empty() ? "US" : CountryCode(facility.country);
-  if (!options_.WantsCountry(station.country))
-    return Fault{Finding::OtherCountry, facility.callSign + ", " + station.country};
+  const std::string_view country = names.Country().empty() ? "US" : CountryCode(names.Country());
+  if (!options_.WantsCountry(country))
+    return Fault{Finding::OtherCountry, callSign + ", " + std::string(country)};
   station.row = system.row;
   station.facility = joined.facility;
-  station.callSign = facility.callSign;
-  station.city = facility.city;
-  station.state = facility.state.empty() && station.country != "US" ? "-" : facility.state;
-  station.channel = static_cast<int>(facility.frequency);
+  station.names = StationNames(callSign, names.City(),
+                               names.State().empty() && country != "US" ? "-" : names.State(), country);
+  station.channel = static_cast<std::int16_t>(facility.frequency);
   station.hours = system.hours;
   station.position = system.position;
   station.powerKW = system.powerKW;
@@ -143,11 +167,11 @@ std::optional<Fault> TableStations::MakeStation(std::size_t index, Station& stat
 
 void TableStations::UseFor(std::size_t index, Station& station) {
   System& joined = systems_[index];
-  const AntennaSystem& system = *joined.system;
+  const AntennaSystem& system = joined.Row();
   if (!joined.used) report_.Take(system.row);
   joined.used = true;
 
-  const auto rows = tables_.towers.find(system.id);
+  const auto rows = tables_.towers.find(joined.Id());
   if (rows == tables_.towers.end()) {
     const std::string none = "0 of " + std::to_string(system.towerCount) + " towers";
     return DoWithoutArray(station, Finding::TowersUnknown, system.towerCount > 1 ? none : "");
@@ -157,18 +181,18 @@ void TableStations::UseFor(std::size_t index, Station& station) {
   if (!array.fault.empty()) return DoWithoutArray(station, Finding::TowersUnknown, array.fault);
   if (array.tooMany) return DoWithoutArray(station, Finding::TooManyTowers, count);
 
-  std::set<int> fieldless;
-  for (const RowPlace& row : array.fieldless) fieldless.insert(row.line);
-  TakeTowers(system.id, fieldless);
+  TakeTowers(joined.Id(), array.fieldless);
   if (!station.directional && array.towers.size() > 1)
     report_.Remark(station.row, Finding::TowersDisagree, Named(station, count));
-  station.towers = std::move(array.towers);
+  station.towers = std::make_shared<const std::vector<Tower>>(std::move(array.towers));
 }
 
-void TableStations::TakeTowers(const std::string& id, const std::set<int>& fieldless) {
+void TableStations::TakeTowers(const std::string& id, const std::vector<RowPlace>& fieldless) {
   if (!takenTowers_.insert(id).second) return;
   for (const TowerRow& tower : tables_.towers.at(id)) {
-    if (fieldless.contains(tower.row.line))
+    const bool hasNoField = std::any_of(fieldless.begin(), fieldless.end(),
+                                        [&](RowPlace row) { return row.line == tower.row.line; });
+    if (hasNoField)
       report_.LeaveOut(tower.row, Finding::NoField,
                        "antenna system " + id + ", tower " + std::to_string(tower.number));
     else
@@ -184,7 +208,8 @@ void TableStations::UseNothingFor(Station& station) {
 /// the pattern stays unknown.
 void TableStations::DoWithoutArray(Station& station, Finding why, const std::string& fault) {
   if (!station.directional) {
-    station.towers.assign(1, Tower{});
+    static const SharedTowers kOne = std::make_shared<const std::vector<Tower>>(1);
+    station.towers = kOne;
     if (why == Finding::TowersUnknown) why = Finding::TowersPassedOver;
     if (fault.empty()) return;
   }
@@ -192,24 +217,26 @@ void TableStations::DoWithoutArray(Station& station, Finding why, const std::str
 }
 
 void TableStations::CloseAccounts() {
-  std::set<std::string> applications;
-  std::set<std::string> facilities;
+  std::vector<std::string_view> applications;
+  std::vector<FacilityId> facilities;
   for (const System& system : systems_) {
     if (!system.used) continue;
-    applications.insert(system.system->application);
-    facilities.insert(system.facility);
+    applications.push_back(system.Row().application);
+    facilities.push_back(system.facility);
   }
-  const auto close = [this](const auto& rows, const std::set<std::string>& used, const char* what) {
-    std::vector<std::pair<RowPlace, const std::string*>> unused;
+  std::sort(applications.begin(), applications.end());
+  std::sort(facilities.begin(), facilities.end());
+  const auto close = [this](const auto& rows, const auto& used, const std::string& what) {
+    std::vector<std::pair<RowPlace, decltype(&rows.begin()->first)>> unused;
     for (const auto& [id, row] : rows) {
-      if (used.contains(id))
+      if (std::binary_search(used.begin(), used.end(), id))
         report_.Take(row.row);
       else
         unused.emplace_back(row.row, &id);
     }
     std::sort(unused.begin(), unused.end(),
               [](const auto& a, const auto& b) { return Earlier(a.first, b.first); });
-    for (const auto& [row, id] : unused) report_.LeaveOut(row, Finding::NotReferred, what + *id);
+    for (const auto& [row, id] : unused) report_.LeaveOut(row, Finding::NotReferred, what + KeyText(*id));
   };
   close(tables_.facilities, facilities, "facility ");
   close(tables_.engineering, applications, "application ");

@@ -1,12 +1,16 @@
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <set>
 #include <string>
+#include <string_view>
 #include <tuple>
+#include <utility>
 #include <vector>
 
+#include "import/AmqList.h"
 #include "import/AntennaTables.h"
 #include "import/ImportOptions.h"
 #include "import/ImportReport.h"
@@ -28,16 +32,17 @@ class TableStations {
   TableStations(const AntennaTables& tables, const ImportOptions& options, ImportReport& report);
 
   /// Index of the antenna record of this facility and these hours, licensed or permit as asked, or nothing.
-  std::optional<std::size_t> Find(const std::string& facility, char hours, bool permit) const;
-  /// The same by call sign, channel and hours: only when one facility alone has them, and none of `others`.
-  std::optional<std::size_t> FindByCall(const Station& station, const std::set<std::string>& others) const;
+  std::optional<std::size_t> Find(FacilityId facility, char hours, bool permit) const;
+  /// The same by call sign, channel and hours: only when one facility alone has them, and none of `others`,
+  /// which are sorted.
+  std::optional<std::size_t> FindByCall(const Station& station, const std::vector<FacilityId>& others) const;
 
   /// The antenna records in the order of their rows.
   std::size_t Count() const { return systems_.size(); }
   bool IsUsed(std::size_t index) const { return systems_[index].used; }
-  const std::string& FacilityOf(std::size_t index) const { return systems_[index].facility; }
-  char HoursOf(std::size_t index) const { return systems_[index].system->hours; }
-  RowPlace RowOf(std::size_t index) const { return systems_[index].system->row; }
+  /// REQUIRES: a record stands in that row.
+  std::size_t IndexOf(RowPlace row) const;
+  RowPlace RowOf(std::size_t index) const { return systems_[index].Row().row; }
 
   /// The station of a record, its towers not yet set; or why there is none on the air.
   std::optional<Fault> MakeStation(std::size_t index, Station& station) const;
@@ -52,29 +57,37 @@ class TableStations {
 
  private:
   enum class Standing { Licensed, Permit, Abroad };
+  using Entry = std::pair<const std::string, AntennaSystem>;  ///< of the table, with its ant_sys_id
   struct System {
-    const AntennaSystem* system;
-    std::string facility;  ///< empty when no table tells
+    const Entry* entry = nullptr;
     const FacilityRow* station = nullptr;
+    FacilityId facility = 0;  ///< 0 when no table tells
     Standing standing = Standing::Licensed;
     bool used = false;
-  };
-  using Call = std::tuple<std::string, int, char>;
 
-  void Join(const AntennaSystem& system);
+    const std::string& Id() const { return entry->first; }
+    const AntennaSystem& Row() const { return entry->second; }
+    FacilityHours Hours() const { return {facility, Row().hours}; }
+    std::tuple<std::string_view, int, char> Call() const {
+      return {station->names.CallSign(), static_cast<int>(station->frequency), Row().hours};
+    }
+  };
+
+  void Join(const Entry& entry);
+  void BuildIndexes();
   std::optional<Standing> StandingOf(const AntennaSystem& system, const ApplicationRow* engineering) const;
   bool IsOnAir(const System& system) const;
-  void TakeTowers(const std::string& id, const std::set<int>& fieldless);
+  void TakeTowers(const std::string& id, const std::vector<RowPlace>& fieldless);
   void DoWithoutArray(Station& station, Finding why, const std::string& fault);
 
   const AntennaTables& tables_;
   const ImportOptions& options_;
   ImportReport& report_;
-  std::map<std::string, std::string> facilityOfApplication_;  // in the current system
+  std::map<std::string_view, FacilityId> facilityOfApplication_;  // in the current system
   std::vector<System> systems_;
-  std::multimap<std::pair<std::string, char>, std::size_t> byFacility_;
-  std::multimap<Call, std::size_t> byCall_;
-  std::set<std::string> takenTowers_;  // ant_sys_id whose tower rows are accounted for
+  std::vector<std::uint32_t> byFacility_;   // indexes of those with a facility, sorted by facility and hours
+  std::vector<std::uint32_t> byCall_;       // of those with a station, sorted by call sign, channel and hours
+  std::set<std::string_view> takenTowers_;  // ant_sys_id whose tower rows are accounted for
 };
 
 }  // namespace kestrel

@@ -13,8 +13,6 @@
 namespace kestrel {
 namespace {
 
-constexpr zip_int64_t kMostEntries = 1000;
-
 struct CloseArchive {
   void operator()(zip_t* archive) const { zip_discard(archive); }
 };
@@ -77,9 +75,9 @@ class ZipIntake : public Intake {
 
 Result<Done> ZipIntake::List(const std::string& name, std::uint64_t largest) {
   const zip_int64_t count = zip_get_num_entries(archive_.get(), 0);
-  if (count > kMostEntries)
+  if (count > MostZipEntries)
     return Error{Error::Kind::TooLarge, name, 0,
-                 "a zip of " + std::to_string(count) + " files, at most " + std::to_string(kMostEntries) +
+                 "a zip of " + std::to_string(count) + " files, at most " + std::to_string(MostZipEntries) +
                      " are read"};
   std::uint64_t total = 0;
   for (zip_uint64_t i = 0; i < static_cast<zip_uint64_t>(count); ++i) {

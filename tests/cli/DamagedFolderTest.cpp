@@ -137,8 +137,13 @@ void Fill(const Folder& folder, Damage& damage) {
   damage.Put(folder, "tables.zip", Kept("zip-intake", damage));
   damage.Put(folder, "am_towers.dat", Kept("antenna-tables", damage).substr(1));
   if (damage.Below(3) == 0) damage.Put(folder, ".import-journal", Kept("import-journal", damage));
-  for (const char* kept : {".import-new", ".import-undo"}) {
+  if (damage.Below(3) == 0) damage.Put(folder, ".import-lock", "1\nkestrel\nelsewhere\n");
+  for (const char* kept : {".import-new", ".import-old", ".import-undo"}) {
     if (damage.Below(3) != 0) continue;
+    if (damage.Below(2) == 0) {
+      damage.Put(folder, kept, "no folder");
+      continue;
+    }
     ASSERT_TRUE(QDir().mkpath(folder.File(kept)));
     damage.Put(folder, QString(kept) + "/620x.dat", Kept("station-file", damage));
   }

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
+#include <QDir>
+#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -55,6 +58,23 @@ TEST(SessionCommandTest, AnUnreadableOrMissingOneThatACommandNeedsIsStatusOne) {
             (Answer{1, "",
                     "kestrel-cli: nothing.cfg: there is no such file; name a last-session file that can be "
                     "read, or leave it out for a first start\n"}));
+}
+
+TEST(SessionCommandTest, AStationsLineThatCannotBeReadIsNamed) {
+  const Folder folder;
+  const std::string missing = folder.Run({"session"}).Err;
+  EXPECT_EQ(missing, "");
+  ASSERT_EQ(mkfifo(QFile::encodeName(folder.File("Stations.txt")).constData(), 0600), 0);
+  const std::string words = "kestrel-cli: Stations.txt: is a folder or a device, not a file\n";
+  for (const bool isFolder : {false, true}) {
+    if (isFolder) {
+      ASSERT_TRUE(QFile::remove(folder.File("Stations.txt")) && QDir().mkdir(folder.File("Stations.txt")));
+    }
+    const Answer answer = folder.Run({"session", "--json"});
+    EXPECT_EQ(answer.Status, 0);
+    EXPECT_EQ(answer.Err, words);
+    EXPECT_NE(answer.Out.find("\"Stations\": \"\""), std::string::npos) << answer.Out;
+  }
 }
 
 TEST(SessionCommandTest, WhatIsWrittenReadsBackTheSame) {

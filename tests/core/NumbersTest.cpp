@@ -88,6 +88,12 @@ TEST(ParseNumberTest, ReadsNumbersAsTheyAreTyped) {
   };
   // clang-format on
   for (const auto& row : rows) EXPECT_EQ(ParseNumber(row.text), row.value) << row.text;
+  const std::string nines(400, '9');
+  EXPECT_EQ(ParseNumber(nines), 1e10F);
+  EXPECT_EQ(ParseNumber('-' + nines), -1e10F);
+  EXPECT_EQ(ParseNumber('.' + nines), 1);
+  EXPECT_EQ(ParseNumber("1e" + nines), 1e10F);
+  EXPECT_EQ(ParseNumber(nines + "p"), static_cast<float>(9999999999999999.0F * 1e-12));
   // Sixteen characters count, the sign among them.
   EXPECT_EQ(ParseNumber("12345678901234567890p"), static_cast<float>(1234567890123456.0F * 1e-12));
   EXPECT_EQ(ParseNumber("-2345678901234567890p"), static_cast<float>(-234567890123456.0F * 1e-12));

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "WithoutRights.h"
 #include "data/FileIo.h"
 
 namespace kestrel {
@@ -63,6 +64,27 @@ TEST_F(DataFolderTest, OnlyPlainFilesAreRead) {
   ASSERT_EQ(mkfifo(QFile::encodeName(Path("620x.dat")).constData(), 0600), 0);
   EXPECT_EQ(Text(folder_.Read("620x.dat")), "620x.dat: is a folder or a device, not a file");
   EXPECT_EQ(ReadFile("/dev/zero").error().kind, Error::Kind::NotAFile);
+}
+
+TEST_F(DataFolderTest, AFileWithoutPermissionIsRefusedInWords) {
+  Put("620x.dat", "620, QAAA\n");
+  ASSERT_TRUE(OpenToAll(QFile::encodeName(folder_.Path()).constData()));
+  ASSERT_TRUE(QFile::setPermissions(Path("620x.dat"), QFile::ReadOwner | QFile::ReadOther));
+  EXPECT_TRUE(HoldsWithoutRights([&] { return static_cast<bool>(folder_.Read("620x.dat")); }));
+  ASSERT_TRUE(QFile::setPermissions(Path("620x.dat"), QFile::Permissions()));
+  EXPECT_TRUE(
+      HoldsWithoutRights([&] { return Text(folder_.Read("620x.dat")) == "620x.dat: Permission denied"; }));
+}
+
+TEST_F(DataFolderTest, TheStationsLineIsReadOrRefusedInWords) {
+  EXPECT_EQ(*folder_.ReadStationsLine(), "");
+  Put("Stations.txt", "  The stations of today \r\nmore\n");
+  EXPECT_EQ(*folder_.ReadStationsLine(), "The stations of today");
+  ASSERT_TRUE(QFile::remove(Path("Stations.txt")));
+  ASSERT_TRUE(QDir(folder_.Path()).mkdir("Stations.txt"));
+  EXPECT_EQ(folder_.ReadStationsLine().error().Message(),
+            "Stations.txt: is a folder or a device, not a file");
+  EXPECT_EQ(folder_.StationsLine(), "");
 }
 
 TEST_F(DataFolderTest, ALongFileIsRefused) {

@@ -11,6 +11,7 @@
 #include <cerrno>
 #include <functional>
 
+#include "WithoutRights.h"
 #include "core/SessionFile.h"
 #include "data/DataFolder.h"
 
@@ -131,12 +132,16 @@ TEST_F(SessionSavingTest, WithoutRoomOnTheDiskTheOldFileStays) {
 
 TEST_F(SessionSavingTest, WhereNothingCanBeWrittenItSaysSo) {
   ASSERT_EQ(Save(700), 0);
-  if (geteuid() != 0) {  // who may do everything writes in spite of this
-    QFile::setPermissions(folder_.Path(), QFile::ReadOwner | QFile::ExeOwner);
-    EXPECT_EQ(Save(1230), 1);
-    QFile::setPermissions(folder_.Path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    EXPECT_EQ(Saved(), 700);
-  }
+  const QByteArray path = QFile::encodeName(folder_.Path());
+  ASSERT_EQ(chmod(path.constData(), 0555), 0);
+  EXPECT_TRUE(HoldsWithoutRights([&] {
+    SessionState state = State(1230);
+    const Result<Done> saved = SaveSession(folder_, state);
+    return !saved && saved.error().Message() == "Kestrel.CFG: Permission denied";
+  }));
+  ASSERT_EQ(chmod(path.constData(), 0755), 0);
+  EXPECT_EQ(Saved(), 700);
+  EXPECT_EQ(Names(), QStringList("Kestrel.CFG"));
   QDir(folder_.Path()).removeRecursively();
   SessionState state = State(1230);
   EXPECT_EQ(SaveSession(folder_, state).error().Message(), "Kestrel.CFG: No such file or directory");

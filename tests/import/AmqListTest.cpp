@@ -18,14 +18,17 @@ TEST(AmqList, TakesAStation) {
   const TextImport import = ImportRows(row.Text());
   ASSERT_EQ(import.stations.size(), 1U);
   const Station& station = import.stations.front();
-  EXPECT_EQ(station.facility, "900001");
-  EXPECT_EQ(station.callSign + station.city + station.state + station.country, "QAAASPRINGFIELDILUS");
+  EXPECT_EQ(station.facility, 900001U);
+  EXPECT_EQ(station.names.CallSign(), "QAAA");
+  EXPECT_EQ(station.names.City(), "SPRINGFIELD");
+  EXPECT_EQ(station.names.State(), "IL");
+  EXPECT_EQ(station.names.Country(), "US");
   EXPECT_EQ(station.channel, 1230);
   EXPECT_EQ(station.hours, 'U');
   EXPECT_NEAR(station.position.latitude, 39.781667, 1e-6);
   EXPECT_NEAR(station.position.longitude, 89.650111, 1e-6);
   EXPECT_EQ(station.powerKW, 0.118);
-  EXPECT_EQ(station.towers.size(), 1U);
+  EXPECT_EQ(station.towers->size(), 1U);
 }
 
 TEST(AmqList, EveryKindOfBadRowIsNamed) {
@@ -66,6 +69,35 @@ TEST(AmqList, EveryKindOfBadRowIsNamed) {
     const TextImport import = ImportRows(row.Text() + ListRow{}.Text());
     EXPECT_EQ(import.Examples(finding), "amq.txt:1: " + std::string(message) + '\n') << row.Text();
     EXPECT_EQ(import.stations.size(), 1U) << row.Text();
+    ExpectCountsAddUp(import.report);
+  }
+}
+
+TEST(AmqList, NumbersAreTakenUpToTheirLimits) {
+  const std::string digits(400, '9');
+  const struct {
+    ListRow row;
+    bool taken;
+  } cases[] = {
+      {{.power = "0.0001 kW"}, true},        {{.power = "0.00009 kW"}, false},
+      {{.power = "10000 kW"}, true},         {{.power = "10000.1 kW"}, false},
+      {{.power = "inf kW"}, false},          {{.power = "1e400 kW"}, false},
+      {{.power = "-0 kW"}, false},           {{.power = digits + " kW"}, false},
+      {{.frequency = "inf kHz"}, false},     {{.frequency = "1e400 kHz"}, false},
+      {{.frequency = "-0 kHz"}, false},      {{.frequency = digits + " kHz"}, false},
+      {{.frequency = "1.23e3 kHz"}, true},   {{.facility = "4294967295"}, true},
+      {{.facility = "4294967296"}, false},   {{.facility = "1e400"}, false},
+      {{.facility = digits}, false},         {{.facility = "inf"}, false},
+      {{.latitude = "N|inf|0|0"}, false},    {{.latitude = "N|1e400|0|0"}, false},
+      {{.latitude = "N|-0|0|0"}, true},      {{.latitude = "N|90|0|0"}, true},
+      {{.latitude = "N|1|1|1e400"}, false},  {{.latitude = "N|" + digits + "|0|0"}, false},
+      {{.longitude = "W|180|0|0"}, true},    {{.longitude = "W|180|0|1"}, false},
+      {{.longitude = "W|20|0|0"}, true},     {{.longitude = "W|19|59|59"}, false},
+      {{.longitude = "W|90|1|-inf"}, false},
+  };
+  for (const auto& [row, taken] : cases) {
+    const TextImport import = ImportRows(row.Text());
+    EXPECT_EQ(import.report.Total().taken, taken ? 1 : 0) << row.Text();
     ExpectCountsAddUp(import.report);
   }
 }
@@ -152,7 +184,7 @@ TEST(AmqList, NamesComeOutWhole) {
   for (const auto& [given, city] : cases) {
     const TextImport import = ImportRows(ListRow{.city = given}.Text());
     ASSERT_EQ(import.stations.size(), 1U);
-    EXPECT_EQ(import.stations.front().city, city);
+    EXPECT_EQ(import.stations.front().names.City(), city);
   }
 }
 

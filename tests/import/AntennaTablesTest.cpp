@@ -26,9 +26,9 @@ TextImport WithChange(const std::string& table, const std::string& from, const s
   return import;
 }
 
-TowerRow Row(int number, double field, double spacing, double bearing, bool fromPrevious) {
+TowerRow Row(int number, float field, float spacing, float bearing, bool fromPrevious) {
   TowerRow row;
-  row.number = number;
+  row.number = static_cast<std::int16_t>(number);
   row.field = field;
   row.spacing = spacing;
   row.bearing = bearing;
@@ -69,7 +69,7 @@ TEST(TowerArray, WhatCannotBeAnArrayIsNamed) {
 
   std::vector<TowerRow> many;
   for (int number = 1; number <= 13; ++number)
-    many.push_back(Row(number, number == 5 ? 0 : 1, number, 0, false));
+    many.push_back(Row(number, number == 5 ? 0 : 1, static_cast<float>(number), 0, false));
   EXPECT_FALSE(ResolveTowers(many, 13).tooMany);  // 12 of them radiate
   many[4].field = 1;
   EXPECT_TRUE(ResolveTowers(many, 13).tooMany);
@@ -168,6 +168,46 @@ TEST(AntennaTables, EveryKindOfBadRowIsNamed) {
   }
 }
 
+TEST(AntennaTables, NumbersAreTakenUpToTheirLimits) {
+  const std::string antenna =
+      "ant_sys_id=701 application_id=501 hours_operation=D eng_record_type=C am_dom_status=L "
+      "lat_deg=40 lat_dir=N lat_min=30 lat_sec=0 lon_deg=90 lon_dir=W lon_min=15 lon_sec=0 ";
+  const std::string tower = "ant_sys_id=701 ";
+  const struct {
+    std::string table, row, column;
+    std::vector<std::string> taken, leftOut;
+  } cases[] = {
+      {"am_ant_sys", antenna, "power", {"0.0001", "10000"}, {"0.00009", "10000.1", "-0", "1e6", "1000001"}},
+      {"am_ant_sys", antenna + "power=1 ", "tower_count", {"0", "-0", "1000"}, {"1001", "-1"}},
+      {"am_towers", tower + "tower_num=1 ", "field_ratio", {"-0", "1000000"}, {"1000001", "-1"}},
+      {"am_towers", tower + "tower_num=1 ", "phasing_deg", {"-360", "-0", "360"}, {"-360.1", "360.1"}},
+      {"am_towers", tower + "tower_num=1 ", "orientation_deg", {"-360", "-0", "360"}, {"-360.1", "360.1"}},
+      {"am_towers", tower + "tower_num=1 ", "spacing_deg", {"-0", "100000"}, {"100001", "-1"}},
+      {"am_towers", tower + "tower_num=1 ", "elec_hgt_deg", {"-0", "100000"}, {"100001", "-1"}},
+      {"am_towers",
+       tower + "tower_num=1 top_loaded_switch=1 ",
+       "topload_a",
+       {"-0", "100000"},
+       {"100001", "-1"}},
+      {"am_towers", tower, "tower_num", {"1", "1000"}, {"0", "-0", "1001"}},
+      {"facility", "fac_service=AM ", "facility_id", {"1", "4294967295"}, {"0", "-0", "4294967296", "1.5"}},
+  };
+  for (const auto& [table, row, column, taken, leftOut] : cases) {
+    const auto badFields = [&](const std::string& value) {
+      auto texts = SampleTables(Order::A, true);
+      texts.emplace_back("more", TableText{table, Order::A, true, {row + column + '=' + value}}.Text());
+      const TextImport import = ImportTexts(texts);
+      ExpectCountsAddUp(import.report);
+      return import.report.Of(Finding::BadField).rows;
+    };
+    for (const std::string& value : taken) EXPECT_EQ(badFields(value), 0) << column << ' ' << value;
+    for (const std::string& value : leftOut) EXPECT_EQ(badFields(value), 1) << column << ' ' << value;
+    for (const char* value : {"inf", "-inf", "nan", "1e400", "-1e400"})
+      EXPECT_EQ(badFields(value), 1) << column << ' ' << value;
+    EXPECT_EQ(badFields(std::string(400, '9')), 1) << column;
+  }
+}
+
 TEST(AntennaTables, WhatALaterFileNoLongerHasInForceIsGone) {
   const auto stations = [](const std::string& name, const std::string& later) {
     auto texts = SampleTables(Order::A, true);
@@ -176,7 +216,7 @@ TEST(AntennaTables, WhatALaterFileNoLongerHasInForceIsGone) {
     ExpectCountsAddUp(import.report);
     std::string hours;
     for (const Station& station : import.stations)
-      hours += station.hours + std::to_string(station.towers.size());
+      hours += station.hours + std::to_string(station.towers ? station.towers->size() : 0);
     return hours;
   };
   const std::string antennas = SampleTables(Order::A, true)[0].second;
@@ -219,9 +259,9 @@ TEST(AntennaTables, AnArrayThatIsNotWholeIsTakenWithoutItsPattern) {
 
 TEST(AntennaTables, CodesAndHeights) {
   EXPECT_EQ(WithChange("am_ant_sys", "|D|40|N|", "|R|40|N|").stations[1].hours, 'C');  // behind N
-  EXPECT_EQ(WithChange("facility", "BRAVO", "A\\|B").stations.front().city, "A|B");
+  EXPECT_EQ(WithChange("facility", "BRAVO", "A\\|B").stations.front().names.City(), "A|B");
   const auto height = [](const char* to) {
-    return WithChange("am_towers", "|1|80|10|||", to).stations.back().towers.front().height;
+    return WithChange("am_towers", "|1|80|10|||", to).stations.back().towers->front().height;
   };
   EXPECT_EQ(height("|2|||70|15|"), 85);
   EXPECT_EQ(height("|1|||70|15|"), 85);

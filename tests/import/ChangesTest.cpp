@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "data/StationFile.h"
+
 namespace kestrel {
 namespace {
 
@@ -85,9 +87,17 @@ TEST(Changes, ACallSignThatWentElsewhereLeftItsSiteToAnother) {
             "call sign: 2\n  1230 QAAA D" + site + ": was QCCC\n  1230 QBBB D" + site + ": was QAAA\n");
 }
 
+TEST(Changes, AFullChannelOfOneCallSignIsCompared) {
+  // All against all would be a hundred million pairs.
+  std::string before;
+  for (int i = 0; i < MaxRecords; ++i) before += kOne;
+  const std::string after = With(before, " 1,-", " 2,-");
+  EXPECT_FALSE(Differences(before, after).empty());
+}
+
 TEST(Changes, TheTextStopsWhereItIsTold) {
-  std::vector<Change> changes(3);
-  for (Change& change : changes) change.callSign = "QAAA";
+  Changes changes(3);
+  for (Change& change : changes) change.texts = PackedTexts<4>({"QAAA", "", "", ""});
   EXPECT_EQ(ChangesText(changes, 2), "new: 3\n  0 QAAA , \n  0 QAAA , \n  and 1 more\n");
 }
 

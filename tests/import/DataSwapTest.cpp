@@ -1,10 +1,14 @@
 #include "import/DataSwap.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <QDir>
 #include <QFile>
 #include <QLockFile>
+#include <QSysInfo>
 #include <QTemporaryDir>
 
 #include "data/FileIo.h"
@@ -197,6 +201,64 @@ TEST_F(DataSwapTest, TwoImportsDoNotMeet) {
   EXPECT_TRUE(RecoverImport(folder));
   EXPECT_TRUE(QFileInfo::exists(folder.Path() + "/.import-new"));  // the other one's
   EXPECT_EQ(folder.Read("530x.dat")->toStdString(), "old");
+}
+
+TEST_F(DataSwapTest, WhatIsNoLockFileIsRefusedAtOnce) {
+  const DataFolder folder = Fresh("old");
+  ASSERT_TRUE(SwapInStations(folder, Set("new")));
+  const QString lock = folder.Path() + "/.import-lock";
+  const QByteArray path = QFile::encodeName(lock);
+  const std::pair<const char*, std::function<bool()>> cases[] = {
+      {"folder", [&] { return QDir().mkdir(lock); }},
+      {"pipe", [&] { return mkfifo(path.constData(), 0600) == 0; }},
+      {"device", [&] { return QFile::link("/dev/zero", lock); }},
+      {"link to a pipe",
+       [&] { return mkfifo((path + "p").constData(), 0600) == 0 && QFile::link(lock + "p", lock); }},
+      {"link to nothing", [&] { return QFile::link("nowhere", lock); }},
+      {"long file", [&] { return folder.Write(".import-lock", "1\n") && QFile::resize(lock, 1001); }},
+      {"2 GB", [&] { return folder.Write(".import-lock", "") && QFile::resize(lock, 2LL << 30); }},
+  };
+  for (const auto& [name, put] : cases) {
+    SCOPED_TRACE(name);
+    ASSERT_TRUE(put());
+    QDir(folder.Path()).mkdir(".import-new");
+    const std::string words = ".import-lock: is not the lock file of an import; remove it to go on";
+    for (const Result<Done>& outcome :
+         {SwapInStations(folder, Set("newer")), UndoImport(folder), RecoverImport(folder)}) {
+      ASSERT_FALSE(outcome);
+      EXPECT_EQ(outcome.error().Message(), words);
+    }
+    EXPECT_TRUE(QDir(folder.Path()).rmdir(".import-new"));
+    EXPECT_TRUE(RecoverImport(folder)) << "nothing to recover, nothing to lock";
+    EXPECT_TRUE(QFile::remove(lock) || QDir().rmdir(lock));
+    QFile::remove(lock + "p");
+  }
+  EXPECT_EQ(Holds(folder), "new");
+}
+
+TEST_F(DataSwapTest, ALockOfAProcessThatIsGoneHoldsNothing) {
+  const DataFolder folder = Fresh("old");
+  const pid_t gone = fork();
+  if (gone == 0) _exit(0);
+  ASSERT_EQ(waitpid(gone, nullptr, 0), gone);
+  ASSERT_TRUE(folder.Write(".import-lock", std::to_string(gone) + "\nkestrel\n" +
+                                               QSysInfo::machineHostName().toStdString() + "\n"));
+  EXPECT_TRUE(SwapInStations(folder, Set("new")));
+  EXPECT_EQ(Holds(folder), "new");
+  ExpectTidy(folder, {".import-undo"});
+}
+
+TEST_F(DataSwapTest, WhatIsNoKeptSetIsNotPutBack) {
+  const DataFolder folder = Fresh("old");
+  const QString kept = folder.Path() + "/.import-undo";
+  ASSERT_TRUE(QDir().mkdir(parent_.path() + "/elsewhere"));
+  for (const bool link : {false, true}) {
+    ASSERT_TRUE(link ? QFile::link(parent_.path() + "/elsewhere", kept)
+                     : mkfifo(QFile::encodeName(kept).constData(), 0600) == 0);
+    EXPECT_EQ(UndoImport(folder).error().text, "holds no station files that an import replaced");
+    EXPECT_EQ(Holds(folder), "old");
+    ASSERT_TRUE(QFile::remove(kept));
+  }
 }
 
 TEST_F(DataSwapTest, ADamagedJournalTouchesNothing) {

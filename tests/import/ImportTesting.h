@@ -50,7 +50,7 @@ std::vector<std::pair<std::string, std::string>> SampleTables(Order order, bool 
 /// What an import makes of named texts, without a disk.
 struct TextImport {
   ImportReport report;
-  std::vector<Station> stations;
+  Stations stations;
   StationSet files;
 
   /// The examples of a finding, all of them in one text, a line each.

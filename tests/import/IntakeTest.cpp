@@ -1,12 +1,14 @@
 #include "import/Intake.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <zip.h>
 
 #include <QFile>
 #include <QTemporaryDir>
 
 #include "ImportTesting.h"
+#include "WithoutRights.h"
 #include "data/FileIo.h"
 #include "import/Import.h"
 
@@ -96,6 +98,37 @@ TEST_F(IntakeTest, WhatCannotBeReadStopsTheImportAndIsNamed) {
     EXPECT_EQ(outcome.report.records, 1);  // the report tells of the others all the same
     EXPECT_FALSE(DataFolder(dir_.path()).Has("1230x.dat"));
   }
+}
+
+TEST_F(IntakeTest, WhatIsNoPlainFileIsRefusedAtOnce) {
+  const QString sparse = Plain("sparse", "|");
+  ASSERT_TRUE(QFile::resize(sparse, 2LL << 30));
+  ASSERT_EQ(mkfifo(QFile::encodeName(dir_.filePath("pipe")).constData(), 0600), 0);
+  ASSERT_TRUE(QFile::link("/dev/zero", dir_.filePath("zero")));
+  ASSERT_TRUE(QFile::link(dir_.filePath("pipe"), dir_.filePath("to a pipe")));
+  const std::string noFile = "is a folder or a device, not a file";
+  const std::pair<QString, std::string> cases[] = {
+      {dir_.filePath("pipe"), noFile}, {dir_.filePath("to a pipe"), noFile},
+      {dir_.filePath("zero"), noFile}, {"/dev/zero", noFile},
+      {dir_.path(), noFile},           {sparse, "is larger than 200 MB, the most that is read"},
+  };
+  for (const auto& [path, words] : cases) {
+    const auto intake = OpenIntake(path);
+    ASSERT_FALSE(intake) << path.toStdString();
+    EXPECT_EQ(intake.error().text, words) << path.toStdString();
+  }
+}
+
+TEST_F(IntakeTest, AFileWithoutPermissionIsRefusedInWords) {
+  const QString path = Plain("secret.txt", ListRow{}.Text());
+  ASSERT_TRUE(OpenToAll(QFile::encodeName(dir_.path()).constData()));
+  ASSERT_TRUE(QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadOther));
+  EXPECT_TRUE(HoldsWithoutRights([&] { return static_cast<bool>(OpenIntake(path)); }));
+  ASSERT_TRUE(QFile::setPermissions(path, QFile::Permissions()));
+  EXPECT_TRUE(HoldsWithoutRights([&] {
+    const auto intake = OpenIntake(path);
+    return !intake && intake.error().Message() == "secret.txt: Permission denied";
+  }));
 }
 
 TEST_F(IntakeTest, AFileThatChangesWhileItIsReadStopsTheImport) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "ImportTesting.h"
+#include "data/StationFile.h"
 
 namespace kestrel {
 namespace {
@@ -24,7 +25,8 @@ ListRow ListedWqaa() {
 std::string Summary(const TextImport& import, const std::string& call) {
   std::string text;
   for (const Station& station : import.stations)
-    if (station.callSign == call) text += station.hours + std::to_string(station.towers.size());
+    if (station.names.CallSign() == call)
+      text += station.hours + std::to_string(station.towers ? station.towers->size() : 0);
   return text;
 }
 
@@ -177,6 +179,32 @@ TEST(Merge, AStationEndedInALaterListIsGone) {
             "U1");
   EXPECT_EQ(ImportTexts({{"old", row("LIC")}, {"new", row("DEL")}}).Examples(Finding::Superseded),
             "old:1: QAAA 1230 U, off the air in a later list\n");
+}
+
+TEST(Merge, AChannelHoldsItsStrongestStations) {
+  auto texts = SampleTables(Order::A, false);
+  std::string list =
+      ListRow{.call = "QWEAK", .frequency = "550 kHz", .power = "0.5 kW", .facility = "1"}.Text();
+  for (int i = 2; i <= MaxRecords; ++i)
+    list += ListRow{.frequency = "550 kHz", .facility = std::to_string(i + 1'000'000)}.Text();
+  texts.emplace_back("amq.txt", list);
+  const TextImport full = ImportTexts(texts);
+  EXPECT_EQ(full.report.records, MaxRecords + 1) << "one of the tables is on another channel";
+  EXPECT_EQ(full.Examples(Finding::ChannelFull),
+            "am_ant_sys.dat:1: WQAA 550 D\nam_ant_sys.dat:2: WQAA 550 N\n");
+  ExpectCountsAddUp(full.report);
+
+  texts.back().second += ListRow{.call = "QMORE", .frequency = "550 kHz", .facility = "2"}.Text();
+  const TextImport over = ImportTexts(texts);
+  EXPECT_TRUE(over.Examples(Finding::ChannelFull).starts_with("amq.txt:1: QWEAK 550 U\n"))
+      << over.Examples(Finding::ChannelFull);
+  EXPECT_EQ(Summary(over, "QMORE"), "U1");
+  EXPECT_EQ(over.report.Files().back().taken, MaxRecords);
+  ExpectCountsAddUp(over.report);
+  StationFileReader reader("550x.dat", over.files.at("550x.dat"));
+  while (reader.Next()) {
+  }
+  EXPECT_TRUE(reader.Notes().empty()) << reader.Notes().front();
 }
 
 TEST(Merge, StationsOfOneCallSignAtDifferentPlacesStayApart) {

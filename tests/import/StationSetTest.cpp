@@ -5,6 +5,7 @@
 #include "ImportTesting.h"
 #include "core/Lines.h"
 #include "core/Numbers.h"
+#include "data/FileIo.h"
 #include "data/PlaceLists.h"
 #include "data/StationFile.h"
 #include "data/StationLineText.h"
@@ -47,6 +48,21 @@ TEST(StationLineText, WhatIsReadIsWrittenAgain) {
   while (const StationRecord* record = reader.Next()) again += StationRecordText(550, *record, changes);
   EXPECT_EQ(again, text);
   EXPECT_TRUE(reader.Notes().empty());
+}
+
+TEST(StationLineText, AFullStationFileIsReadWhole) {
+  StationRecord record;
+  record.CallSign = record.City = record.State = record.Country = std::string(200, 'W');
+  record.HoursCode = "U";
+  record.TowerCount = MaxTowers;
+  for (std::size_t i = 1; i <= static_cast<std::size_t>(MaxTowers); ++i) {
+    record.Switch[i] = "0";
+    record.Fields[i] = 999999.9F;
+    record.Heights[i] = record.Spacings[i] = 99999.99F;
+    record.Phases[i] = record.Bearings[i] = -359.1234F;
+  }
+  FieldChanges changes;
+  EXPECT_LT(StationRecordText(1700, record, changes).size() * MaxRecords, std::size_t{LargestDataFile});
 }
 
 TEST(StationSet, HoldsEveryChannelAndNothingElse) {

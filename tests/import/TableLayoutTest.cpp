@@ -87,9 +87,9 @@ TEST(TableLayout, TablesOfTheCurrentSystemGoByTheirHeader) {
       "Y|cd34|1|1.0|0|0|0|0|^|\nY|cd34|2|0.5|-90|90|45|0|^|\n";
   const TextImport import = ImportTexts({{"f", facility}, {"a", antenna}, {"t", tower}});
   ASSERT_EQ(import.stations.size(), 1U) << ReportText(import.report);
-  EXPECT_EQ(import.stations.front().city, "BRAVO");
-  ASSERT_EQ(import.stations.front().towers.size(), 2U);
-  EXPECT_EQ(import.stations.front().towers[1].bearing, 45);
+  EXPECT_EQ(import.stations.front().names.City(), "BRAVO");
+  ASSERT_EQ(import.stations.front().towers->size(), 2U);
+  EXPECT_EQ(import.stations.front().towers->at(1).bearing, 45);
   ExpectCountsAddUp(import.report);
 
   std::string without = tower;
