@@ -1,6 +1,6 @@
 #include "ByTheRules.h"
 
-#include <locale.h>
+#include <clocale>
 
 #include <algorithm>
 #include <cmath>
