@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdio>
 #include <random>
+#include <utility>
 
 #include "Rows.h"
 #include "Table.h"
@@ -39,7 +40,7 @@ StationRecord TwelveTowers() {
 /// The sweep rewrites its record, so both ways work on a copy.
 template <typename Compute>
 auto Sweeping(std::vector<StationRecord> records, Compute compute) {
-  return [records, compute] {
+  return [records = std::move(records), compute] {
     PatternValues values;
     for (const StationRecord& original : records) {
       StationRecord record = original;

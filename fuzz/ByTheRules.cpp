@@ -1,8 +1,7 @@
 #include "ByTheRules.h"
 
-#include <locale.h>
-
 #include <algorithm>
+#include <clocale>
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>

@@ -111,6 +111,35 @@ TEST(ImportCommandTest, ReportsImportsAndUndoes) {
   const Answer undone = folder.Run({"import", "--undo"});
   EXPECT_EQ(undone, (Answer{0, "The station files of before are back: none\n", ""}));
   EXPECT_EQ(folder.Read("620x.dat"), before);
+  folder.Run({"import", "amq"});
+  EXPECT_EQ(folder.Run({"import", "--undo", "--json"}),
+            (Answer{0, "{\n  \"undone\": true,\n  \"source\": \"\"\n}\n", ""}));
+}
+
+TEST(ImportCommandTest, JsonTellsWhatChangedAndHow) {
+  const Folder folder;
+  const std::string place = ", PLANO, TX, United States, U, 33.0198, 96.6989, ";
+  const std::string tower = "0,1,90,0,0,0\n";
+  folder.Write("620x.dat",
+               "620, KPOW" + place + "2.5,-,-, 1\n" + tower + "620, KTOW" + place + "1,-,-, 2\n" + tower +
+                   "0,1,90,90,90,0\n620, KMOV, PLANO, TX, United States, U, 34.0198, 96.6989, 1,-,-, 1\n" +
+                   tower);
+  folder.Write("630x.dat", "630, KOLD" + place + "1,-,-, 1\n" + tower);
+  std::string renamed = ListRow("KNEW", "US", "4");
+  renamed.replace(renamed.find("620"), 3, "630");
+  folder.Write(
+      "amq", ListRow("KPOW", "US", "1") + ListRow("KTOW", "US", "2") + ListRow("KMOV", "US", "3") + renamed);
+  const QJsonValue changes = Json(folder.Run({"import", "amq", "--dry-run", "--json"}))["changes"];
+  EXPECT_EQ(changes["power"][0]["call"].toString(), "KPOW");
+  EXPECT_EQ(changes["power"][0]["power_kw_before"].toDouble(), 2.5);
+  EXPECT_EQ(changes["power"][0]["power_kw"].toDouble(), 1);
+  EXPECT_EQ(changes["pattern"][0]["call"].toString(), "KTOW");
+  EXPECT_EQ(changes["pattern"][0]["towers_before"].toInt(), 2);
+  EXPECT_EQ(changes["pattern"][0]["towers"].toInt(), 1);
+  EXPECT_EQ(changes["moved"][0]["call"].toString(), "KMOV");
+  EXPECT_NEAR(changes["moved"][0]["distance_km"].toDouble(), 111.2, 0.5) << "a degree of latitude";
+  EXPECT_EQ(changes["call_sign"][0]["call"].toString(), "KNEW");
+  EXPECT_EQ(changes["call_sign"][0]["call_before"].toString(), "KOLD");
 }
 
 TEST(ImportCommandTest, WhatCannotBeImportedIsNamedAndChangesNothing) {

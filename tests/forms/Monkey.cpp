@@ -10,8 +10,10 @@
 #include <QHelpEvent>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QPrintDialog>
 #include <QPrinter>
 #include <QScreen>
+#include <QTabBar>
 #include <QTest>
 #include <QTimer>
 #include <QUrl>
@@ -52,8 +54,7 @@ const std::array kTexts = {"",
                            "abc",
                            "K\xc3\x96LN",
                            "a b'c\"d;",
-                           "qarr",
-                           "QARR"};
+                           "qarr"};
 
 struct KeyStroke {
   Qt::Key Key;
@@ -125,6 +126,10 @@ bool AButtonIsDown() {
   });
 }
 
+QString ButtonName(const QAbstractButton& button) {
+  return button.window()->objectName() + '/' + button.objectName();
+}
+
 std::string FccRow(const std::string& call, const std::string& frequency, const std::string& facility) {
   return "|" + call + "|" + frequency + "   kHz|AM ||UNL|Unlimited|B|B|LIC|PLANO|TX|US|BL-1|5.0    kW||||" +
          facility + "|N|33|1|11.28|W|96|41|56.04|OWNER, INC|0.0 km|0.0 mi|0.0 deg|1|0a|7|\n";
@@ -162,6 +167,8 @@ void Monkey::Step() {
   }
   if (!window) return;
   if (!AtWork()) return LeaveAll(*window);
+  if (auto* dialog = qobject_cast<QPrintDialog*>(window)) return AnswerPrintDialog(*dialog);
+  Watch(*window);
   ++done_;
   window->activateWindow();
   const int number = done_;
@@ -171,6 +178,31 @@ void Monkey::Step() {
 
 void Monkey::LeaveAll(QWidget& window) {
   window.close();
+}
+
+void Monkey::Watch(QWidget& window) {
+  const QString name = window.objectName();
+  if (!name.startsWith("frm") && name != "PrintPreview") return;
+  forms_.insert(name);
+  for (QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
+    if (button->window() != &window || button->objectName().isEmpty()) continue;
+    if (qobject_cast<QTabBar*>(button->parentWidget())) continue;  // Qt's own, to reach hidden tabs
+    presses_.try_emplace(ButtonName(*button), 0);
+    connect(button, &QAbstractButton::clicked, this, &Monkey::CountPress, Qt::UniqueConnection);
+  }
+}
+
+void Monkey::CountPress() {
+  ++presses_[ButtonName(*qobject_cast<QAbstractButton*>(sender()))];
+}
+
+/// The printers of the system and its files are no concern of the monkey's.
+void Monkey::AnswerPrintDialog(QPrintDialog& dialog) {
+  const bool prints = Below(3) != 0;
+  Say(prints ? "print" : "no print");
+  if (prints)
+    dialog.printer()->setOutputFileName(folder_.Path(Below(4) == 0 ? "no folder/page.pdf" : "page.pdf"));
+  static_cast<QDialog&>(dialog).done(prints ? QDialog::Accepted : QDialog::Rejected);
 }
 
 void Monkey::Act(QWidget& window) {
@@ -212,7 +244,9 @@ void Monkey::PasteText(QWidget& window) {
   QList<QLineEdit*> boxes = Usable<QLineEdit>(window);
   if (boxes.isEmpty()) return;
   QLineEdit* box = OneOf(boxes);
-  const QString text = Below(30) == 0 ? QString(20000, '9') : QString::fromUtf8(OneOf(kTexts));
+  // Often the call sign that is on every channel, which leads to further forms.
+  QString text = Below(4) == 0 ? "QARR" : OneOf(kTexts);
+  if (Below(30) == 0) text = QString(20000, '9');
   Say("paste " + window.objectName() + ' ' + box->objectName() + ' ' + text.left(40));
   box->setFocus();
   if (Below(4) != 0) box->selectAll();
@@ -324,14 +358,8 @@ void Monkey::ProcessEvents() {
   QApplication::processEvents();
 }
 
-std::optional<PrintOrder> Monkey::OfferPrinting(QWidget*, const PrintOffer& offer) {
-  if (Below(2) == 0) return std::nullopt;
-  auto printer = std::make_unique<QPrinter>();
-  printer->setOutputFileName(folder_.Path(Below(4) == 0 ? "no folder/page.pdf" : "page.pdf"));
-  PrintOrder order;
-  order.Device = std::make_unique<PrinterDevice>(std::move(printer));
-  order.OutlineMap = offer.Outlines && Below(2) == 0;
-  return order;
+std::optional<PrintOrder> Monkey::OfferPrinting(QWidget* parent, const PrintOffer& offer) {
+  return desktop_.OfferPrinting(parent, offer);
 }
 
 }  // namespace kestrel

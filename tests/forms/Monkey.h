@@ -3,10 +3,14 @@
 #include <QApplication>
 #include <QObject>
 #include <functional>
+#include <map>
 #include <random>
+#include <set>
 
 #include "forms/SampleFolder.h"
 #include "ui/Platform.h"
+
+class QPrintDialog;
 
 namespace kestrel {
 
@@ -24,12 +28,19 @@ class Monkey final : public QObject, public Platform {
   int Done() const { return done_; }
   bool AtWork() const { return done_ < commands_; }
 
+  /// Every form of the program that the walk worked in.
+  const std::set<QString>& Forms() const { return forms_; }
+
+  /// Every button of those forms, as "form/button", and how often it took effect.
+  const std::map<QString, int>& Presses() const { return presses_; }
+
   /// Called behind every thousandth command.
   std::function<void()> Thousand;
   /// Says every command on standard error.
   bool Speaks = false;
 
-  // The platform answers as the monkey likes; a message box is a real one, answered like any window.
+  // The platform answers as the monkey likes; message boxes and the print preview are real ones, used like
+  // any window.
   void ShowMessage(QWidget* parent, const QString& text) override;
   void Beep() override {}
   std::optional<ColorValue> ChooseColor(QWidget* parent, const QString& title, ColorValue current) override;
@@ -53,6 +64,9 @@ class Monkey final : public QObject, public Platform {
   void Step();
   void Act(QWidget& window);
   void LeaveAll(QWidget& window);
+  void Watch(QWidget& window);
+  void CountPress();
+  void AnswerPrintDialog(QPrintDialog& dialog);
 
   void ClickButton(QWidget& window);
   void PressKey(QWidget& window);
@@ -69,6 +83,8 @@ class Monkey final : public QObject, public Platform {
   int commands_;
   int done_ = 0;
   int roundsWithoutWindow_ = 0;
+  std::set<QString> forms_;
+  std::map<QString, int> presses_;
   const SampleFolder& folder_;
   std::vector<std::pair<QString, std::string>> whole_;  ///< the folder's files by name, undamaged
 };
