@@ -71,7 +71,6 @@ class Canvas {
   /// out too small to read, the whole piece grows away from the anchor. Panels do not nest.
   virtual void BeginPanel(Point anchor, const Font& smallest) = 0;
   virtual void EndPanel() = 0;
-
 };
 
 }  // namespace kestrel
