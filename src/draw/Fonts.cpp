@@ -16,8 +16,6 @@ FaceFamilies FamiliesOf(FontFace face) {
   switch (face) {
     case FontFace::Serif:
       return {{"DejaVu Serif", "Liberation Serif"}, QFont::Serif};
-    case FontFace::Fixed:
-      return {{"DejaVu Sans Mono", "Liberation Mono", "Courier"}, QFont::Monospace};
     case FontFace::Sans:
     case FontFace::SansBold:
       break;

@@ -108,8 +108,4 @@ void PainterCanvas::EndPanel() {
   fontStale_ = true;
 }
 
-void PainterCanvas::Clear() {
-  painter_.fillRect(view_.Area(), Qt::white);
-}
-
 }  // namespace kestrel

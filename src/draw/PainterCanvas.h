@@ -31,7 +31,6 @@ class PainterCanvas final : public Canvas {
   void EndStation() override {}
   void BeginPanel(Point anchor, const Font& smallest) override;
   void EndPanel() override;
-  void Clear() override;
 
  private:
   void UsePen();

@@ -141,9 +141,4 @@ void RasterCanvas::EndPanel() {
   inPanel_ = false;
 }
 
-void RasterCanvas::Clear() {
-  LayInk();
-  image_.fill(Qt::white);
-}
-
 }  // namespace kestrel

@@ -38,7 +38,6 @@ class RasterCanvas final : public Canvas {
   void EndStation() override {}
   void BeginPanel(Point anchor, const Font& smallest) override;
   void EndPanel() override;
-  void Clear() override;
 
  private:
   /// A font as it comes out on this surface, inside or outside the present panel.

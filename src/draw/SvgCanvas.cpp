@@ -21,8 +21,6 @@ QString GenericFamily(FontFace face) {
   switch (face) {
     case FontFace::Serif:
       return "DejaVu Serif, serif";
-    case FontFace::Fixed:
-      return "DejaVu Sans Mono, monospace";
     default:
       return "DejaVu Sans, sans-serif";
   }
@@ -195,7 +193,5 @@ void SvgCanvas::EndStation() {
   groupOpen_ = false;
   pending_.reset();
 }
-
-void SvgCanvas::Clear() {}
 
 }  // namespace kestrel

@@ -39,7 +39,6 @@ class SvgCanvas final : public Canvas {
   void EndStation() override;
   void BeginPanel(Point anchor, const Font& smallest) override { view_.BeginPanel(anchor, smallest); }
   void EndPanel() override { view_.EndPanel(); }
-  void Clear() override;
 
  private:
   void Begin(const QString& element);

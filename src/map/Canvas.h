@@ -15,7 +15,7 @@ struct Point {
   bool operator==(const Point&) const = default;
 };
 
-enum class FontFace { Sans, SansBold, Serif, Fixed };
+enum class FontFace { Sans, SansBold, Serif };
 
 /// A face and its size in points of the sheet (20 twips to the point).
 struct Font {
@@ -71,9 +71,6 @@ class Canvas {
   /// out too small to read, the whole piece grows away from the anchor. Panels do not nest.
   virtual void BeginPanel(Point anchor, const Font& smallest) = 0;
   virtual void EndPanel() = 0;
-
-  /// Discards what has been drawn.
-  virtual void Clear() = 0;
 };
 
 }  // namespace kestrel

@@ -33,7 +33,9 @@ class DisplayList final : public Canvas {
   void EndStation() override;
   void BeginPanel(Point anchor, const Font& smallest) override;
   void EndPanel() override;
-  void Clear() override;
+
+  /// Discards what has been drawn.
+  void Clear();
 
   bool IsEmpty() const { return commands_.empty(); }
 

@@ -38,7 +38,6 @@ class RecoloredCanvas final : public Canvas {
   void EndStation() override { canvas_.EndStation(); }
   void BeginPanel(Point anchor, const Font& smallest) override { canvas_.BeginPanel(anchor, smallest); }
   void EndPanel() override { canvas_.EndPanel(); }
-  void Clear() override { canvas_.Clear(); }
 
  private:
   Canvas& canvas_;

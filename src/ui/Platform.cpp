@@ -23,18 +23,6 @@ constexpr int kTitleCharacters = 36;  // with the buttons of the window's frame
 
 }  // namespace
 
-QStringList Platform::ChooseFiles(QWidget*, const QString&) {
-  return {};
-}
-
-QString Platform::ChooseFileToWrite(QWidget*, const QString&, const QString&) {
-  return {};
-}
-
-std::optional<PrintOrder> Platform::OfferPrinting(QWidget*, const PrintOffer&) {
-  return std::nullopt;
-}
-
 void DesktopPlatform::ShowMessage(QWidget* parent, const QString& text) {
   QMessageBox box(QMessageBox::NoIcon, "KestrelII", text, QMessageBox::Ok, parent);
   box.setTextFormat(Qt::PlainText);

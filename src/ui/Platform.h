@@ -25,12 +25,11 @@ class Platform {
   virtual std::optional<ColorValue> ChooseColor(QWidget* parent, const QString& title,
                                                 ColorValue current) = 0;
 
-  /// The platform's dialog for choosing files; none when it is cancelled, and on a platform that has none.
-  virtual QStringList ChooseFiles(QWidget* parent, const QString& title);
+  /// The platform's dialog for choosing files; none when it is cancelled.
+  virtual QStringList ChooseFiles(QWidget* parent, const QString& title) = 0;
 
-  /// The platform's dialog for the name of a file to write; empty when it is cancelled, and on a platform
-  /// that has none.
-  virtual QString ChooseFileToWrite(QWidget* parent, const QString& title, const QString& offered);
+  /// The platform's dialog for the name of a file to write; empty when it is cancelled.
+  virtual QString ChooseFileToWrite(QWidget* parent, const QString& title, const QString& offered) = 0;
 
   /// Lets the platform open a web address; what an address cannot hold is encoded, the rest goes as it
   /// stands. Failures are silent.
@@ -45,9 +44,8 @@ class Platform {
   /// Lets pending events be processed once.
   virtual void ProcessEvents() = 0;
 
-  /// Lets the user look at what would be printed and choose printer and paper. Nothing when it is cancelled,
-  /// and on a platform that does not print.
-  virtual std::optional<PrintOrder> OfferPrinting(QWidget* parent, const PrintOffer& offer);
+  /// Lets the user look at what would be printed and choose printer and paper. Nothing when it is cancelled.
+  virtual std::optional<PrintOrder> OfferPrinting(QWidget* parent, const PrintOffer& offer) = 0;
 };
 
 /// The platform that the program runs on.

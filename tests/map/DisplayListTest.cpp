@@ -25,7 +25,7 @@ void DrawSomething(Canvas& canvas) {
   canvas.SetColor(-1);
   canvas.Circle({11, 12}, 50);
   canvas.FilledCircle({13, 14}, 30);
-  canvas.BeginPanel({15, 16}, {FontFace::Fixed, 9});
+  canvas.BeginPanel({15, 16}, {FontFace::SansBold, 9});
   canvas.Box({17, 18}, {19, 20});
   canvas.FilledBox({21, 22}, {23, 24});
   canvas.Text({0, 0}, "");

@@ -91,7 +91,7 @@ class RecordingCanvas final : public Canvas {
     Add("Panel", {anchor}, 0, std::to_string(static_cast<int>(smallest.Points)));
   }
   void EndPanel() override { Add("EndPanel", {}); }
-  void Clear() override { List.clear(); }
+  void Clear() { List.clear(); }
 
  private:
   void Add(std::string verb, std::vector<Point> points, float radius = 0, std::string text = {}) {
