@@ -1,5 +1,6 @@
 #include "straight/Reading.h"
 
+#include <clocale>
 #include <cmath>
 #include <cstdlib>
 
@@ -25,8 +26,14 @@ std::string CutField(std::string& line, char separator) {
   return field;
 }
 
+/// strtod with a decimal point whatever the system's locale.
+double ToDouble(const char* text, char** end = nullptr) {
+  static const locale_t plain = newlocale(LC_ALL_MASK, "C", nullptr);
+  return strtod_l(text, end, plain);
+}
+
 float Number(const std::string& text) {
-  return static_cast<float>(std::strtod(text.c_str(), nullptr));
+  return static_cast<float>(ToDouble(text.c_str()));
 }
 
 void CutCarriageReturn(std::string& line) {
@@ -44,10 +51,10 @@ Outline ReadOutline(const std::string& path) {
     line = Trimmed(line);
     if (line.empty()) continue;
     char* next = nullptr;
-    const double first = std::strtod(line.c_str(), &next);
+    const double first = ToDouble(line.c_str(), &next);
     if (first == -2000) break;
     const auto latitude = static_cast<float>(first);
-    const auto longitude = static_cast<float>(std::strtod(next, nullptr));
+    const auto longitude = static_cast<float>(ToDouble(next));
     if (latitude == -100 && longitude == -100) {
       outline.PenUpBefore.push_back(outline.Latitude.size());
     } else {
