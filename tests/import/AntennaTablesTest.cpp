@@ -192,19 +192,20 @@ TEST(AntennaTables, NumbersAreTakenUpToTheirLimits) {
       {"am_towers", tower, "tower_num", {"1", "1000"}, {"0", "-0", "1001"}},
       {"facility", "fac_service=AM ", "facility_id", {"1", "4294967295"}, {"0", "-0", "4294967296", "1.5"}},
   };
-  for (const auto& [table, row, column, taken, leftOut] : cases) {
+  for (const auto& of : cases) {
     const auto badFields = [&](const std::string& value) {
       auto texts = SampleTables(Order::A, true);
-      texts.emplace_back("more", TableText{table, Order::A, true, {row + column + '=' + value}}.Text());
+      texts.emplace_back("more",
+                         TableText{of.table, Order::A, true, {of.row + of.column + '=' + value}}.Text());
       const TextImport import = ImportTexts(texts);
       ExpectCountsAddUp(import.report);
       return import.report.Of(Finding::BadField).rows;
     };
-    for (const std::string& value : taken) EXPECT_EQ(badFields(value), 0) << column << ' ' << value;
-    for (const std::string& value : leftOut) EXPECT_EQ(badFields(value), 1) << column << ' ' << value;
+    for (const std::string& value : of.taken) EXPECT_EQ(badFields(value), 0) << of.column << ' ' << value;
+    for (const std::string& value : of.leftOut) EXPECT_EQ(badFields(value), 1) << of.column << ' ' << value;
     for (const char* value : {"inf", "-inf", "nan", "1e400", "-1e400"})
-      EXPECT_EQ(badFields(value), 1) << column << ' ' << value;
-    EXPECT_EQ(badFields(std::string(400, '9')), 1) << column;
+      EXPECT_EQ(badFields(value), 1) << of.column << ' ' << value;
+    EXPECT_EQ(badFields(std::string(400, '9')), 1) << of.column;
   }
 }
 
