@@ -53,8 +53,7 @@ void InkMask::Touch(int left, int top, int right, int bottom) {
   for (int word = firstWord; word <= lastWord; ++word) {
     const std::uint64_t eights = EightsFromTo(word == firstWord ? left % kPixelsOfWord / 8 : 0,
                                               word == lastWord ? right % kPixelsOfWord / 8 : 63);
-    for (int row = top; row <= bottom; ++row)
-      touched_[static_cast<std::size_t>(row * words_ + word)] |= eights;
+    for (int row = top; row <= bottom; ++row) Touched(row, word) |= eights;
   }
   firstTouched_ = std::min(firstTouched_, top);
   lastTouched_ = std::max(lastTouched_, bottom);
@@ -112,6 +111,7 @@ void InkMask::AddSegment(Point from, Point to, float width) {
         const float left = std::max(begin, static_cast<float>(column));
         const float right = std::min(end, static_cast<float>(column + 1));
         edge = edgeAt((left + right) / 2);
+        // NOLINTNEXTLINE(bugprone-incorrect-roundings): never negative, and run for both ends of every line.
         share = static_cast<int>((right - left) * 256 + 0.5F);
       }
       const int row = static_cast<int>(edge >> kFixedBits);
@@ -179,15 +179,15 @@ void InkMask::Lay(QRgb color, QImage& image) {
     const bool shown = row >= kBorder && row < kBorder + height_;
     QRgb* const line = shown ? pixels + (row - kBorder) * pixelsPerRow : nullptr;
     for (int word = 0; word < words_; ++word)
-      if (const auto eights = std::exchange(touched_[static_cast<std::size_t>(row * words_ + word)], 0))
-        LayWord(color, row, word, eights, line);
+      if (const auto eights = std::exchange(Touched(row, word), 0)) LayWord(color, row, word, eights, line);
   }
   firstTouched_ = rows_;
   lastTouched_ = -1;
 }
 
 void InkMask::LayWord(QRgb color, int row, int word, std::uint64_t eights, QRgb* line) {
-  std::uint8_t* const ink = ink_.data() + row * std::ptrdiff_t{stride_} + word * kPixelsOfWord;
+  std::uint8_t* const ink =
+      ink_.data() + row * std::ptrdiff_t{stride_} + word * std::ptrdiff_t{kPixelsOfWord};
   const int left = word * kPixelsOfWord - kBorder;  // the first pixel's place in the picture
   const int firstWhole = word == 0 ? kBorder / 8 : 0;
   const int wholes = std::min((width_ - left) / 8, 64) - firstWhole;

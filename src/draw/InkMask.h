@@ -39,6 +39,11 @@ class InkMask {
  private:
   /// Inks a line of a width, both ends in pixels from the border's corner.
   void AddSegment(Point from, Point to, float width);
+  /// The marks of a word of a row.
+  std::uint64_t& Touched(int row, int word) {
+    return touched_[static_cast<std::size_t>(row) * static_cast<std::size_t>(words_) +
+                    static_cast<std::size_t>(word)];
+  }
   /// Notes that there may be ink in a rectangle of the mask, its last column and row included.
   void Touch(int left, int top, int right, int bottom);
   /// Lays the eights of a word on their line of the picture; only clears them where there is none.

@@ -33,7 +33,7 @@ constexpr Eight kShifts = kLittle ? Eight{0, 8, 16, 24, 0, 8, 16, 24} : Eight{24
 
 KESTREL_CLONES void MixRows(QRgb color, const InkRows& ink, const PixelRows& pixels, int eights, int rows) {
   for (int row = 0; row < rows; ++row)
-    for (int i = 0; i < eights; ++i)
+    for (std::ptrdiff_t i = 0; i < eights; ++i)
       MixEight(color, ink.ink + row * ink.step + 8 * i, pixels.pixels + row * pixels.step + 8 * i);
 }
 

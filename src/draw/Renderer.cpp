@@ -14,8 +14,8 @@ namespace kestrel {
 namespace {
 
 constexpr int kMostProcessors = 4;
-constexpr std::size_t kLittleToDraw = 100;       // figures, quicker drawn than handed out
-constexpr qsizetype kLittleToShow = 500 * 1000;  // pixels, likewise
+constexpr std::size_t kLittleToDraw = 100;    // figures, quicker drawn than handed out
+constexpr qsizetype kLittleToShow = 500'000;  // pixels, likewise
 
 int StripsFor(const QImage& image, std::size_t figures, int processors) {
   const bool little = figures < kLittleToDraw || qsizetype{image.width()} * image.height() < kLittleToShow;

@@ -137,7 +137,7 @@ void ReadApplication(TableRow& row, std::unordered_map<std::string, ApplicationR
   if (!service.empty() && service != "AM")
     return row.LeaveOut(Finding::OtherService, "service \"" + std::string(service) + '"');
   if (row.Faulty()) return;
-  Keep(map, std::move(id), std::move(application), report);
+  Keep(map, std::move(id), application, report);
 }
 
 void ReadFacility(TableRow& row, AntennaTables& tables, ImportReport& report) {

@@ -39,7 +39,7 @@ struct PlacedOutline {
 /// Where to cut a file in two that are drawn as the whole is; its end when it is short, or so long that it
 /// may have more than MaxVertices, whose lines have two characters at least.
 std::size_t WhereToCut(std::string_view bytes) {
-  constexpr std::size_t kShort = 256 * 1024;
+  constexpr std::size_t kShort = 262'144;
   const bool cuts = bytes.size() > kShort && bytes.size() <= 2 * MaxVertices;
   return cuts ? FindPenUp(bytes, bytes.size() / 2) : bytes.size();
 }

@@ -68,7 +68,7 @@ TEST(LevelsTest, MixingGivesTheColorsOfTheFormula) {
     std::vector<std::uint8_t> row(ink.begin(), ink.begin() + 512);
     pixels = below;
     level.Lay(color, row.data(), pixels.data(), kLaid);
-    for (std::size_t i = 0; i < row.size(); ++i) {
+    for (std::size_t i = 0; i < 8 * 64; ++i) {
       const bool laid = kLaid >> i / 8 & 1;
       EXPECT_EQ(pixels[i], laid ? Mixed(color, below[i], ink[i]) : below[i]) << level.Name << ' ' << i;
       EXPECT_EQ(row[i], laid ? 0 : ink[i]) << level.Name << ' ' << i;
