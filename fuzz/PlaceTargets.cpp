@@ -57,6 +57,18 @@ void UsePlace(const Place& place) {
   Hold(town.size() + state.size() <= place.Name.size(), "a name is cut, not made");
 }
 
+/// Both parts of an outline, cut before a pen-up mark, one behind the other.
+Outline InTwoParts(std::string_view bytes) {
+  const std::size_t cut = FindPenUp(bytes, bytes.size() / 2);
+  Outline whole = ReadOutline(bytes.substr(0, cut));
+  if (whole.Ended) return whole;
+  const Outline back = ReadOutline(bytes.substr(cut));
+  for (const std::size_t penUp : back.PenUpBefore) whole.PenUpBefore.push_back(whole.Latitude.size() + penUp);
+  whole.Latitude.insert(whole.Latitude.end(), back.Latitude.begin(), back.Latitude.end());
+  whole.Longitude.insert(whole.Longitude.end(), back.Longitude.begin(), back.Longitude.end());
+  return whole;
+}
+
 }  // namespace
 
 bool OutlineFile(std::string_view bytes) {
@@ -71,6 +83,11 @@ bool OutlineFile(std::string_view bytes) {
       HoldFinite(outline.Longitude[i]);
     }
   }
+  const Outline whole = ReadOutline(bytes);
+  const Outline parts = InTwoParts(bytes);
+  Hold(whole.Latitude == parts.Latitude && whole.Longitude == parts.Longitude &&
+           whole.PenUpBefore == parts.PenUpBefore,
+       "an outline in two parts is the whole");
   return true;
 }
 

@@ -118,7 +118,7 @@ QString StationFileName(float frequency) {
 Result<Done> LoadPlaceLists(const DataFolder& folder, SessionState& state) {
   const auto load = [&](const QString& name, std::size_t most,
                         std::vector<std::string>& list) -> Result<Done> {
-    list.clear();
+    list = {};  // its memory, too, before the new one's
     const Result<QByteArray> bytes = folder.Read(name);
     if (!bytes) return bytes.error();
     auto entries = ReadPlaceList({bytes->constData(), static_cast<std::size_t>(bytes->size())}, most);

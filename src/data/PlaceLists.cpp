@@ -11,6 +11,7 @@ namespace kestrel {
 
 std::optional<std::vector<std::string>> ReadPlaceList(std::string_view bytes, std::size_t most) {
   std::vector<std::string> entries;
+  entries.reserve(std::min(most, static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n')) + 1));
   LineReader lines(bytes);
   while (const auto line = lines.Next()) {
     if (line->empty()) continue;

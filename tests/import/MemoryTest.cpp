@@ -11,6 +11,11 @@
 #include "import/Import.h"
 
 // The address sanitizer counts the memory; a build without it has no such test.
+#if !defined(__SANITIZE_ADDRESS__) && defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define __SANITIZE_ADDRESS__  // as GCC does
+#endif
+#endif
 #ifdef __SANITIZE_ADDRESS__
 
 extern "C" {
