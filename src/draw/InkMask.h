@@ -14,7 +14,12 @@ namespace kestrel {
 /// A line covers, in each column that it crosses (in each row, when it is steep), its width of that column,
 /// spread over the pixels that it touches, and as much of its first and last column as it reaches into. Where
 /// lines meet their shares add up to the whole pixel and no further, so joints have neither gaps nor dark
-/// points, and a polyline gives the same ink whole or in pieces.
+/// points, and a polyline gives the same ink whole or in pieces. In 256ths: with the lower edge at e in the
+/// middle of the column, the line w wide and a share s of the column reached, pixel k is given
+///
+///     s / 256 * |[k, k + 1] in common with [e, e + w]|
+///
+/// which the code takes from the pixel of the edge on, each the room that it has of what is left of w.
 ///
 /// Lines touch few of a picture's pixels: the mask knows in which eights of each row there may be ink, and
 /// nothing else is looked at when the colour is laid.

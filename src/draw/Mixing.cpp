@@ -13,7 +13,7 @@ using Eight [[gnu::vector_size(32)]] = std::uint32_t;
 constexpr bool kLittle = std::endian::native == std::endian::little;
 constexpr Eight kShifts = kLittle ? Eight{0, 8, 16, 24, 0, 8, 16, 24} : Eight{24, 16, 8, 0, 24, 16, 8, 0};
 
-/// Draws eight pixels towards a colour by their shares of ink.
+/// Mixed, step by step, for eight pixels. One without ink keeps its colour: all 256 parts are its own.
 [[gnu::always_inline]] inline void MixEight(QRgb color, const std::uint8_t* shares, QRgb* below) {
   std::uint32_t four[2];
   std::memcpy(four, shares, sizeof four);

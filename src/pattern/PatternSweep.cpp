@@ -79,6 +79,8 @@ bool SweepPattern(const SweepTower* towers, int count, float* magnitudes) {
     AddTower(towers[i], std::sin(towers[i].Bearing), std::cos(towers[i].Bearing), azimuths, sums);
     fields += std::abs(towers[i].Field);
   }
+  // Each tower's sine and cosine are within 1.5e-14, so the sum is within sqrt(2) of that; the straight way's
+  // own last bits and the sum's add less than as much again.
   return StoreMagnitudes(sums, 5e-14 * fields, magnitudes);
 }
 
