@@ -40,8 +40,8 @@ void AddOutlineReaderRow() {
       "reading REGION2.dat", "getline and strtod", {7, 0},
       [folder] {
         const auto bytes = DataFolder(QString::fromStdString(folder)).Read("REGION2.dat");
-        const Outline outline = ReadOutline(View(*bytes));
-        Keep(&outline);
+        OutlineReader reader(View(*bytes));
+        while (const Outline* const piece = reader.Next()) Keep(piece);
       },
       [folder] {
         const Outline outline = straight::ReadOutline(folder + "/REGION2.dat");

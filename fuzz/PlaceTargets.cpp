@@ -4,6 +4,7 @@
 
 #include "ByTheRules.h"
 #include "Targets.h"
+#include "WholeOutline.h"
 #include "core/Text.h"
 #include "data/OutlineFile.h"
 #include "data/PlaceLists.h"
@@ -60,12 +61,12 @@ void UsePlace(const Place& place) {
 /// Both parts of an outline, cut before a pen-up mark, one behind the other.
 Outline InTwoParts(std::string_view bytes) {
   const std::size_t cut = FindPenUp(bytes, bytes.size() / 2);
-  Outline whole = ReadOutline(bytes.substr(0, cut));
-  if (whole.Ended) return whole;
-  const Outline back = ReadOutline(bytes.substr(cut));
-  for (const std::size_t penUp : back.PenUpBefore) whole.PenUpBefore.push_back(whole.Latitude.size() + penUp);
-  whole.Latitude.insert(whole.Latitude.end(), back.Latitude.begin(), back.Latitude.end());
-  whole.Longitude.insert(whole.Longitude.end(), back.Longitude.begin(), back.Longitude.end());
+  Outline whole;
+  for (const std::string_view part : {bytes.substr(0, cut), bytes.substr(cut)}) {
+    OutlineReader reader(part);
+    while (const Outline* const piece = reader.Next()) Append(*piece, whole);
+    if (reader.Ended()) break;
+  }
   return whole;
 }
 
@@ -73,7 +74,7 @@ Outline InTwoParts(std::string_view bytes) {
 
 bool OutlineFile(std::string_view bytes) {
   for (const CommentLines comments : {CommentLines::Read, CommentLines::Skip}) {
-    const Outline outline = ReadOutline(bytes, comments);
+    const Outline outline = WholeOutline(bytes, comments);
     const Outline wanted = OutlineByTheRules(bytes, comments);
     Hold(outline.Latitude == wanted.Latitude && outline.Longitude == wanted.Longitude &&
              outline.PenUpBefore == wanted.PenUpBefore,
@@ -83,7 +84,7 @@ bool OutlineFile(std::string_view bytes) {
       HoldFinite(outline.Longitude[i]);
     }
   }
-  const Outline whole = ReadOutline(bytes);
+  const Outline whole = WholeOutline(bytes);
   const Outline parts = InTwoParts(bytes);
   Hold(whole.Latitude == parts.Latitude && whole.Longitude == parts.Longitude &&
            whole.PenUpBefore == parts.PenUpBefore,

@@ -1,6 +1,7 @@
 #include "data/OutlineFile.h"
 
-#include "core/Lines.h"
+#include <algorithm>
+
 #include "core/Numbers.h"
 #include "core/PlainNumber.h"
 #include "core/Text.h"
@@ -9,6 +10,7 @@
 namespace kestrel {
 namespace {
 
+constexpr std::size_t kPiece = 2048;
 constexpr double kEndMark = -2000;
 constexpr float kPenUp = -100;
 constexpr std::string_view kCommentSigns = "><!*'/\\";
@@ -30,51 +32,52 @@ std::size_t ReadPlainVertex(std::string_view bytes, Vertex& vertex) {
   return *at == '\n' ? static_cast<std::size_t>(at + 1 - bytes.data()) : 0;
 }
 
-inline void Add(Outline& outline, const Vertex& vertex) {
-  const auto latitude = static_cast<float>(vertex.Latitude);
-  const auto longitude = static_cast<float>(vertex.Longitude);
-  if (latitude == kPenUp && longitude == kPenUp) {
-    outline.PenUpBefore.push_back(outline.Latitude.size());
-  } else {
-    outline.Latitude.push_back(latitude);
-    outline.Longitude.push_back(longitude);
-  }
-}
-
-/// Reads one line of any form. Returns whether it is the end mark.
-bool ReadAnyLine(std::string_view text, CommentLines comments, Outline& outline) {
-  std::string_view line = Trim(text);
-  if (line.empty()) return false;
-  if (comments == CommentLines::Skip && kCommentSigns.find(line.front()) != std::string_view::npos)
-    return false;
-  if (LeadingNumber(line) == kEndMark) return true;
-  const double latitude = LeadingNumber(NextBlankField(line).value_or(""));
-  Add(outline, {latitude, LeadingNumber(NextBlankField(line).value_or(""))});
-  return false;
-}
-
 }  // namespace
 
-Outline ReadOutline(std::string_view bytes, CommentLines comments) {
-  constexpr std::size_t kUsualLine = 16;
-  Outline outline;
-  outline.Latitude.reserve(bytes.size() / kUsualLine);
-  outline.Longitude.reserve(bytes.size() / kUsualLine);
-  LineReader lines(bytes);
+OutlineReader::OutlineReader(std::string_view bytes, CommentLines comments)
+    : lines_(bytes), comments_(comments) {}
+
+const Outline* OutlineReader::Next() {
+  piece_.Latitude.clear();
+  piece_.Longitude.clear();
+  piece_.PenUpBefore.clear();
+  const std::size_t begin = count_;
+  const std::size_t end = std::min(begin + kPiece, MaxVertices);
   Vertex vertex;
-  while (outline.Latitude.size() + outline.PenUpBefore.size() < MaxVertices) {
-    if (const std::size_t length = ReadPlainVertex(lines.Rest(), vertex)) {
-      outline.Ended = vertex.Latitude == kEndMark;
-      if (outline.Ended) break;
-      Add(outline, vertex);
-      lines.SkipLine(length);
+  while (count_ < end && !ended_) {
+    if (const std::size_t length = ReadPlainVertex(lines_.Rest(), vertex)) {
+      ended_ = vertex.Latitude == kEndMark;
+      if (!ended_) Add(vertex.Latitude, vertex.Longitude);
+      lines_.SkipLine(length);
+    } else if (const auto line = lines_.Next()) {
+      ReadAnyLine(*line);
     } else {
-      const auto line = lines.Next();
-      outline.Ended = line && ReadAnyLine(*line, comments, outline);
-      if (!line || outline.Ended) break;
+      break;
     }
   }
-  return outline;
+  return count_ > begin ? &piece_ : nullptr;
+}
+
+inline void OutlineReader::Add(double latitude, double longitude) {
+  const auto north = static_cast<float>(latitude);
+  const auto east = static_cast<float>(longitude);
+  ++count_;
+  if (north == kPenUp && east == kPenUp) {
+    piece_.PenUpBefore.push_back(piece_.Latitude.size());
+  } else {
+    piece_.Latitude.push_back(north);
+    piece_.Longitude.push_back(east);
+  }
+}
+
+void OutlineReader::ReadAnyLine(std::string_view text) {
+  std::string_view line = Trim(text);
+  if (line.empty()) return;
+  if (comments_ == CommentLines::Skip && kCommentSigns.find(line.front()) != std::string_view::npos) return;
+  ended_ = LeadingNumber(line) == kEndMark;
+  if (ended_) return;
+  const double latitude = LeadingNumber(NextBlankField(line).value_or(""));
+  Add(latitude, LeadingNumber(NextBlankField(line).value_or("")));
 }
 
 std::size_t FindPenUp(std::string_view bytes, std::size_t from) {

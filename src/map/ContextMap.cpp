@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "data/OutlineFile.h"
@@ -35,24 +36,29 @@ bool IsVisible(Point point) {
          point.x <= kFrameOpposite.x;
 }
 
-void DrawOutlineAround(Canvas& canvas, const Outline& outline, const MapProjection& projection) {
-  std::vector<Point> points(outline.Latitude.size());
-  projection.Vertices(outline.Latitude, outline.Longitude, points);
+void DrawOutlineAround(Canvas& canvas, std::string_view bytes, const MapProjection& projection) {
+  OutlineReader reader(bytes);
+  std::vector<Point> points;
   std::vector<Point> stroke;
   const auto endStroke = [&] {
     if (stroke.size() > 1) canvas.Polyline(stroke);
     stroke.clear();
   };
-  auto penUp = outline.PenUpBefore.begin();
-  for (std::size_t i = 0; i < points.size(); ++i) {
-    const Point at = {points[i].x - HomeOnSheet.x + kCenter.x, points[i].y - HomeOnSheet.y + kCenter.y};
-    bool lifted = false;
-    for (; penUp != outline.PenUpBefore.end() && *penUp <= i; ++penUp) lifted = true;
-    const bool visible = IsVisible(at);
-    if (lifted || !visible || stroke.empty() || std::abs(at.x - stroke.back().x) > kLongestStepX ||
-        std::abs(at.y - stroke.back().y) > kLongestStepY)
-      endStroke();
-    if (visible) stroke.push_back(at);
+  while (const Outline* const piece = reader.Next()) {
+    points.resize(piece->Latitude.size());
+    projection.Vertices(piece->Latitude, piece->Longitude, points);
+    auto penUp = piece->PenUpBefore.begin();
+    for (std::size_t i = 0; i < points.size(); ++i) {
+      const Point at = {points[i].x - HomeOnSheet.x + kCenter.x, points[i].y - HomeOnSheet.y + kCenter.y};
+      bool lifted = false;
+      for (; penUp != piece->PenUpBefore.end() && *penUp <= i; ++penUp) lifted = true;
+      const bool visible = IsVisible(at);
+      if (lifted || !visible || stroke.empty() || std::abs(at.x - stroke.back().x) > kLongestStepX ||
+          std::abs(at.y - stroke.back().y) > kLongestStepY)
+        endStroke();
+      if (visible) stroke.push_back(at);
+    }
+    if (penUp != piece->PenUpBefore.end()) endStroke();
   }
   endStroke();
 }
@@ -109,8 +115,7 @@ void DrawContextMap(Canvas& canvas, const DataFolder& folder, float latitude, fl
       continue;
     }
     canvas.SetColor(kBlack);
-    DrawOutlineAround(canvas, ReadOutline({bytes->constData(), static_cast<std::size_t>(bytes->size())}),
-                      projection);
+    DrawOutlineAround(canvas, {bytes->constData(), static_cast<std::size_t>(bytes->size())}, projection);
   }
   DrawStationMark(canvas);
   DrawMasks(canvas);

@@ -3,6 +3,7 @@
 #include <array>
 #include <cmath>
 #include <future>
+#include <optional>
 #include <vector>
 
 namespace kestrel {
@@ -11,6 +12,7 @@ namespace {
 constexpr ColorValue kHomeColor = 255;
 constexpr float kLongestStep = 2000;  // twips, in x or in y
 constexpr float kHomeRadius = 50;
+constexpr std::size_t kLongStroke = 4096;  // vertices; no coast of the data given has as many
 
 bool IsLongStep(Point from, Point to) {
   // Written so that a step to nowhere (NaN) is a long one.
@@ -25,16 +27,40 @@ void DrawHomeMark(Canvas& canvas) {
   canvas.Line({x, y - kHomeRadius}, {x, y + kHomeRadius});
 }
 
-std::vector<Point> Places(const Outline& outline, const MapProjection& projection) {
-  std::vector<Point> points(outline.Latitude.size());
-  projection.Vertices(outline.Latitude, outline.Longitude, points);
-  return points;
-}
+/// Strokes to be drawn later.
+class KeptStrokes {
+ public:
+  void Keep(std::span<const Point> stroke) {
+    points_.insert(points_.end(), stroke.begin(), stroke.end());
+    ends_.push_back(points_.size());
+  }
 
-struct PlacedOutline {
-  Outline Vertices;
-  std::vector<Point> Points;
+  void Draw(Canvas& canvas) const {
+    std::size_t begin = 0;
+    for (const std::size_t end : ends_) {
+      canvas.Polyline(std::span(points_).subspan(begin, end - begin));
+      begin = end;
+    }
+  }
+
+ private:
+  std::vector<Point> points_;
+  std::vector<std::size_t> ends_;
 };
+
+/// Returns whether the end mark was met.
+bool JoinOutline(std::string_view bytes, const MapProjection& projection, VertexJoiner::DrawStroke draw) {
+  OutlineReader reader(bytes);
+  VertexJoiner joiner(std::move(draw));
+  std::vector<Point> points;
+  while (const Outline* const piece = reader.Next()) {
+    points.resize(piece->Latitude.size());
+    projection.Vertices(piece->Latitude, piece->Longitude, points);
+    joiner.Add(*piece, points);
+  }
+  joiner.End();
+  return reader.Ended();
+}
 
 /// Where to cut a file in two that are drawn as the whole is; its end when it is short, or so long that it
 /// may have more than MaxVertices, whose lines have two characters at least.
@@ -57,43 +83,58 @@ void DrawFile(Canvas& canvas, const DataFolder& folder, const QString& name, Col
 
 }  // namespace
 
-void DrawOutline(Canvas& canvas, const Outline& outline, const MapProjection& projection) {
-  std::vector<Point> points = Places(outline, projection);
-  JoinVertices(canvas, outline, points);
+void VertexJoiner::EndStroke(std::span<const Point> rest) {
+  if (begun_.empty()) {
+    if (rest.size() > 1) draw_(rest);
+    return;
+  }
+  begun_.insert(begun_.end(), rest.begin(), rest.end());
+  if (begun_.size() > 1) draw_(begun_);
+  begun_.clear();
 }
 
-void DrawOutline(Canvas& canvas, std::string_view bytes, const MapProjection& projection) {
-  const std::size_t cut = WhereToCut(bytes);
-  const auto read = [&projection](std::string_view part) {
-    PlacedOutline placed{ReadOutline(part), {}};
-    placed.Points = Places(placed.Vertices, projection);
-    return placed;
-  };
-  if (cut == bytes.size()) return DrawOutline(canvas, ReadOutline(bytes), projection);
-  auto readingBack = std::async(read, bytes.substr(cut));
-  PlacedOutline front = read(bytes.substr(0, cut));
-  PlacedOutline back = readingBack.get();
-  JoinVertices(canvas, front.Vertices, front.Points);
-  if (!front.Vertices.Ended) JoinVertices(canvas, back.Vertices, back.Points);
-}
-
-void JoinVertices(Canvas& canvas, const Outline& outline, std::span<Point> points) {
+void VertexJoiner::Add(const Outline& piece, std::span<Point> points) {
   std::size_t begin = 0;  // of the present stroke
-  const auto endStroke = [&](std::size_t end) {
-    if (end > begin + 1) canvas.Polyline(points.subspan(begin, end - begin));
-  };
-  auto penUp = outline.PenUpBefore.begin();
+  auto penUp = piece.PenUpBefore.begin();
   for (std::size_t i = 0; i < points.size(); ++i) {
     const bool placed = std::isfinite(points[i].x) && std::isfinite(points[i].y);
-    bool lifted = !placed || i == begin || IsLongStep(points[i - 1], points[i]);
-    for (; penUp != outline.PenUpBefore.end() && *penUp <= i; ++penUp) lifted = true;
+    const Point* const previous = i > begin ? &points[i - 1] : begun_.empty() ? nullptr : &begun_.back();
+    bool lifted = !placed || !previous || IsLongStep(*previous, points[i]);
+    for (; penUp != piece.PenUpBefore.end() && *penUp <= i; ++penUp) lifted = true;
     if (lifted) {
-      endStroke(i);
+      EndStroke(points.subspan(begin, i - begin));
       begin = placed ? i : i + 1;
     }
     points[i] = Clamped(points[i]);
   }
-  endStroke(points.size());
+  const std::span<const Point> rest = points.subspan(begin);
+  begun_.insert(begun_.end(), rest.begin(), rest.end());
+  const bool marked = penUp != piece.PenUpBefore.end();
+  if (!marked && begun_.size() < kLongStroke) return;
+  const std::optional<Point> last = marked || begun_.empty() ? std::nullopt : std::optional(begun_.back());
+  EndStroke({});
+  if (last) begun_.push_back(*last);
+}
+
+void VertexJoiner::End() {
+  EndStroke({});
+}
+
+void DrawOutline(Canvas& canvas, std::string_view bytes, const MapProjection& projection) {
+  const std::size_t cut = WhereToCut(bytes);
+  const auto draw = [&canvas](std::span<const Point> stroke) { canvas.Polyline(stroke); };
+  if (cut == bytes.size()) {
+    JoinOutline(bytes, projection, draw);
+    return;
+  }
+  auto readingBack = std::async([&projection, back = bytes.substr(cut)] {
+    KeptStrokes strokes;
+    JoinOutline(back, projection, [&strokes](std::span<const Point> stroke) { strokes.Keep(stroke); });
+    return strokes;
+  });
+  const bool ended = JoinOutline(bytes.substr(0, cut), projection, draw);
+  const KeptStrokes strokes = readingBack.get();
+  if (!ended) strokes.Draw(canvas);
 }
 
 std::vector<std::string> DrawOutlineFiles(Canvas& canvas, const DataFolder& folder,

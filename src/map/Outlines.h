@@ -1,7 +1,10 @@
 #pragma once
 
+#include <functional>
 #include <span>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "data/DataFolder.h"
@@ -16,18 +19,30 @@ namespace kestrel {
 inline constexpr ColorValue RegionOutlineColor = 0xCC8888;
 inline constexpr ColorValue StatesOutlineColor = 0xDD9999;
 
-/// Projects the outline's vertices and joins them as JoinVertices does.
-void DrawOutline(Canvas& canvas, const Outline& outline, const MapProjection& projection);
+/// Joins the vertices of an outline, which come piece by piece, to strokes. The pen is lifted at pen-up
+/// marks, where a vertex has no position, and where two vertices lie more than 2000 twips apart in x or y, so
+/// that a line which leaves the map or wraps is not drawn across it. A stroke of many thousand vertices comes
+/// in several, each beginning where the one before ends.
+class VertexJoiner {
+ public:
+  using DrawStroke = std::function<void(std::span<const Point>)>;
+  explicit VertexJoiner(DrawStroke draw) : draw_(std::move(draw)) {}
 
-/// Draws the outline that the bytes of a file hold likewise. The two halves of a long one are read and
-/// projected at the same time.
+  /// Joins the next vertices, which lie at `points`, one for each; brings these within the coordinate range.
+  void Add(const Outline& piece, std::span<Point> points);
+  /// Draws what is left.
+  void End();
+
+ private:
+  void EndStroke(std::span<const Point> rest);
+
+  DrawStroke draw_;
+  std::vector<Point> begun_;  // of a stroke that the next piece may go on with
+};
+
+/// Draws the outline that the bytes of a file hold, its vertices projected and joined. The two halves of a
+/// long one are read at the same time.
 void DrawOutline(Canvas& canvas, std::string_view bytes, const MapProjection& projection);
-
-/// Joins the outline's vertices, which lie at `points`, on the canvas in its present colour. The pen is
-/// lifted at pen-up marks, where a vertex has no position, and where two vertices lie more than 2000 twips
-/// apart in x or y, so that a line which leaves the map or wraps is not drawn across it. Brings the points
-/// within the coordinate range. REQUIRES: there are as many points as vertices.
-void JoinVertices(Canvas& canvas, const Outline& outline, std::span<Point> points);
 
 /// Draws "STATES.dat", the home mark and "REGION2.dat", each in its colour. A file that is missing or cannot
 /// be read draws nothing; returns why one that is there cannot, a line for each.

@@ -57,13 +57,17 @@ void DrawGrid(Canvas& canvas) {
 void DrawFile(Canvas& canvas, const DataFolder& folder, const QString& name, ColorValue color) {
   const Result<QByteArray> bytes = folder.Read(name);
   if (!bytes) return;
-  const Outline outline =
-      ReadOutline({bytes->constData(), static_cast<std::size_t>(bytes->size())}, CommentLines::Skip);
-  std::vector<Point> points(outline.Latitude.size());
-  for (std::size_t i = 0; i < points.size(); ++i)
-    points[i] = PlaceOnStatesMap(outline.Latitude[i], outline.Longitude[i]);
   canvas.SetColor(color);
-  JoinVertices(canvas, outline, points);
+  OutlineReader reader({bytes->constData(), static_cast<std::size_t>(bytes->size())}, CommentLines::Skip);
+  VertexJoiner joiner([&canvas](std::span<const Point> stroke) { canvas.Polyline(stroke); });
+  std::vector<Point> points;
+  while (const Outline* const piece = reader.Next()) {
+    points.resize(piece->Latitude.size());
+    for (std::size_t i = 0; i < points.size(); ++i)
+      points[i] = PlaceOnStatesMap(piece->Latitude[i], piece->Longitude[i]);
+    joiner.Add(*piece, points);
+  }
+  joiner.End();
 }
 
 Position PositionAt(Point at, double southLimit, double northLimit) {

@@ -6,6 +6,7 @@
 #include <limits>
 #include <string>
 
+#include "WholeOutline.h"
 #include "core/Numbers.h"
 
 namespace kestrel {
@@ -13,7 +14,7 @@ namespace {
 
 /// Vertices as "lat,lon" with "/" where the pen is lifted.
 std::string Strokes(std::string_view bytes, CommentLines comments = CommentLines::Read) {
-  const Outline outline = ReadOutline(bytes, comments);
+  const Outline outline = WholeOutline(bytes, comments);
   EXPECT_EQ(outline.Latitude.size(), outline.Longitude.size());
   std::string text;
   auto penUp = outline.PenUpBefore.begin();
@@ -50,7 +51,7 @@ TEST(OutlineFileTest, CutsStrokesFromLines) {
 TEST(OutlineFileTest, CommentLinesArePassedOverOnRequest) {
   const std::string bytes = ">a\n<a\n!a\n*a\n'a\n/a\n\\a\n  ! 1 2\n#3 4\n1 2 ! 3\n";
   EXPECT_EQ(Strokes(bytes, CommentLines::Skip), "0,4 1,2 ");
-  EXPECT_EQ(ReadOutline(bytes).Latitude.size(), 10U);
+  EXPECT_EQ(WholeOutline(bytes).Latitude.size(), 10U);
 }
 
 TEST(OutlineFileTest, EveryTruncation) {
@@ -58,7 +59,7 @@ TEST(OutlineFileTest, EveryTruncation) {
       "-100 -100\r\n45.5 266.25\r\n46 267\r\n-100 -100\r\n10 20\r\n-2000\r\nbehind 1 2\r\n";
   const std::size_t whole = good.find("-2000") + 5;
   for (std::size_t length = 0; length <= good.size(); ++length) {
-    const Outline outline = ReadOutline(std::string_view(good).substr(0, length));
+    const Outline outline = WholeOutline(std::string_view(good).substr(0, length));
     // A broken end mark, -2 to -200, is one vertex more.
     EXPECT_LE(outline.Latitude.size(), length < whole ? 4U : 3U) << length;
     if (length >= whole) {
@@ -71,7 +72,7 @@ TEST(OutlineFileTest, ReadingEndsAtMaxVertices) {
   std::string bytes;
   for (std::size_t i = 0; i < MaxVertices - 1; ++i) bytes += "1 2\n";
   bytes += "-100 -100\n3 4\n";
-  const Outline outline = ReadOutline(bytes);
+  const Outline outline = WholeOutline(bytes);
   EXPECT_EQ(outline.Latitude.size(), MaxVertices - 1);
   EXPECT_EQ(outline.PenUpBefore.size(), 1U);
 }
@@ -81,7 +82,7 @@ TEST(OutlineFileTest, NumbersStayWithinTheirRange) {
   const std::string most = NumberText(std::numeric_limits<float>::max());
   EXPECT_EQ(Strokes("1e400 -1e400\n" + nines + " -" + nines + "\nnan inf\n1e-400 -0\n"),
             most + ",-" + most + ' ' + most + ",-" + most + " 0,0 0,0 ");
-  EXPECT_TRUE(std::signbit(ReadOutline("1 -0\n").Longitude.at(0)));
+  EXPECT_TRUE(std::signbit(WholeOutline("1 -0\n").Longitude.at(0)));
 }
 
 }  // namespace

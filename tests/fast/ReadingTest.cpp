@@ -2,6 +2,7 @@
 
 #include <QDir>
 
+#include "WholeOutline.h"
 #include "data/DataFolder.h"
 #include "straight/Reading.h"
 
@@ -60,7 +61,7 @@ TEST(ReadingTest, OutlineFiles) {
   for (const char* name : {"REGION2.dat", "STATES.dat"}) {
     const Result<QByteArray> bytes = folder.Read(name);
     ASSERT_TRUE(bytes);
-    const Outline quick = ReadOutline({bytes->constData(), static_cast<std::size_t>(bytes->size())});
+    const Outline quick = WholeOutline({bytes->constData(), static_cast<std::size_t>(bytes->size())});
     const Outline straight = straight::ReadOutline(QDir(folder.Path()).filePath(name).toStdString());
     EXPECT_EQ(quick.Latitude, straight.Latitude) << name;
     EXPECT_EQ(quick.Longitude, straight.Longitude) << name;

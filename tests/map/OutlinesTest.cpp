@@ -2,8 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <limits>
+
 #include "RecordingCanvas.h"
 #include "TestFolder.h"
+#include "WholeOutline.h"
 
 namespace kestrel {
 namespace {
@@ -39,12 +43,45 @@ TEST(OutlinesTest, StrokesBreakWhereTheyShould) {
 }
 
 TEST(OutlinesTest, AVertexWithoutAPositionLiftsThePen) {
-  Outline outline = ReadOutline("0 285\n1 285\n9 9\n0 286\n1 286\n");
-  outline.Latitude[2] = std::numeric_limits<float>::quiet_NaN();
   RecordingCanvas canvas;
-  DrawOutline(canvas, outline, MapProjection(0, 75, 750));
-  EXPECT_EQ(canvas.Readable(),
-            "Polyline 000000 (6000,4500) (6000,3386)\nPolyline 000000 (7114,4500) (7114,3386)\n");
+  VertexJoiner joiner([&canvas](std::span<const Point> stroke) { canvas.Polyline(stroke); });
+  const float none = std::numeric_limits<float>::quiet_NaN();
+  std::vector<Point> points = {{0, 0}, {0, 9}, {none, none}, {5, 0}, {5, 9}};
+  joiner.Add({}, points);
+  joiner.End();
+  EXPECT_EQ(canvas.Readable(), "Polyline 000000 (0,0) (0,9)\nPolyline 000000 (5,0) (5,9)\n");
+}
+
+/// The strokes of vertices that come in pieces of some lengths, pen-up marks before some vertices.
+std::string Joined(const std::vector<std::size_t>& lengths, const std::vector<std::size_t>& penUps) {
+  RecordingCanvas canvas;
+  VertexJoiner joiner([&canvas](std::span<const Point> stroke) { canvas.Polyline(stroke); });
+  std::size_t begin = 0;
+  for (const std::size_t length : lengths) {
+    Outline piece;
+    std::vector<Point> points;
+    for (std::size_t i = begin; i < begin + length; ++i) points.push_back({static_cast<float>(i), 0});
+    for (const std::size_t penUp : penUps)
+      if (penUp > begin && penUp <= begin + length) piece.PenUpBefore.push_back(penUp - begin);
+    joiner.Add(piece, points);
+    begin += length;
+  }
+  joiner.End();
+  return canvas.Readable();
+}
+
+TEST(OutlinesTest, StrokesGoOnFromPieceToPiece) {
+  for (const std::vector<std::size_t>& penUps :
+       std::vector<std::vector<std::size_t>>{{}, {1}, {4}, {3, 5}, {2, 4, 8}, {9}}) {
+    const std::string whole = Joined({9}, penUps);
+    for (const auto& lengths :
+         std::vector<std::vector<std::size_t>>{{4, 5}, {1, 8}, {3, 1, 0, 5}, {2, 2, 2, 2, 1}, {8, 1}})
+      EXPECT_EQ(Joined(lengths, penUps), whole) << lengths.size() << ' ' << penUps.size();
+  }
+  // A stroke of very many vertices is drawn in several that hang together.
+  const std::string line = Joined(std::vector<std::size_t>(10, 1000), {});
+  EXPECT_EQ(std::count(line.begin(), line.end(), '\n'), 2) << line;
+  EXPECT_NE(line.find("(4999,0)\nPolyline 000000 (4999,0)"), std::string::npos);
 }
 
 /// A long file is read in two halves.
@@ -70,7 +107,12 @@ TEST(OutlinesTest, ALongFileIsDrawnAsItsVerticesAre) {
     ASSERT_GT(row.bytes.size(), 256U * 1024);
     RecordingCanvas fromFile, fromVertices;
     DrawOutline(fromFile, row.bytes, projection);
-    DrawOutline(fromVertices, ReadOutline(row.bytes), projection);
+    Outline outline = WholeOutline(row.bytes);
+    std::vector<Point> points(outline.Latitude.size());
+    projection.Vertices(outline.Latitude, outline.Longitude, points);
+    VertexJoiner joiner([&](std::span<const Point> stroke) { fromVertices.Polyline(stroke); });
+    joiner.Add(outline, points);
+    joiner.End();
     EXPECT_EQ(fromFile.Readable(), fromVertices.Readable()) << row.what;
     EXPECT_FALSE(fromFile.Readable().empty()) << row.what;
   }
