@@ -8,8 +8,8 @@ constexpr std::size_t kMostFonts = 12;  // a map has three or four
 }  // namespace
 
 InkMask& DrawingTools::Mask(QSize size, int top) {
-  if (!mask_ || !mask_->Fits(size, top)) mask_.emplace(size, top);
-  return *mask_;
+  mask_.Hold(size, top);
+  return mask_;
 }
 
 GlyphCache& DrawingTools::Glyphs(FontFace face, double pixels) {

@@ -2,7 +2,6 @@
 
 #include <QImage>
 #include <memory>
-#include <optional>
 #include <vector>
 
 #include "draw/GlyphCache.h"
@@ -14,7 +13,7 @@ namespace kestrel {
 /// mask's memory and the letters made.
 class DrawingTools {
  public:
-  /// An empty mask for these rows. It is the same one as long as they are the same.
+  /// The mask, emptied and made one for these rows.
   InkMask& Mask(QSize size, int top);
 
   /// The letters of a font whose size is given in pixels. They last until ForgetOldGlyphs.
@@ -31,7 +30,7 @@ class DrawingTools {
     std::unique_ptr<GlyphCache> cache;
   };
 
-  std::optional<InkMask> mask_;
+  InkMask mask_;
   std::vector<SizedGlyphs> glyphs_;
 };
 

@@ -70,15 +70,17 @@ void GlyphCache::Blend(QImage& image, int x, int y, QRgb color, const Glyph& gly
   const InkRows ink = {glyph.ink.data(), glyph.step};
   const PixelRows pixels = {reinterpret_cast<QRgb*>(image.bits()),
                             image.bytesPerLine() / static_cast<qsizetype>(sizeof(QRgb))};
-  if (x >= 0 && x + glyph.step <= image.width() && y >= 0 && y + glyph.height <= image.height())
-    return MixRows(color, ink, {pixels.pixels + y * pixels.step + x, pixels.step}, glyph.step / 8,
-                   glyph.height);
-  const int lastRow = std::min(glyph.height, image.height() - y);
+  const int firstRow = std::max(0, -y);
+  const int rows = std::min(glyph.height, image.height() - y) - firstRow;
+  const InkRows inkShown = {ink.ink + firstRow * ink.step, ink.step};
+  QRgb* const corner = pixels.pixels + (y + firstRow) * pixels.step + x;
+  if (x >= 0 && x + glyph.step <= image.width())
+    return MixRows(color, inkShown, {corner, pixels.step}, glyph.step / 8, rows);
   const int lastColumn = std::min(glyph.width, image.width() - x);
-  for (int row = std::max(0, -y); row < lastRow; ++row)
+  for (int row = 0; row < rows; ++row)
     for (int column = std::max(0, -x); column < lastColumn; ++column) {
-      QRgb& pixel = pixels.pixels[(y + row) * pixels.step + x + column];
-      pixel = Mixed(color, pixel, ink.ink[row * ink.step + column]);
+      QRgb& pixel = corner[row * pixels.step + column];
+      pixel = Mixed(color, pixel, inkShown.ink[row * ink.step + column]);
     }
 }
 

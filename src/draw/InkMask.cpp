@@ -14,7 +14,7 @@ namespace {
 constexpr float kWidestLine = 14;
 // The border holds the ink of lines that run along the picture's edge, kWidestLine * sqrt(2) + 1 pixels, in
 // whole eights.
-constexpr int kBorder = 24;
+constexpr int kBorder = InkMask::LongestReach;
 constexpr int kPixelsOfWord = 64 * 8;  // whose eights are marked in a word
 constexpr int kPiece = 16;             // columns of a line that are marked together
 constexpr float kFarthest = 1 << 30;
@@ -36,16 +36,94 @@ void Ink(std::uint8_t* pixel, int share) {
 
 }  // namespace
 
-InkMask::InkMask(QSize size, int top)
-    : width_(size.width()),
-      height_(size.height()),
-      top_(top),
-      rows_(height_ + 2 * kBorder),
-      stride_(((width_ + 2 * kBorder + 63) / 64 | 1) * 64),
-      words_((stride_ + kPixelsOfWord - 1) / kPixelsOfWord),
-      ink_(static_cast<std::size_t>(stride_) * static_cast<std::size_t>(rows_)),
-      touched_(static_cast<std::size_t>(rows_) * static_cast<std::size_t>(words_)),
-      firstTouched_(rows_) {}
+/// A line of a width as the mask takes it: column by column, row by row when it is steep. What is said of
+/// columns and the pixels of one holds for rows then.
+struct InkMask::Course {
+  /// Where the line lies in a column: its lower edge, and the share of the column that it reaches, in 256ths.
+  struct Place {
+    Fixed edge;
+    int share;
+    int Row() const { return static_cast<int>(edge >> kFixedBits); }
+  };
+
+  bool isLine;  // otherwise there is nothing to draw
+  bool steep;
+  float begin, end;  // along the columns
+  float minor;       // across them, at the beginning
+  float slope;
+  float across;     // how wide the line is in a column
+  int first, last;  // columns
+  Fixed edgeAtFirst, step;
+  int inked;         // `across` in 256ths
+  int pixelsAcross;  // that it may reach in a column
+
+  Course(Point from, Point to, float width) {
+    steep = std::abs(to.y - from.y) > std::abs(to.x - from.x);
+    const float a = steep ? from.y : from.x;
+    const float b = steep ? to.y : to.x;
+    const float c = steep ? from.x : from.y;
+    const float d = steep ? to.x : to.y;
+    const bool back = a > b;
+    begin = back ? b : a;
+    end = back ? a : b;
+    minor = back ? d : c;
+    const float minorEnd = back ? c : d;
+    const float length = end - begin;
+    // Written so that a place that is no number is far away.
+    isLine = (length > 0) & (std::abs(begin) < kFarthest) & (std::abs(end) < kFarthest) &
+             (std::abs(minor) < kFarthest) & (std::abs(minorEnd) < kFarthest);
+    if (!isLine) return;
+    slope = (minorEnd - minor) / length;
+    // A line of one pixel is one pixel wide along the axis, whatever its slope: as crisp as can be.
+    across = width <= 1 ? width : std::min(width, kWidestLine) * std::sqrt(1 + slope * slope);
+    first = static_cast<int>(std::floor(begin));
+    last = static_cast<int>(std::floor(end));
+    edgeAtFirst = EdgeAt(static_cast<float>(first) + 0.5F);
+    step = static_cast<Fixed>(double{slope} * kOne);
+    inked = static_cast<int>(across * 256);
+    pixelsAcross = (inked + 255) / 256 + 1;
+    atFirst = AtEnd(first);
+    atLast = AtEnd(last);
+  }
+  Place atFirst, atLast;
+
+  Fixed EdgeAt(float place) const {
+    return static_cast<Fixed>((minor + (double{place} - begin) * slope - across / 2) * kOne);
+  }
+
+  /// In a column that the line may begin or end in.
+  Place AtEnd(int column) const {
+    const float left = std::max(begin, static_cast<float>(column));
+    const float right = std::min(end, static_cast<float>(column + 1));
+    // NOLINTNEXTLINE(bugprone-incorrect-roundings): never negative, and run for both ends of every line.
+    return {EdgeAt((left + right) / 2), static_cast<int>((right - left) * 256 + 0.5F)};
+  }
+
+  Place At(int column) const {
+    return column == first  ? atFirst
+           : column == last ? atLast
+                            : Place{edgeAtFirst + step * (column - first), 256};
+  }
+};
+
+void InkMask::Hold(QSize size, int top) {
+  // A drawing that was broken off has left ink.
+  if (lastTouched_ >= 0) *this = {};
+  width_ = size.width();
+  height_ = size.height();
+  top_ = top;
+  rows_ = height_ + 2 * kBorder;
+  stride_ = ((width_ + 2 * kBorder + 63) / 64 | 1) * 64;
+  words_ = (stride_ + kPixelsOfWord - 1) / kPixelsOfWord;
+  const auto fit = [rows = static_cast<std::size_t>(rows_)](auto& memory, int perRow) {
+    const std::size_t wanted = rows * static_cast<std::size_t>(perRow);
+    if (memory.size() < wanted || memory.size() > 2 * wanted)
+      memory = std::remove_reference_t<decltype(memory)>(wanted);
+  };
+  fit(ink_, stride_);
+  fit(touched_, words_);
+  firstTouched_ = rows_;
+}
 
 void InkMask::Touch(int left, int top, int right, int bottom) {
   const int firstWord = left / kPixelsOfWord;
@@ -59,77 +137,38 @@ void InkMask::Touch(int left, int top, int right, int bottom) {
   lastTouched_ = std::max(lastTouched_, bottom);
 }
 
-void InkMask::AddSegment(Point from, Point to, float width) {
-  // Beyond the border no line reaches the picture.
-  if (std::max(from.y, to.y) < static_cast<float>(top_) ||
-      std::min(from.y, to.y) > static_cast<float>(top_ + rows_))
-    return;
-  const bool steep = std::abs(to.y - from.y) > std::abs(to.x - from.x);
-  float begin = steep ? from.y : from.x;
-  float end = steep ? to.y : to.x;
-  float minor = steep ? from.x : from.y;
-  float minorEnd = steep ? to.x : to.y;
-  if (begin > end) {
-    std::swap(begin, end);
-    std::swap(minor, minorEnd);
-  }
-  const float length = end - begin;
-  // Written so that a place that is no number is far away.
-  const bool isNear = std::abs(begin) < kFarthest && std::abs(end) < kFarthest &&
-                      std::abs(minor) < kFarthest && std::abs(minorEnd) < kFarthest;
-  if (!(length > 0) || !isNear) return;
-
-  const float slope = (minorEnd - minor) / length;
-  // A line of one pixel is one pixel wide along the axis, whatever its slope: as crisp as can be.
-  const float across = width <= 1 ? width : std::min(width, kWidestLine) * std::sqrt(1 + slope * slope);
-  const auto edgeAt = [&](float place) {
-    return static_cast<Fixed>((minor + (double{place} - begin) * slope - across / 2) * kOne);
-  };
-  const int firstColumn = static_cast<int>(std::floor(begin));
-  const int lastColumn = static_cast<int>(std::floor(end));
-  const Fixed edgeAtFirst = edgeAt(static_cast<float>(firstColumn) + 0.5F);
-  const auto step = static_cast<Fixed>(double{slope} * kOne);
-  const int inked = static_cast<int>(across * 256);
-  const int pixelsAcross = (inked + 255) / 256 + 1;
-
+void InkMask::InkCourse(const Course& course) {
+  const bool steep = course.steep;
   const int lowestColumn = steep ? top_ : 0;
   const int highestColumn = steep ? top_ + rows_ - 1 : stride_ - 1;
   const int lowestRow = steep ? 0 : top_;
-  const int highestRow = (steep ? stride_ : top_ + rows_) - pixelsAcross;
+  const int highestRow = (steep ? stride_ : top_ + rows_) - course.pixelsAcross;
   std::uint8_t* const origin = ink_.data() - top_ * std::ptrdiff_t{stride_};
   const std::ptrdiff_t alongStep = steep ? stride_ : 1;
   const std::ptrdiff_t acrossStep = steep ? 1 : stride_;
 
-  const int endColumn = std::min(lastColumn, highestColumn);
-  for (int piece = std::max(firstColumn, lowestColumn); piece <= endColumn; piece += kPiece) {
+  const int endColumn = std::min(course.last, highestColumn);
+  for (int piece = std::max(course.first, lowestColumn); piece <= endColumn; piece += kPiece) {
     const int pieceEnd = std::min(piece + kPiece - 1, endColumn);
     int low = highestRow + 1, high = -1;
     for (int column = piece; column <= pieceEnd; ++column) {
-      Fixed edge = edgeAtFirst + step * (column - firstColumn);
-      int share = 256;
-      if (column == firstColumn || column == lastColumn) {
-        const float left = std::max(begin, static_cast<float>(column));
-        const float right = std::min(end, static_cast<float>(column + 1));
-        edge = edgeAt((left + right) / 2);
-        // NOLINTNEXTLINE(bugprone-incorrect-roundings): never negative, and run for both ends of every line.
-        share = static_cast<int>((right - left) * 256 + 0.5F);
-      }
-      const int row = static_cast<int>(edge >> kFixedBits);
+      const Course::Place place = course.At(column);
+      const int row = place.Row();
       if (row < lowestRow || row > highestRow) continue;
       low = std::min(low, row);
       high = std::max(high, row);
       std::uint8_t* pixel = origin + column * alongStep + row * acrossStep;
-      int room = 256 - static_cast<int>(edge >> (kFixedBits - 8) & 255);
-      int left = inked;
+      int room = 256 - static_cast<int>(place.edge >> (kFixedBits - 8) & 255);
+      int left = course.inked;
       // Pixels that the line does not reach are given nothing, which is quicker than to ask.
-      for (int k = 0; k < pixelsAcross; ++k, pixel += acrossStep, room = 256) {
+      for (int k = 0; k < course.pixelsAcross; ++k, pixel += acrossStep, room = 256) {
         const int covered = std::min(room, left);
         left -= covered;
-        Ink(pixel, (covered * share + 128) >> 8);
+        Ink(pixel, (covered * place.share + 128) >> 8);
       }
     }
     if (high < 0) continue;
-    high += pixelsAcross - 1;
+    high += course.pixelsAcross - 1;
     if (steep)
       Touch(low, piece - top_, high, pieceEnd - top_);
     else
@@ -138,9 +177,17 @@ void InkMask::AddSegment(Point from, Point to, float width) {
 }
 
 void InkMask::AddPolyline(std::span<const Point> points, float width) {
-  const auto shifted = [](Point point) { return Point{point.x + kBorder, point.y + kBorder}; };
-  for (std::size_t i = 1; i < points.size(); ++i)
-    AddSegment(shifted(points[i - 1]), shifted(points[i]), width);
+  if (points.size() < 2) return;
+  const auto course = [&](std::size_t i) {
+    const Point from = points[i], to = points[i + 1];
+    return Course({from.x + kBorder, from.y + kBorder}, {to.x + kBorder, to.y + kBorder}, width);
+  };
+  Course next = course(0);
+  for (std::size_t i = 0; i + 1 < points.size(); ++i) {
+    const Course present = next;
+    if (i + 2 < points.size()) next = course(i + 1);
+    if (present.isLine) InkCourse(present);
+  }
 }
 
 void InkMask::AddDisc(Point center, float radius) {

@@ -28,10 +28,11 @@ namespace kestrel {
 /// out the same whichever rows are held. Any coordinates may be given, also such as are no number.
 class InkMask {
  public:
-  InkMask(QSize size, int top);
+  /// Lines farther than so many pixels from the picture leave no ink on it.
+  static constexpr int LongestReach = 24;
 
-  /// Whether the mask is one for these rows.
-  bool Fits(QSize size, int top) const { return size == QSize(width_, height_) && top == top_; }
+  /// Makes the mask, empty, one for the rows from `top` on of a picture, as many as the size has.
+  void Hold(QSize size, int top);
 
   void AddPolyline(std::span<const Point> points, float width);
   void AddDisc(Point center, float radius);
@@ -42,8 +43,8 @@ class InkMask {
   void Lay(QRgb color, QImage& image);
 
  private:
-  /// Inks a line of a width, both ends in pixels from the border's corner.
-  void AddSegment(Point from, Point to, float width);
+  struct Course;
+  void InkCourse(const Course& course);
   /// The marks of a word of a row.
   std::uint64_t& Touched(int row, int word) {
     return touched_[static_cast<std::size_t>(row) * static_cast<std::size_t>(words_) +
@@ -54,13 +55,13 @@ class InkMask {
   /// Lays the eights of a word on their line of the picture; only clears them where there is none.
   void LayWord(QRgb color, int row, int word, std::uint64_t eights, QRgb* line);
 
-  int width_, height_, top_;
-  int rows_;    // held, those of the border included
-  int stride_;  // of the rows, in pixels
-  int words_;   // of touched_, for each row
+  int width_ = 0, height_ = 0, top_ = 0;
+  int rows_ = 0;    // held, those of the border included
+  int stride_ = 0;  // of the rows, in pixels
+  int words_ = 0;   // of touched_, for each row
   std::vector<std::uint8_t> ink_;
-  std::vector<std::uint64_t> touched_;   // by row, a bit for each eight pixels
-  int firstTouched_, lastTouched_ = -1;  // rows
+  std::vector<std::uint64_t> touched_;       // by row, a bit for each eight pixels
+  int firstTouched_ = 0, lastTouched_ = -1;  // rows
 };
 
 }  // namespace kestrel

@@ -117,9 +117,12 @@ const RasterCanvas::Style& RasterCanvas::PresentStyle() {
 void RasterCanvas::Text(Point topLeft, std::string_view text) {
   const Style& style = PresentStyle();
   const Point at = view_.At({topLeft.x, topLeft.y + style.ascent});
-  const QRectF reach(at.x, at.y - 2 * style.size, style.size * static_cast<double>(text.size()),
-                     3 * style.size);
-  if (!reach.intersects(QRectF(0, top_, image_.width(), image_.height()))) return;
+  const double size = style.size;
+  const double x = at.x, y = double{at.y} - top_;
+  // Written so that a place that is no number is none.
+  if (!(y + size >= 0 && y - 2 * size <= image_.height() && x <= image_.width() &&
+        x + size * static_cast<double>(text.size()) >= 0))
+    return;
   LayInk();
   if (GlyphCache::Knows(text)) return style.glyphs->Draw(image_, top_, {at.x, at.y}, color_, text);
   QPainter painter(&image_);

@@ -22,6 +22,15 @@ int StripsFor(const QImage& image, std::size_t figures, int processors) {
   return little ? 1 : processors;
 }
 
+/// What of the sheet may leave ink on an image that holds the rows from `top` on.
+SheetBox BoxOf(const QImage& image, int top, const SheetFit& fit) {
+  constexpr float kReach = InkMask::LongestReach;
+  const auto upper = static_cast<float>(top);
+  const auto lower = static_cast<float>(top + image.height());
+  return {fit.ToSheet({-kReach, upper - kReach}),
+          fit.ToSheet({static_cast<float>(image.width()) + kReach, lower + kReach})};
+}
+
 /// Work under way, waited for however its owner is left.
 class Underway {
  public:
@@ -53,7 +62,8 @@ Renderer::Renderer(int processors)
     : processors_(processors > 0 ? processors : std::clamp(QThread::idealThreadCount(), 1, kMostProcessors)) {
 }
 
-/// Calls `draw(rows, canvas)` for each strip, at the same time.
+/// Calls `drawRows(rows, canvas, box)` for each strip, at the same time; lines that do not touch the box do
+/// not show in the strip.
 template <typename DrawRows>
 void Renderer::DrawStrips(QImage& image, int top, std::size_t figures, const SurfaceRules& rules,
                           DrawRows drawRows) {
@@ -66,7 +76,7 @@ void Renderer::DrawStrips(QImage& image, int top, std::size_t figures, const Sur
     QImage rows(pixels + first * image.bytesPerLine(), image.width(), behind - first, image.bytesPerLine(),
                 image.format());
     RasterCanvas canvas(rows, rules, tools_[static_cast<std::size_t>(strip)], top + first);
-    drawRows(rows, canvas);
+    drawRows(rows, canvas, BoxOf(rows, top + first, rules.Fit));
     canvas.Finish();
   };
   Underway others;
@@ -76,15 +86,15 @@ void Renderer::DrawStrips(QImage& image, int top, std::size_t figures, const Sur
 }
 
 void Renderer::Draw(const DisplayList& list, const SurfaceRules& rules, QImage& image, int top) {
-  DrawStrips(image, top, list.Length(), rules, [&](QImage& rows, RasterCanvas& canvas) {
+  DrawStrips(image, top, list.Length(), rules, [&](QImage& rows, RasterCanvas& canvas, const SheetBox& box) {
     rows.fill(Qt::white);
-    list.Play(canvas);
+    list.PlayFrom(0, canvas, box);
   });
 }
 
 void Renderer::DrawMore(const DisplayList& list, std::size_t from, const SurfaceRules& rules, QImage& image) {
   DrawStrips(image, 0, list.Length() - from, rules,
-             [&](QImage&, RasterCanvas& canvas) { list.PlayFrom(from, canvas); });
+             [&](QImage&, RasterCanvas& canvas, const SheetBox& box) { list.PlayFrom(from, canvas, box); });
 }
 
 }  // namespace kestrel

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QRectF>
+#include <array>
 #include <span>
 #include <vector>
 
@@ -18,11 +19,68 @@ struct SurfaceRules {
   double Thinning = 0.5;       ///< vertices closer together than this many pixels are joined into one
 };
 
+/// A run of a polyline's vertices without those that do not show: vertices closer to the one before than a
+/// distance, and up to three in turn that stand off the straight line between their neighbours by less than a
+/// fifth of it.
+class ThinnedRun {
+ public:
+  explicit ThinnedRun(float closest) : closest_(closest), straight_(closest / 5) {}
+
+  void Clear() { vertices_.clear(); }
+
+  void Begin(Point first) {
+    vertices_.assign(1, first);
+    passedCount_ = 0;
+  }
+
+  /// Adds a vertex; one that `must` be there however close it is.
+  void Add(Point point, bool must) {
+    const Point last = vertices_.back();
+    if (!must && SquaredDistance(last, point) < closest_ * closest_) return;
+    if (vertices_.size() > 1 && passedCount_ < passed_.size() && Straight(point)) {
+      passed_[passedCount_++] = last;
+      vertices_.back() = point;
+    } else {
+      passedCount_ = 0;
+      vertices_.push_back(point);
+    }
+  }
+
+  std::span<const Point> Vertices() const { return vertices_; }
+
+ private:
+  static float SquaredDistance(Point a, Point b) {
+    const float x = b.x - a.x, y = b.y - a.y;
+    return x * x + y * y;
+  }
+
+  /// Whether a line from the last vertex but one to `end` takes the place of those between.
+  bool Straight(Point end) const {
+    const Point begin = vertices_[vertices_.size() - 2];
+    const float x = end.x - begin.x, y = end.y - begin.y;
+    const float squared = x * x + y * y;
+    const auto along = [&](Point between) {
+      const float toX = between.x - begin.x, toY = between.y - begin.y;
+      const float off = toX * y - toY * x, way = toX * x + toY * y;
+      return off * off <= straight_ * straight_ * squared && way >= 0 && way <= squared;
+    };
+    bool straight = along(vertices_.back());
+    for (std::size_t i = 0; i < passedCount_; ++i) straight = straight && along(passed_[i]);
+    return straight;
+  }
+
+  float closest_, straight_;
+  std::vector<Point> vertices_;
+  std::array<Point, 3> passed_;  // between the last two vertices
+  std::size_t passedCount_ = 0;
+};
+
 /// Takes places and lengths of the sheet to the surface, panels included. Culling and thinning happen here,
 /// when a figure reaches its surface.
 class SurfaceView {
  public:
-  explicit SurfaceView(const SurfaceRules& rules) : rules_(rules) {}
+  explicit SurfaceView(const SurfaceRules& rules)
+      : rules_(rules), run_(static_cast<float>(rules.Thinning * rules.PixelSize)) {}
 
   Point At(Point sheet) const { return rules_.Fit.ToSurface(panelGrowth_ == 1 ? sheet : Grown(sheet)); }
   double Length(double twips) const { return twips * rules_.Fit.Scale * panelGrowth_; }
@@ -61,7 +119,7 @@ class SurfaceView {
   SurfaceRules rules_;
   double panelGrowth_ = 1;
   Point panelAnchor_;
-  std::vector<Point> run_;
+  ThinnedRun run_;
 };
 
 /// The part of a surface that lines may touch, a little larger than what it shows.
@@ -84,11 +142,10 @@ struct ClipArea {
 template <typename Draw>
 void SurfaceView::ForEachRun(std::span<const Point> points, Draw draw) {
   const ClipArea area(rules_.Area, 4 * rules_.PixelSize);
-  const auto closest = static_cast<float>(rules_.Thinning * rules_.PixelSize);
-  run_.clear();
+  run_.Clear();
   const auto endRun = [&] {
-    if (run_.size() > 1) draw(std::span<const Point>(run_));
-    run_.clear();
+    if (run_.Vertices().size() > 1) draw(run_.Vertices());
+    run_.Clear();
   };
   Point previous;
   int previousOutside = 0;
@@ -98,11 +155,8 @@ void SurfaceView::ForEachRun(std::span<const Point> points, Draw draw) {
     if (i > 0 && (outside & previousOutside) != 0) {
       endRun();
     } else if (i > 0) {
-      if (run_.empty()) run_.push_back(previous);
-      const float right = point.x - run_.back().x;
-      const float down = point.y - run_.back().y;
-      const bool last = i + 1 == points.size();
-      if (last || outside != 0 || right * right + down * down >= closest * closest) run_.push_back(point);
+      if (run_.Vertices().empty()) run_.Begin(previous);
+      run_.Add(point, i + 1 == points.size() || outside != 0);
     }
     previous = point;
     previousOutside = outside;

@@ -31,12 +31,15 @@ void DisplayList::SetFont(const Font& font) {
 
 void DisplayList::Line(Point from, Point to) {
   AddPoints(Verb::Line, std::array{from, to});
+  commands_.back().box = BoxAround(std::array{from, to});
 }
 void DisplayList::Polyline(std::span<const Point> points) {
   AddPoints(Verb::Polyline, points);
+  commands_.back().box = BoxAround(points);
 }
 void DisplayList::Polygon(std::span<const Point> points) {
   AddPoints(Verb::Polygon, points);
+  commands_.back().box = BoxAround(points);
 }
 void DisplayList::Circle(Point center, float radius) {
   AddPoints(Verb::Circle, std::array{center}, radius);
@@ -58,7 +61,7 @@ void DisplayList::Text(Point topLeft, std::string_view text) {
   Command command{Verb::Text};
   command.first = static_cast<std::uint32_t>(text_.size());
   command.count = static_cast<std::uint32_t>(text.size());
-  command.at = topLeft;
+  command.box = {topLeft, topLeft};
   text_ += text;
   commands_.push_back(command);
 }
@@ -91,9 +94,14 @@ void DisplayList::Clear() {
   stations_.clear();
 }
 
-void DisplayList::PlayFrom(std::size_t length, Canvas& canvas) const {
-  for (std::size_t i = 0; i < commands_.size(); ++i)
-    if (i >= length || SetsState(commands_[i].verb)) PlayCommand(commands_[i], canvas);
+void DisplayList::PlayFrom(std::size_t length, Canvas& canvas, const SheetBox& shown) const {
+  bool inPanel = false;  // whose figures may grow out of their boxes
+  for (std::size_t i = 0; i < commands_.size(); ++i) {
+    const Command& command = commands_[i];
+    if (i < length && !SetsState(command.verb)) continue;
+    inPanel = command.verb == Verb::BeginPanel || (inPanel && command.verb != Verb::EndPanel);
+    if (!IsLine(command.verb) || inPanel || command.box.Touches(shown)) PlayCommand(command, canvas);
+  }
 }
 
 void DisplayList::PlayCommand(const Command& command, Canvas& canvas) const {
@@ -122,7 +130,7 @@ void DisplayList::PlayCommand(const Command& command, Canvas& canvas) const {
     case Verb::Dot:
       return canvas.Dot(points()[0]);
     case Verb::Text:
-      return canvas.Text(command.at, std::string_view(text_).substr(command.first, command.count));
+      return canvas.Text(command.box.TopLeft, std::string_view(text_).substr(command.first, command.count));
     case Verb::BeginStation:
       return canvas.BeginStation(stations_[command.first]);
     case Verb::EndStation:

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "map/Canvas.h"
+#include "map/Sheet.h"
 
 namespace kestrel {
 
@@ -46,7 +46,12 @@ class DisplayList final : public Canvas {
   std::size_t Length() const { return commands_.size(); }
 
   /// Draws what was drawn after the list was `length` long, in the colours and fonts set before.
-  void PlayFrom(std::size_t length, Canvas& canvas) const;
+  void PlayFrom(std::size_t length, Canvas& canvas) const {
+    PlayFrom(length, canvas, SheetBox::Everything());
+  }
+
+  /// Likewise, but lines, open or closed, that do not touch `shown` are passed over.
+  void PlayFrom(std::size_t length, Canvas& canvas, const SheetBox& shown) const;
 
   /// The stations drawn, in drawing order.
   const std::vector<StationMark>& Stations() const { return stations_; }
@@ -78,11 +83,14 @@ class DisplayList final : public Canvas {
     float number = 0;         // width, radius or font size
     std::uint32_t first = 0;  // in points_, text_ or stations_; or the colour
     std::uint32_t count = 0;  // of points or bytes of text
-    Point at = {};            // the text's place
+    SheetBox box = {};        // around lines; at its corner the text's place
   };
 
   static bool SetsState(Verb verb) {
     return verb == Verb::SetColor || verb == Verb::SetLineWidth || verb == Verb::SetFont;
+  }
+  static bool IsLine(Verb verb) {
+    return verb == Verb::Line || verb == Verb::Polyline || verb == Verb::Polygon;
   }
   void AddPoints(Verb verb, std::span<const Point> points, float number = 0);
   void PlayCommand(const Command& command, Canvas& canvas) const;

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <algorithm>
+#include <limits>
+#include <span>
 
 #include "map/Canvas.h"
 
@@ -31,6 +33,26 @@ struct SheetFit {
   Point ToSurface(Point sheet) const { return {Left + sheet.x * Scale, Top + sheet.y * Scale}; }
   Point ToSheet(Point surface) const { return {(surface.x - Left) / Scale, (surface.y - Top) / Scale}; }
 };
+
+/// What lies between two corners of a sheet, its edges included.
+struct SheetBox {
+  Point TopLeft;
+  Point BottomRight;
+
+  static SheetBox Everything() {
+    constexpr float kFar = std::numeric_limits<float>::infinity();
+    return {{-kFar, -kFar}, {kFar, kFar}};
+  }
+
+  bool Touches(const SheetBox& other) const {
+    return TopLeft.x <= other.BottomRight.x && other.TopLeft.x <= BottomRight.x &&
+           TopLeft.y <= other.BottomRight.y && other.TopLeft.y <= BottomRight.y;
+  }
+};
+
+/// The smallest box around points; one that touches nothing around none. Points that are no numbers do not
+/// count.
+SheetBox BoxAround(std::span<const Point> points);
 
 /// A part of a sheet, in twips.
 struct SheetArea {
