@@ -221,17 +221,17 @@ Result<Done> Recover(Exchange& exchange, const QString& folder) {
 
 }  // namespace
 
-Result<Done> SwapInStations(const DataFolder& folder, const StationSet& files, const SwapStep& step) {
+Result<Done> SwapInStations(const DataFolder& folder, const FileSource& source, const SwapStep& step) {
   Exchange exchange(folder.Path(), step);
   if (!exchange.Lock()) return NotLocked(exchange, folder);
   if (const Result<Done> recovered = Recover(exchange, folder.Path()); !recovered) return recovered;
 
   SwapJournal journal{false, kNewSet, PresentFiles(folder.Path()), {}};
   exchange.MakeFolder(kNewSet);
-  for (const auto& [name, bytes] : files) {
+  source([&](const std::string& name, const std::string& bytes) {
     exchange.Write(kNewSet + '/' + QString::fromStdString(name), bytes);
     journal.newFiles << QString::fromStdString(name);
-  }
+  });
   exchange.Write(kJournal, JournalText(journal));
   if (const auto failure = exchange.Failure()) {
     exchange.Forgive();

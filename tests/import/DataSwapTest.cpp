@@ -21,10 +21,10 @@ namespace {
 /// touch.
 class DataSwapTest : public testing::Test {
  protected:
-  static StationSet Set(const std::string& name) {
-    StationSet set;
-    for (const std::string& file : StationSetNames()) set[file] = name;
-    return set;
+  static FileSource Set(const std::string& name) {
+    return [name](const TakeFile& take) {
+      for (const std::string& file : StationSetNames()) take(file, name);
+    };
   }
 
   /// A fresh folder; `old` empty: without station files. One file has its name in other letters.
@@ -35,8 +35,8 @@ class DataSwapTest : public testing::Test {
     for (const char* name : {"REGION2.dat", "STATES.dat", "Kestrel.lst", "Kestrel.CFG"})
       EXPECT_TRUE(folder.Write(name, "untouched"));
     if (old.empty()) return folder;
-    for (const auto& [name, bytes] : Set(old))
-      EXPECT_TRUE(folder.Write(name == "1230x.dat" ? "1230X.DAT" : QString::fromStdString(name), bytes));
+    for (const std::string& name : StationSetNames())
+      EXPECT_TRUE(folder.Write(name == "1230x.dat" ? "1230X.DAT" : QString::fromStdString(name), old));
     return folder;
   }
 

@@ -22,6 +22,12 @@ std::string Holds(const TestFolder& folder, const StationSet& before, const Stat
   return isWhole(before) ? "old" : isWhole(after) ? "new" : "mixed";
 }
 
+FileSource Source(const StationSet& set) {
+  return [&](const TakeFile& take) {
+    for (const auto& [name, bytes] : set) take(name, bytes);
+  };
+}
+
 /// The folder's set as it stands.
 StationSet SetOf(const TestFolder& folder) {
   StationSet set;
@@ -32,7 +38,7 @@ StationSet SetOf(const TestFolder& folder) {
 TEST(RunImport, CancelledAtAnyMomentItTellsWhatTheFolderHolds) {
   const TestFolder folder;
   const StationSet before = ImportTexts({{"amq", ListRow{.call = "QOLD"}.Text()}}).files;
-  ASSERT_TRUE(SwapInStations(folder.Folder(), before));
+  ASSERT_TRUE(SwapInStations(folder.Folder(), Source(before)));
   folder.Put("amq.txt", ListRow{.call = "QNEW"}.Text());
   const ImportRequest request{{folder.Path("amq.txt")}, {}, false};
   ASSERT_FALSE(RunImport(request, folder.Folder()).failure);
@@ -41,7 +47,7 @@ TEST(RunImport, CancelledAtAnyMomentItTellsWhatTheFolderHolds) {
 
   int calls = 0;
   for (int cancelAt = 1;; ++cancelAt) {
-    ASSERT_TRUE(SwapInStations(folder.Folder(), before));
+    ASSERT_TRUE(SwapInStations(folder.Folder(), Source(before)));
     calls = 0;
     double last = 0;
     const ImportOutcome outcome = RunImport(request, folder.Folder(), [&](double done, std::string_view) {
