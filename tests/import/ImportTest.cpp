@@ -4,6 +4,7 @@
 
 #include <QDateTime>
 #include <QFile>
+#include <new>
 
 #include "ImportTesting.h"
 #include "TestFolder.h"
@@ -65,6 +66,24 @@ TEST(RunImport, CancelledAtAnyMomentItTellsWhatTheFolderHolds) {
     ExpectCountsAddUp(outcome.report);
   }
   EXPECT_GT(calls, 4);
+}
+
+TEST(RunImport, WantOfMemoryAtAnyMomentLeavesTheFiles) {
+  const TestFolder folder;
+  const StationSet before = ImportTexts({{"amq", ListRow{.call = "QOLD"}.Text()}}).files;
+  ASSERT_TRUE(SwapInStations(folder.Folder(), Source(before)));
+  folder.Put("amq.txt", ListRow{.call = "QNEW"}.Text());
+  for (const double moment : {0.0, 0.8, 0.9}) {
+    const ImportOutcome outcome =
+        RunImport({{folder.Path("amq.txt")}, {}, false}, folder.Folder(), [&](double done, std::string_view) {
+          if (done >= moment) throw std::bad_alloc();
+          return true;
+        });
+    ASSERT_TRUE(outcome.failure);
+    EXPECT_EQ(outcome.failure->Message(),
+              "there is not enough memory for so long files; the station files are as they were");
+    EXPECT_EQ(Holds(folder, before, before), "old");
+  }
 }
 
 TEST(RunImport, TheDateIsThatOfTheNewestFileWithRows) {
