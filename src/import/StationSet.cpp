@@ -31,11 +31,11 @@ StationRecord ToRecord(const Station& station) {
   for (const Tower& tower : *station.towers) {
     const auto i = static_cast<std::size_t>(++record.TowerCount);
     record.Switch[i] = "0";
-    record.Fields[i] = static_cast<float>(tower.field);
-    record.Heights[i] = static_cast<float>(tower.height);
-    record.Phases[i] = static_cast<float>(tower.phase);
-    record.Spacings[i] = static_cast<float>(tower.spacing);
-    record.Bearings[i] = static_cast<float>(tower.bearing);
+    record.Fields[i] = tower.field;
+    record.Heights[i] = tower.height;
+    record.Phases[i] = tower.phase;
+    record.Spacings[i] = tower.spacing;
+    record.Bearings[i] = tower.bearing;
   }
   return record;
 }

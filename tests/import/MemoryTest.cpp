@@ -2,9 +2,11 @@
 
 #include <QDir>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <iostream>
 #include <string>
 #include <vector>
@@ -135,6 +137,61 @@ TEST(ImportMemory, AListStaysUnderThreeTimesItsSize) {
   ExpectInProportion("one call sign", {Rows(9000, oneName)}, Rows(9000, oneName));
   ExpectInProportion("others than before", {Rows(9000, oneChannel)}, Rows(9000, oneName));
   ExpectInProportion("ended", {ShortestRow{"A"}.Text() + Rows(30'000, ended)});
+}
+
+/// A table of these columns alone, with a header; rows shorter than real ones begin with blanks.
+std::string Table(const std::vector<std::string>& columns, int count, std::size_t shortest,
+                  const std::function<std::vector<std::string>(int)>& values) {
+  const auto line = [](const std::vector<std::string>& fields) {
+    std::string text;
+    for (const std::string& field : fields) text += (text.empty() ? "" : "|") + field;
+    return text;
+  };
+  return line(columns) + '\n' + Rows(count, [&](int i) {
+           const std::string row = line(values(i));
+           return std::string(shortest - std::min(shortest, row.size()), ' ') + row + '\n';
+         });
+}
+
+TEST(ImportMemory, TablesStayUnderThreeTimesTheirSize) {
+  // Three antennas a station. 25,000 rows make their index as large as it gets for their number.
+  constexpr int kAntennas = 25'000;
+  constexpr int kStations = kAntennas / 3 + 1;
+  const std::string systems =
+      Table({"ant_sys_id", "application_id", "hours_operation", "lat_deg", "lat_dir", "lat_min", "lat_sec",
+             "lon_deg", "lon_dir", "lon_min", "lon_sec", "power", "eng_record_type"},
+            kAntennas, 64, [](int i) {
+              return std::vector<std::string>{
+                  Name(i), Name(i / 3), std::string(1, "DNC"[i % 3]), "1", "N", "1", "1", "90", "W", "1", "1",
+                  "1",     "C"};
+            });
+  const std::string engineering =
+      Table({"application_id", "facility_id", "station_class"}, kStations, 32, [](int i) {
+        return std::vector<std::string>{Name(i), std::to_string(i + 1), ""};
+      });
+  const std::string facilities =
+      Table({"facility_id", "fac_callsign", "fac_frequency", "fac_service", "fac_status", "comm_city",
+             "comm_state", "fac_country"},
+            kStations, 32, [](int i) {
+              return std::vector<std::string>{
+                  std::to_string(i + 1), Name(i), std::to_string(Channel(i)), "AM", "", "", "", "MX"};
+            });
+  const auto towers = [](int each) {
+    return Table({"ant_sys_id", "tower_num", "field_ratio", "phasing_deg", "spacing_deg", "orientation_deg",
+                  "tower_ref_switch"},
+                 kAntennas * each, 40, [each](int i) {
+                   return std::vector<std::string>{
+                       Name(i / each), std::to_string(i % each + 1), "1", "", "", "", ""};
+                 });
+  };
+  const std::string station = ShortestRow{"A"}.Text();
+  ExpectInProportion("antennas", {station, systems});
+  ExpectInProportion("applications", {station, engineering});
+  ExpectInProportion("facilities", {station, facilities});
+  ExpectInProportion("towers", {station, towers(1)});
+  ExpectInProportion("all tables", {systems, engineering, facilities});
+  ExpectInProportion("all, a tower each", {systems, engineering, facilities, towers(1)});
+  ExpectInProportion("all, three towers each", {systems, engineering, facilities, towers(3)});
 }
 
 }  // namespace
