@@ -11,37 +11,37 @@ namespace {
 
 constexpr double kMostDegrees = 100000;  // of a height or spacing
 
-/// Keeps `value` under `key`; an earlier row there is left out.
-template <typename Key, typename Value>
-void Keep(std::unordered_map<Key, Value>& map, Key key, Value value, ImportReport& report) {
-  const auto at = map.find(key);
-  if (at == map.end()) {
-    map.emplace(std::move(key), std::move(value));
+/// Keeps `row`; an earlier one of its key is left out.
+template <typename Row>
+void Keep(KeyedRows<Row>& rows, Row row, ImportReport& report) {
+  Row* const earlier = rows.Find(row.Key());
+  if (!earlier) {
+    rows.Add(std::move(row));
     return;
   }
-  report.LeaveOut(at->second.row, Finding::Superseded, KeyText(key));
-  at->second = std::move(value);
+  report.LeaveOut(earlier->row, Finding::Superseded, KeyText(row.Key()));
+  *earlier = std::move(row);
 }
 
 /// What an earlier file has under `key` is left out, now that this row is there and tells of nothing in its
 /// place.
-template <typename Key, typename Value>
-void Withdraw(std::unordered_map<Key, Value>& map, const Key& key, const TableRow& row,
+template <typename Row>
+void Withdraw(KeyedRows<Row>& rows, typename KeyedRows<Row>::Key key, const TableRow& row,
               ImportReport& report) {
-  const auto at = map.find(key);
-  if (at == map.end() || at->second.row.file == row.Place().file) return;
-  report.LeaveOut(at->second.row, Finding::Superseded, KeyText(key) + ", by a later file");
-  map.erase(at);
+  const Row* const earlier = rows.Find(key);
+  if (!earlier || earlier->row.file == row.Place().file) return;
+  report.LeaveOut(earlier->row, Finding::Superseded, KeyText(key) + ", by a later file");
+  rows.Remove(key);
 }
 
 /// A later file tells of a whole array anew, even when it has no tower of it in force.
 void WithdrawTowers(AntennaTables& tables, const std::string& system, const TableRow& row,
                     ImportReport& report) {
-  const auto at = tables.towers.find(system);
-  if (at == tables.towers.end() || at->second.front().row.file == row.Place().file) return;
-  for (const TowerRow& old : at->second)
+  const TowerRows* const earlier = tables.towers.Find(system);
+  if (!earlier || earlier->rows.front().row.file == row.Place().file) return;
+  for (const TowerRow& old : earlier->rows)
     report.LeaveOut(old.row, Finding::Superseded, "tower " + std::to_string(old.number));
-  tables.towers.erase(at);
+  tables.towers.Remove(system);
 }
 
 /// Rows of the current system that are no longer in force are left out here.
@@ -54,8 +54,8 @@ bool IsInForce(TableRow& row) {
 void ReadAntennaSystem(TableRow& row, bool current, AntennaTables& tables, ImportReport& report) {
   AntennaSystem system;
   system.row = row.Place();
-  std::string id = row.Key("ant_sys_id");
-  system.application = row.Key("application_id");
+  const std::string id = row.Key("ant_sys_id");
+  system.texts = PackedTexts<2>({id, row.Key("application_id")});
   system.current = current;
   const auto withdraw = [&] { Withdraw(tables.systems, id, row, report); };
   if (!IsInForce(row)) return withdraw();
@@ -74,11 +74,11 @@ void ReadAntennaSystem(TableRow& row, bool current, AntennaTables& tables, Impor
   system.hours = hours == "R" ? 'C' : row.Letter("hours_operation");
   system.domesticStatus = row.Letter("am_dom_status");
   system.directional = row.Letter("ant_dir_ind") == 'Y';
-  system.towerCount = static_cast<int>(row.Number("tower_count", 0, 1000).value_or(0));
+  system.towerCount = static_cast<std::int16_t>(row.Number("tower_count", 0, 1000).value_or(0));
   system.powerKW = row.Number("power", 0, 1e6).value_or(0);
   system.position = row.Position();
   if (row.Faulty()) return;
-  Keep(tables.systems, std::move(id), std::move(system), report);
+  Keep(tables.systems, std::move(system), report);
 }
 
 /// Of a top-loaded tower without a height of its own: the height of its parts.
@@ -96,7 +96,7 @@ double ElectricalHeight(TableRow& row) {
 void ReadTower(TableRow& row, AntennaTables& tables, ImportReport& report) {
   TowerRow tower;
   tower.row = row.Place();
-  std::string system = row.Key("ant_sys_id");
+  const std::string system = row.Key("ant_sys_id");
   if (!IsInForce(row)) return WithdrawTowers(tables, system, row, report);
   row.Key("tower_num");
   tower.number = static_cast<std::int16_t>(row.Number("tower_num", 1, 1000).value_or(0));
@@ -114,7 +114,9 @@ void ReadTower(TableRow& row, AntennaTables& tables, ImportReport& report) {
   if (row.Faulty()) return;
 
   WithdrawTowers(tables, system, row, report);
-  std::vector<TowerRow>& towers = tables.towers[std::move(system)];
+  TowerRows* array = tables.towers.Find(system);
+  if (!array) array = &tables.towers.Add({PackedTexts<1>({system}), {}});
+  std::vector<TowerRow>& towers = array->rows;
   const auto same = std::find_if(towers.begin(), towers.end(),
                                  [&](const TowerRow& old) { return old.number == tower.number; });
   if (same == towers.end()) {
@@ -125,19 +127,19 @@ void ReadTower(TableRow& row, AntennaTables& tables, ImportReport& report) {
   }
 }
 
-void ReadApplication(TableRow& row, std::unordered_map<std::string, ApplicationRow>& map,
-                     ImportReport& report) {
+void ReadApplication(TableRow& row, KeyedRows<ApplicationRow>& rows, ImportReport& report) {
   ApplicationRow application;
   application.row = row.Place();
-  std::string id = row.Key("application_id");
-  if (!IsInForce(row)) return Withdraw(map, id, row, report);
+  const std::string id = row.Key("application_id");
+  application.id = PackedTexts<1>({id});
+  if (!IsInForce(row)) return Withdraw(rows, id, row, report);
   application.facility = row.Facility();
   application.domesticStatus = row.Letter("am_dom_status");
   const std::string_view service = row.Text("app_service");
   if (!service.empty() && service != "AM")
     return row.LeaveOut(Finding::OtherService, "service \"" + std::string(service) + '"');
   if (row.Faulty()) return;
-  Keep(map, std::move(id), application, report);
+  Keep(rows, std::move(application), report);
 }
 
 void ReadFacility(TableRow& row, AntennaTables& tables, ImportReport& report) {
@@ -147,15 +149,16 @@ void ReadFacility(TableRow& row, AntennaTables& tables, ImportReport& report) {
   if (!IsInForce(row)) return Withdraw(tables.facilities, id, row, report);
   FacilityRow facility;
   facility.row = row.Place();
+  facility.facility = id;
   if (id == 0) row.Fail("facility_id");
   facility.names =
       StationNames(UpperCase(MendedName(row.Text("fac_callsign"))), MendedName(row.Text("comm_city")),
                    MendedName(row.Text("comm_state")), row.Text("fac_country"));
-  facility.status = row.Text("fac_status");
   facility.frequency = row.Number("fac_frequency", 0, 1e6).value_or(0);
-  facility.application = row.Text("application_id");
+  facility.texts =
+      PackedTexts<2>({Columns(row.Text("fac_status"), 1, 50), row.OptionalKey("application_id")});
   if (row.Faulty()) return;
-  Keep(tables.facilities, id, std::move(facility), report);
+  Keep(tables.facilities, std::move(facility), report);
 }
 
 }  // namespace

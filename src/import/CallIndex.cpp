@@ -93,6 +93,15 @@ std::string IndexLine(const Site& site) {
          PositionColumn(station.position.longitude) + "\r\n";
 }
 
+/// The order of their lines, which begin with call sign and channel; only those that share them are written
+/// out for it.
+bool LineLess(const Site& a, const Site& b) {
+  const auto front = [](const Site& site) {
+    return std::pair(Columns(site.station->names.CallSign(), 1, 8), site.station->channel);
+  };
+  return front(a) != front(b) ? front(a) < front(b) : IndexLine(a) < IndexLine(b);
+}
+
 bool CanBeHome(const Site& site) {
   const SitePosition& p = site.station->position;
   return p.latitude >= -88 && p.latitude <= 88 && p.longitude >= 30 && p.longitude <= 170;
@@ -142,6 +151,7 @@ void SortByUse(std::vector<Site>& sites) {
 
 std::string CallIndexText(const Stations& stations, ImportReport& report) {
   std::vector<Site> sites;
+  sites.reserve(stations.size());
   ForEachSite(stations, [&](const Site& site) {
     if (CanBeHome(site))
       sites.push_back(site);
@@ -154,19 +164,19 @@ std::string CallIndexText(const Stations& stations, ImportReport& report) {
       report.Remark(sites[i].station->row, Finding::IndexFull, Named(sites[i]));
     sites.resize(MaxCalls);
   }
-  std::vector<std::string> lines;
-  lines.reserve(sites.size());
-  for (const Site& site : sites) lines.push_back(IndexLine(site));
-  std::sort(lines.begin(), lines.end());
+  std::sort(sites.begin(), sites.end(), LineLess);
+  std::size_t length = 0;
+  for (const Site& site : sites) length += IndexLine(site).size();
   std::string text;
-  for (const std::string& line : lines) text += line;
+  text.reserve(length);
+  for (const Site& site : sites) text += IndexLine(site);
   return text;
 }
 
-int SiteCount(const Stations& stations) {
-  int count = 0;
-  ForEachSite(stations, [&](const Site&) { ++count; });
-  return count;
+void CountStations(const Stations& stations, ImportReport& report) {
+  report.stations = 0;
+  ForEachSite(stations, [&](const Site&) { ++report.stations; });
+  report.records = static_cast<int>(stations.size());
 }
 
 }  // namespace kestrel

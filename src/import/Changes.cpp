@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <map>
 #include <numbers>
+#include <numeric>
 #include <optional>
 #include <tuple>
 #include <utility>
@@ -18,6 +18,7 @@ namespace {
 
 constexpr double kSamePlace = 1;  // km
 constexpr int kMostPairs = 400'000;
+constexpr std::size_t kMostChoices = 10'000;
 constexpr std::array kKinds = {ChangeKind::New,   ChangeKind::Gone,    ChangeKind::Moved,
                                ChangeKind::Power, ChangeKind::Pattern, ChangeKind::CallSign};
 
@@ -78,7 +79,7 @@ int Differences(const ListedAntenna& a, const ListedAntenna& b) {
 /// The two sides, and which antennas of each have found their counterpart.
 class Comparison {
  public:
-  Comparison(const std::vector<ListedAntenna>& before, const std::vector<ListedAntenna>& after)
+  Comparison(const ListedAntennas& before, const ListedAntennas& after)
       : before_(before), after_(after), foundBefore_(before.size()), foundAfter_(after.size()) {}
 
   /// Pairs those of equal key on one site: the like ones first, so that the order of twins does not matter,
@@ -108,33 +109,63 @@ class Comparison {
   }
 
  private:
+  using Order = std::vector<std::uint32_t>;
+
   /// Pairs those of equal key, the smallest rank first; those without a rank do not belong together.
   template <typename Key, typename Paired, typename Rank>
   void Pair(Key key, Paired paired, Rank rank) {
-    std::multimap<decltype(key(before_.front())), std::size_t> byKey;
-    for (std::size_t i = 0; i < before_.size(); ++i)
-      if (!foundBefore_[i]) byKey.emplace(key(before_[i]), i);
-    std::vector<std::tuple<std::pair<double, double>, std::size_t, std::size_t>> pairs;
+    const Order olds = Unfound(before_, foundBefore_, key);
+    const Order news = Unfound(after_, foundAfter_, key);
     int left = kMostPairs;
-    for (std::size_t j = 0; j < after_.size(); ++j) {
-      if (foundAfter_[j]) continue;
-      const auto [first, last] = byKey.equal_range(key(after_[j]));
-      for (auto at = first; at != last && left > 0; ++at, --left) {
-        const ListedAntenna& old = before_[at->second];
-        if (const auto ranked = rank(old, after_[j], Distance(old, after_[j])); ranked)
-          pairs.emplace_back(*ranked, at->second, j);
+    for (auto begin = news.begin(); begin != news.end();) {
+      const auto wanted = key(after_[*begin]);
+      const auto end = std::find_if(begin, news.end(), [&](auto j) { return key(after_[j]) != wanted; });
+      auto first = std::lower_bound(olds.begin(), olds.end(), wanted,
+                                    [&](auto i, const auto& value) { return key(before_[i]) < value; });
+      const auto last = std::find_if(first, olds.end(), [&](auto i) { return key(before_[i]) != wanted; });
+
+      std::deque<std::tuple<std::pair<double, double>, std::uint32_t, std::uint32_t>> choices;
+      for (; begin != end; ++begin) {
+        while (first != last && foundBefore_[*first]) ++first;
+        for (auto at = first; at != last && left > 0 && !foundAfter_[*begin]; ++at) {
+          if (foundBefore_[*at]) continue;
+          --left;
+          const ListedAntenna& old = before_[*at];
+          const ListedAntenna& now = after_[*begin];
+          const std::optional<std::pair<double, double>> ranked = rank(old, now, Distance(old, now));
+          if (!ranked) continue;
+          if (*ranked == std::pair(0.0, 0.0))  // it will not find a better one
+            Join(*at, *begin, paired);
+          else if (choices.size() < kMostChoices)
+            choices.emplace_back(*ranked, *at, *begin);
+        }
       }
-    }
-    std::sort(pairs.begin(), pairs.end());
-    for (const auto& [ranked, i, j] : pairs) {
-      if (foundBefore_[i] || foundAfter_[j]) continue;
-      foundBefore_[i] = foundAfter_[j] = true;
-      paired(before_[i], after_[j], Distance(before_[i], after_[j]));
+      std::sort(choices.begin(), choices.end());
+      for (const auto& [ranked, i, j] : choices)
+        if (!foundBefore_[i] && !foundAfter_[j]) Join(i, j, paired);
     }
   }
 
-  const std::vector<ListedAntenna>& before_;
-  const std::vector<ListedAntenna>& after_;
+  template <typename Paired>
+  void Join(std::uint32_t i, std::uint32_t j, Paired paired) {
+    foundBefore_[i] = foundAfter_[j] = true;
+    paired(before_[i], after_[j], Distance(before_[i], after_[j]));
+  }
+
+  /// Those without a counterpart, sorted by key.
+  template <typename Key>
+  static Order Unfound(const ListedAntennas& antennas, const std::vector<bool>& found, Key key) {
+    Order order(antennas.size());
+    std::iota(order.begin(), order.end(), 0U);
+    std::erase_if(order, [&](auto i) { return found[i]; });
+    std::sort(order.begin(), order.end(), [&](auto a, auto b) {
+      return std::pair(key(antennas[a]), a) < std::pair(key(antennas[b]), b);
+    });
+    return order;
+  }
+
+  const ListedAntennas& before_;
+  const ListedAntennas& after_;
   std::vector<bool> foundBefore_;
   std::vector<bool> foundAfter_;
 };
@@ -159,8 +190,8 @@ std::string_view ChangeName(ChangeKind kind) {
   return {};
 }
 
-std::vector<ListedAntenna> ReadAntennas(int channel, const std::string& fileName, std::string_view bytes) {
-  std::vector<ListedAntenna> antennas;
+ListedAntennas ReadAntennas(int channel, const std::string& fileName, std::string_view bytes) {
+  ListedAntennas antennas;
   StationFileReader reader(fileName, bytes);
   while (const StationRecord* record = reader.Next()) {
     ListedAntenna antenna;
@@ -193,7 +224,7 @@ std::string ChangeDetail(const Change& change) {
   }
 }
 
-Changes CompareChannel(const std::vector<ListedAntenna>& before, const std::vector<ListedAntenna>& after) {
+Changes CompareChannel(const ListedAntennas& before, const ListedAntennas& after) {
   Changes changes;
   const auto add = [&](ChangeKind kind, const ListedAntenna& antenna, std::string_view formerCallSign,
                        float was, float is) {

@@ -52,17 +52,19 @@ struct Change {
 
 using Changes = std::deque<Change>;
 
+using ListedAntennas = std::deque<ListedAntenna>;
+
 /// The antennas of a station file.
-std::vector<ListedAntenna> ReadAntennas(int channel, const std::string& fileName, std::string_view bytes);
+ListedAntennas ReadAntennas(int channel, const std::string& fileName, std::string_view bytes);
 
 /// The differences on one channel. Antennas of the same hours belong together: first those of one call sign
 /// within 1 km, of several those of like power and pattern, whatever their order; then those within 1 km of
 /// another call sign, which have changed it; then those of one call sign anywhere, the nearest first. The
 /// rest are gone or new. An antenna more than 1 km off has moved; another power or, the power aside, another
 /// pattern are changes of their own. Where there are so many of one call sign or site as no band has, some
-/// stay without their counterpart: at most 400,000 pairs are looked at in each of the three turns. Sorted by
-/// kind, call sign and hours.
-Changes CompareChannel(const std::vector<ListedAntenna>& before, const std::vector<ListedAntenna>& after);
+/// stay without their counterpart: at most 400,000 pairs are looked at in each of the three turns, and 10,000
+/// of one call sign or hours are chosen from. Sorted by kind, call sign and hours.
+Changes CompareChannel(const ListedAntennas& before, const ListedAntennas& after);
 
 /// "12.3 km", "5 kW -> 10 kW", "2 towers -> 3 towers", "was KABC"; empty for new and gone.
 std::string ChangeDetail(const Change& change);

@@ -1,10 +1,12 @@
 #include "import/DataSwap.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
 #include <algorithm>
+#include <cstdlib>
 #include <memory>
 #include <optional>
 
@@ -20,6 +22,7 @@ const QString kKeptSet = ".import-undo";  // replaced by the last import
 const QString kJournal = ".import-journal";
 const QString kLock = ".import-lock";
 
+constexpr qint64 kLockIsMade = 10;     // seconds, and more than enough
 constexpr qint64 kLongestLock = 1000;  // bytes: a process, a program, two names of the machine
 
 /// What stopped the work: a step that was not allowed, or a refusal of the system.
@@ -45,7 +48,7 @@ class Exchange {
     if (HasForeignLock()) return false;
     lock_ = std::make_unique<QLockFile>(dir_.filePath(kLock));
     lock_->setStaleLockTime(0);  // a lock holds as long as its process
-    return lock_->tryLock(0);
+    return lock_->tryLock(0) || (NamesNoHolder() && lock_->removeStaleLockFile() && lock_->tryLock(0));
   }
   /// Whether it is another import that holds the lock.
   bool IsBusy() const { return lock_ && lock_->error() == QLockFile::LockFailedError; }
@@ -98,6 +101,17 @@ class Exchange {
   Result<Done> RunAnew(const SwapJournal& journal);
 
  private:
+  /// Whether the lock file does not say whose it is, as after a loss of power; one just being made does not
+  /// say so yet. One that a process holds open is not removed in any case.
+  bool NamesNoHolder() const {
+    qint64 process = 0;
+    QString machine;
+    QString program;
+    if (!IsBusy() || lock_->getLockInfo(&process, &machine, &program)) return false;
+    const QDateTime made = QFileInfo(dir_.filePath(kLock)).lastModified();
+    return std::abs(made.secsTo(QDateTime::currentDateTime())) > kLockIsMade;
+  }
+
   bool Allowed() {
     if (!step_ || step_()) return true;
     stopped_ = Stopped{true, {Error::Kind::Refused, "", 0, "the import was interrupted"}};
@@ -221,17 +235,17 @@ Result<Done> Recover(Exchange& exchange, const QString& folder) {
 
 }  // namespace
 
-Result<Done> SwapInStations(const DataFolder& folder, const StationSet& files, const SwapStep& step) {
+Result<Done> SwapInStations(const DataFolder& folder, const FileSource& source, const SwapStep& step) {
   Exchange exchange(folder.Path(), step);
   if (!exchange.Lock()) return NotLocked(exchange, folder);
   if (const Result<Done> recovered = Recover(exchange, folder.Path()); !recovered) return recovered;
 
   SwapJournal journal{false, kNewSet, PresentFiles(folder.Path()), {}};
   exchange.MakeFolder(kNewSet);
-  for (const auto& [name, bytes] : files) {
+  source([&](const std::string& name, const std::string& bytes) {
     exchange.Write(kNewSet + '/' + QString::fromStdString(name), bytes);
     journal.newFiles << QString::fromStdString(name);
-  }
+  });
   exchange.Write(kJournal, JournalText(journal));
   if (const auto failure = exchange.Failure()) {
     exchange.Forgive();

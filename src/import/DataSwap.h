@@ -14,14 +14,18 @@ namespace kestrel {
 /// Called before each change on the disk; false abandons the work at this point, as a killed process would.
 using SwapStep = std::function<bool()>;
 
-/// Puts the set in the place of the folder's station files, "StationsCall.DAT" and "Stations.txt", and keeps
-/// those for UndoImport; what was kept before goes. No other file of the folder is touched. The new files are
-/// written beside the old ones first; interrupted before all are whole, the old set stays, later the new one
-/// is completed by RecoverImport. A failure brings the old set back; there is none once all files are
-/// exchanged. Errors: Refused, with the file that made the trouble, or the folder when it cannot be written
-/// to or another import is at work in it; NotAFile when something that is no lock file, a link or a long file
-/// among them, stands in the lock file's place; nothing is waited for.
-Result<Done> SwapInStations(const DataFolder& folder, const StationSet& files, const SwapStep& step = {});
+/// Hands out the files of a set, one after the other.
+using FileSource = std::function<void(const TakeFile&)>;
+
+/// Puts the set of `source` in the place of the folder's station files, "StationsCall.DAT" and
+/// "Stations.txt", and keeps those for UndoImport; what was kept before goes. No other file of the folder is
+/// touched. The new files are written beside the old ones first; interrupted before all are whole, the old
+/// set stays, later the new one is completed by RecoverImport. A failure brings the old set back; there is
+/// none once all files are exchanged. Errors: Refused, with the file that made the trouble, or the folder
+/// when it cannot be written to or another import is at work in it (a lock file that names no process and that none holds is passed
+/// over once it is ten seconds old); NotAFile when something that is no lock
+/// file, a link or a long file among them, stands in the lock file's place; nothing is waited for.
+Result<Done> SwapInStations(const DataFolder& folder, const FileSource& source, const SwapStep& step = {});
 
 /// Brings the set back that the last import replaced, and keeps the present one in its turn: done twice, all
 /// is as it was. Errors: NotFound when there is none; else as SwapInStations.

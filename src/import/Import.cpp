@@ -101,19 +101,19 @@ std::string StationsLine(const QDateTime& newest, const Readings& readings, int 
   return line + ", " + std::to_string(stations) + " stations";
 }
 
-Changes CompareWith(const DataFolder& folder, const StationSet& files) {
-  Changes changes;
-  for (int channel = static_cast<int>(LowestChannel); IsOnRaster(channel);
-       channel += static_cast<int>(ChannelStep)) {
-    const std::string name = StationFileName(static_cast<float>(channel)).toStdString();
+/// Takes note of what the file changes in the folder, and hands it on.
+void CompareAndPass(const std::string& name, std::string bytes, const DataFolder& folder,
+                    const TakeFile& take, Changes& changes) {
+  if (!name.ends_with("x.dat")) return take(name, std::move(bytes));
+  const int channel = std::stoi(name);
+  const ListedAntennas antennas = ReadAntennas(channel, name, bytes);
+  take(name, std::move(bytes));  // and is held no longer
+  const ListedAntennas before = [&] {
     const Result<QByteArray> old = folder.Read(QString::fromStdString(name));
-    const std::string_view oldBytes =
-        old ? std::string_view(old->constData(), static_cast<std::size_t>(old->size())) : "";
-    for (Change& change :
-         CompareChannel(ReadAntennas(channel, name, oldBytes), ReadAntennas(channel, name, files.at(name))))
-      changes.push_back(std::move(change));
-  }
-  return changes;
+    if (!old) return ListedAntennas{};
+    return ReadAntennas(channel, name, {old->constData(), static_cast<std::size_t>(old->size())});
+  }();
+  for (Change& change : CompareChannel(before, antennas)) changes.push_back(std::move(change));
 }
 
 ImportOutcome Import(const ImportRequest& request, const DataFolder& folder, const ImportProgress& progress) {
@@ -130,25 +130,34 @@ ImportOutcome Import(const ImportRequest& request, const DataFolder& folder, con
   };
 
   goesOn(kReadingShare, "putting the stations together");
-  const StationSet files = [&] {
-    const Stations stations =
-        MergeStations(std::move(readings.amq), readings.tables, request.options, outcome.report);
-    readings.tables = {};
-    outcome.stationsLine = StationsLine(newest, readings, SiteCount(stations));
-    return MakeStationSet(stations, outcome.stationsLine, outcome.report);
-  }();
-  if (outcome.failure) return outcome;
-  if (outcome.report.records == 0) {
+  Stations stations =
+      MergeStations(std::move(readings.amq), readings.tables, request.options, outcome.report);
+  readings.tables = {};
+  CountStations(stations, outcome.report);
+  outcome.stationsLine = StationsLine(newest, readings, outcome.report.stations);
+  if (stations.empty() && !outcome.failure)
     outcome.failure =
         Error{Error::Kind::Malformed, "", 0, "no station was found; the station files are as they were"};
+  goesOn(0.9, "making the station files");
+
+  const auto makeFiles = [&](const TakeFile& take) {
+    MakeStationFiles(std::move(stations), outcome.stationsLine, outcome.report, take);
+  };
+  const TakeFile drop = [](const std::string&, const std::string&) {};
+  if (outcome.failure) {
+    makeFiles(drop);  // for what the report has to say of them
     return outcome;
   }
-
-  goesOn(0.9, "comparing with the stations before");
-  outcome.changes = CompareWith(folder, files);
-  goesOn(0.95, "writing the station files");
-  if (outcome.failure || request.dryRun) return outcome;
-  if (const Result<Done> swapped = SwapInStations(folder, files); !swapped) {
+  const FileSource compared = [&](const TakeFile& take) {
+    makeFiles([&](const std::string& name, std::string bytes) {
+      CompareAndPass(name, std::move(bytes), folder, take, outcome.changes);
+    });
+  };
+  if (request.dryRun) {
+    compared(drop);
+    return outcome;
+  }
+  if (const Result<Done> swapped = SwapInStations(folder, compared); !swapped) {
     outcome.failure = swapped.error();
     return outcome;
   }

@@ -56,11 +56,17 @@ void Erase(Stations& stations, const std::vector<bool>& gone) {
   std::erase_if(stations, [&](const Station&) { return gone[i++]; });
 }
 
-/// The file of the last list that ends the station; -1 when none does. `ended` is sorted.
-int EndedIn(const Stations& ended, const Station& station) {
-  const auto [first, last] = std::equal_range(ended.begin(), ended.end(), station, IdentityLess);
+/// The file of the last list that ends the station, by its facility or, in a row without one, by its names;
+/// -1 when none does. `ended` is sorted.
+int EndedIn(const Stations& ended, Station station) {
   int file = -1;
-  for (auto at = first; at != last; ++at) file = std::max(file, at->row.file);
+  const auto look = [&] {
+    const auto [first, last] = std::equal_range(ended.begin(), ended.end(), station, IdentityLess);
+    for (auto at = first; at != last; ++at) file = std::max(file, at->row.file);
+  };
+  look();
+  station.facility = 0;
+  look();
   return file;
 }
 

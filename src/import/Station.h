@@ -16,11 +16,11 @@ namespace kestrel {
 
 /// A tower as the pattern needs it: its place counted from the reference point of the array.
 struct Tower {
-  double field = 1;    ///< ratio, above 0
-  double height = 90;  ///< electrical degrees
-  double phase = 0;    ///< degrees
-  double spacing = 0;  ///< electrical degrees
-  double bearing = 0;  ///< degrees true, 0 to 360
+  float field = 1;    ///< ratio, above 0
+  float height = 90;  ///< electrical degrees
+  float phase = 0;    ///< degrees
+  float spacing = 0;  ///< electrical degrees
+  float bearing = 0;  ///< degrees true, 0 to 360
 };
 
 /// The towers of an antenna. Stations that have the same ones share them.

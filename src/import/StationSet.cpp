@@ -1,5 +1,7 @@
 #include "import/StationSet.h"
 
+#include <utility>
+
 #include "data/StationFile.h"
 #include "data/StationLineText.h"
 #include "import/Countries.h"
@@ -29,11 +31,11 @@ StationRecord ToRecord(const Station& station) {
   for (const Tower& tower : *station.towers) {
     const auto i = static_cast<std::size_t>(++record.TowerCount);
     record.Switch[i] = "0";
-    record.Fields[i] = static_cast<float>(tower.field);
-    record.Heights[i] = static_cast<float>(tower.height);
-    record.Phases[i] = static_cast<float>(tower.phase);
-    record.Spacings[i] = static_cast<float>(tower.spacing);
-    record.Bearings[i] = static_cast<float>(tower.bearing);
+    record.Fields[i] = tower.field;
+    record.Heights[i] = tower.height;
+    record.Phases[i] = tower.phase;
+    record.Spacings[i] = tower.spacing;
+    record.Bearings[i] = tower.bearing;
   }
   return record;
 }
@@ -52,14 +54,36 @@ void RemarkOnNames(const Station& station, const FieldChanges& changes, ImportRe
     report.Remark(station.row, Finding::CountryUnknown, call + ", \"" + std::string(country) + '"');
 }
 
+/// The file of the channel, whose stations stand in front; they are taken away.
+std::string TakeChannel(int channel, Stations& stations, ImportReport& report) {
+  FieldChanges uncounted;
+  std::size_t length = 0;  // found beforehand: a text that grows holds twice as much for a while
+  for (auto at = stations.begin(); at != stations.end() && at->channel == channel; ++at)
+    length += StationRecordText(channel, ToRecord(*at), uncounted).size();
+  std::string text;
+  text.reserve(length);
+  for (; !stations.empty() && stations.front().channel == channel; stations.pop_front()) {
+    FieldChanges changes;
+    text += StationRecordText(channel, ToRecord(stations.front()), changes);
+    RemarkOnNames(stations.front(), changes, report);
+  }
+  return text;
+}
+
+/// Calls `each` with every channel.
+template <typename Each>
+void ForEachChannel(Each each) {
+  for (int channel = static_cast<int>(LowestChannel); IsOnRaster(channel);
+       channel += static_cast<int>(ChannelStep))
+    each(channel);
+}
+
 }  // namespace
 
 const std::vector<std::string>& StationSetNames() {
   static const std::vector<std::string> names = [] {
     std::vector<std::string> all;
-    for (int channel = static_cast<int>(LowestChannel); IsOnRaster(channel);
-         channel += static_cast<int>(ChannelStep))
-      all.push_back(FileName(channel));
+    ForEachChannel([&](int channel) { all.push_back(FileName(channel)); });
     all.emplace_back(kCallIndex);
     all.emplace_back(kStationsLine);
     return all;
@@ -67,19 +91,18 @@ const std::vector<std::string>& StationSetNames() {
   return names;
 }
 
-StationSet MakeStationSet(const Stations& stations, std::string_view stationsLine, ImportReport& report) {
+void MakeStationFiles(Stations stations, std::string_view stationsLine, ImportReport& report,
+                      const TakeFile& take) {
+  take(std::string(kCallIndex), CallIndexText(stations, report));
+  ForEachChannel([&](int channel) { take(FileName(channel), TakeChannel(channel, stations, report)); });
+  take(std::string(kStationsLine), std::string(stationsLine) + "\r\n");
+}
+
+StationSet MakeStationSet(Stations stations, std::string_view stationsLine, ImportReport& report) {
+  CountStations(stations, report);
   StationSet files;
-  for (const std::string& name : StationSetNames()) files[name];
-  files[std::string(kCallIndex)] = CallIndexText(stations, report);
-  for (const Station& station : stations) {
-    FieldChanges changes;
-    files[FileName(station.channel)] += StationRecordText(station.channel, ToRecord(station), changes);
-    RemarkOnNames(station, changes, report);
-  }
-  for (auto& [name, bytes] : files) bytes.shrink_to_fit();
-  files[std::string(kStationsLine)] = std::string(stationsLine) + "\r\n";
-  report.stations = SiteCount(stations);
-  report.records = static_cast<int>(stations.size());
+  MakeStationFiles(std::move(stations), stationsLine, report,
+                   [&](const std::string& name, std::string bytes) { files[name] = std::move(bytes); });
   return files;
 }
 

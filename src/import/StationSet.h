@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
@@ -17,9 +18,17 @@ using StationSet = std::map<std::string, std::string>;
 /// The names of those files.
 const std::vector<std::string>& StationSetNames();
 
-/// The files for these stations, sorted by channel. `stationsLine` is the line of "Stations.txt". Counts
-/// stations and records in `report` and remarks on names that did not fit.
-StationSet MakeStationSet(const Stations& stations, std::string_view stationsLine, ImportReport& report);
+/// Takes one of the files, whole.
+using TakeFile = std::function<void(const std::string& name, std::string bytes)>;
+
+/// Makes the files for these stations, which are sorted by channel, and hands out one after the other, so
+/// that no more than one need be held; the stations go as they are written. `stationsLine` is the line of
+/// "Stations.txt". Remarks in `report` on names that did not fit.
+void MakeStationFiles(Stations stations, std::string_view stationsLine, ImportReport& report,
+                      const TakeFile& take);
+
+/// The files all together, and the stations counted in `report`.
+StationSet MakeStationSet(Stations stations, std::string_view stationsLine, ImportReport& report);
 
 /// The lines of "StationsCall.DAT": one for each call sign, channel and site within the limits that a home
 /// may have, sorted by call sign, CR LF behind each. Of more than MaxCalls those are kept that serve best for
@@ -27,7 +36,7 @@ StationSet MakeStationSet(const Stations& stations, std::string_view stationsLin
 /// last. `report` tells of those that are not listed.
 std::string CallIndexText(const Stations& stations, ImportReport& report);
 
-/// The sites of the stations: antennas of one call sign, channel and position count once.
-int SiteCount(const Stations& stations);
+/// Counts stations and records in `report`.
+void CountStations(const Stations& stations, ImportReport& report);
 
 }  // namespace kestrel

@@ -7,6 +7,7 @@ namespace kestrel {
 namespace {
 
 constexpr std::string_view kEndMark = "|^|";
+constexpr std::size_t kLongestKey = 200;  // bytes
 
 }  // namespace
 
@@ -46,9 +47,15 @@ std::string_view TableRow::Text(std::string_view column) const {
 }
 
 std::string TableRow::Key(std::string_view column) {
+  if (Text(column).empty()) Fail(column);
+  return OptionalKey(column);
+}
+
+std::string TableRow::OptionalKey(std::string_view column) {
   const std::string_view text = Text(column);
-  if (text.empty()) Fail(column);
-  return std::string(text);
+  if (text.size() <= kLongestKey) return std::string(text);
+  Fail(column);
+  return {};
 }
 
 std::optional<double> TableRow::Number(std::string_view column, double least, double most) {

@@ -31,8 +31,10 @@ class TableRow {
   std::string_view Text(std::string_view column) const;
   bool HasColumn(std::string_view column) const { return columns_.contains(column); }
 
-  /// The key in the column, which must not be empty.
+  /// The key in the column, of at most 200 bytes, which must not be empty.
   std::string Key(std::string_view column);
+  /// The same where there may be none.
+  std::string OptionalKey(std::string_view column);
   /// The number in the column; nothing when it is empty.
   std::optional<double> Number(std::string_view column, double least, double most);
   /// The first letter of the column, 0 when it is empty.

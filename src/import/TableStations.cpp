@@ -1,6 +1,7 @@
 #include "import/TableStations.h"
 
 #include <algorithm>
+#include <deque>
 
 #include "data/StationLineText.h"
 #include "import/Countries.h"
@@ -9,18 +10,12 @@
 namespace kestrel {
 namespace {
 
-template <typename Map>
-const typename Map::mapped_type* Lookup(const Map& map, const typename Map::key_type& key) {
-  const auto found = map.find(key);
-  return found == map.end() ? nullptr : &found->second;
-}
-
 bool Earlier(RowPlace a, RowPlace b) {
   return std::tie(a.file, a.line) < std::tie(b.file, b.line);
 }
 
-std::string Named(const std::string& antennaSystem) {
-  return "antenna system " + antennaSystem;
+std::string Named(const AntennaSystem& system) {
+  return "antenna system " + std::string(system.Key());
 }
 
 /// "WAAA D", or with a fault "WAAA D, 2 of 3 towers".
@@ -32,37 +27,46 @@ std::string Named(const Station& station, const std::string& fault) {
 
 TableStations::TableStations(const AntennaTables& tables, const ImportOptions& options, ImportReport& report)
     : tables_(tables), options_(options), report_(report) {
-  for (const auto& [id, facility] : tables.facilities)
-    if (!facility.application.empty()) facilityOfApplication_.emplace(facility.application, id);
+  for (const FacilityRow& facility : tables.facilities)
+    if (!facility.Application().empty()) byApplication_.push_back(&facility);
+  std::sort(byApplication_.begin(), byApplication_.end(), [](const FacilityRow* a, const FacilityRow* b) {
+    return std::tuple(a->Application(), a->facility) < std::tuple(b->Application(), b->facility);
+  });
 
-  std::vector<const Entry*> inOrder;
-  inOrder.reserve(tables.systems.size());
-  for (const Entry& entry : tables.systems) inOrder.push_back(&entry);
-  std::sort(inOrder.begin(), inOrder.end(),
-            [](const Entry* a, const Entry* b) { return Earlier(a->second.row, b->second.row); });
-  systems_.reserve(inOrder.size());
-  for (const Entry* entry : inOrder) Join(*entry);
+  systems_.reserve(tables.systems.size());
+  for (const AntennaSystem& row : tables.systems) systems_.push_back({&row});
+  std::sort(systems_.begin(), systems_.end(),
+            [](const System& a, const System& b) { return Earlier(a.row->row, b.row->row); });
+  std::erase_if(systems_, [this](System& system) {
+    if (Join(system)) return false;
+    report_.LeaveOut(system.row->row, Finding::NotLicensed, Named(*system.row));
+    return true;
+  });
   BuildIndexes();
 }
 
-void TableStations::Join(const Entry& entry) {
-  const AntennaSystem& system = entry.second;
-  const ApplicationRow* engineering = Lookup(tables_.engineering, system.application);
-  const std::optional<Standing> standing = StandingOf(system, engineering);
-  if (!standing) return report_.LeaveOut(system.row, Finding::NotLicensed, Named(entry.first));
+bool TableStations::Join(System& system) const {
+  const std::string_view application = system.row->Application();
+  const ApplicationRow* engineering = tables_.engineering.Find(application);
+  const std::optional<Standing> standing = StandingOf(*system.row, engineering);
+  if (!standing) return false;
 
-  System joined{&entry, nullptr, 0, *standing};
-  if (engineering) joined.facility = engineering->facility;
-  if (const ApplicationRow* application = Lookup(tables_.applications, system.application);
-      application && joined.facility == 0)
-    joined.facility = application->facility;
-  if (const FacilityId* facility = Lookup(facilityOfApplication_, system.application); facility)
-    joined.facility = *facility;
-  joined.station = Lookup(tables_.facilities, joined.facility);
-  systems_.push_back(joined);
+  system.standing = *standing;
+  if (engineering) system.facility = engineering->facility;
+  if (const ApplicationRow* row = tables_.applications.Find(application); row && system.facility == 0)
+    system.facility = row->facility;
+  const auto current = std::lower_bound(
+      byApplication_.begin(), byApplication_.end(), application,
+      [](const FacilityRow* row, std::string_view wanted) { return row->Application() < wanted; });
+  if (current != byApplication_.end() && (*current)->Application() == application)
+    system.facility = (*current)->facility;
+  system.station = tables_.facilities.Find(system.facility);
+  return true;
 }
 
 void TableStations::BuildIndexes() {
+  byFacility_.reserve(systems_.size());
+  byCall_.reserve(systems_.size());
   for (std::uint32_t i = 0; i < systems_.size(); ++i) {
     if (systems_[i].facility != 0) byFacility_.push_back(i);
     if (systems_[i].station) byCall_.push_back(i);
@@ -114,15 +118,15 @@ std::optional<std::size_t> TableStations::FindByCall(const Station& station,
 std::size_t TableStations::IndexOf(RowPlace row) const {
   const auto at =
       std::lower_bound(systems_.begin(), systems_.end(), row,
-                       [](const System& s, RowPlace wanted) { return Earlier(s.Row().row, wanted); });
+                       [](const System& s, RowPlace wanted) { return Earlier(s.row->row, wanted); });
   return static_cast<std::size_t>(at - systems_.begin());
 }
 
 bool TableStations::IsOnAir(const System& system) const {
-  const std::string& status = system.station->status;
+  const std::string_view status = system.station->Status();
   const std::string_view country = system.station->names.Country();
   if (CountryCode(country) != "US" && !country.empty())
-    return system.standing == Standing::Abroad || system.Row().current;
+    return system.standing == Standing::Abroad || system.row->current;
   if (status == "LICEN" || (status == "LICSL" && options_.includeSilent))
     return system.standing != Standing::Abroad;
   return system.standing == Standing::Permit && status.starts_with("CP");
@@ -130,18 +134,18 @@ bool TableStations::IsOnAir(const System& system) const {
 
 std::optional<Fault> TableStations::MakeStation(std::size_t index, Station& station) const {
   const System& joined = systems_[index];
-  const AntennaSystem& system = joined.Row();
+  const AntennaSystem& system = *joined.row;
   if (joined.facility == 0)
-    return Fault{Finding::NoStation, Named(joined.Id()) + ", application " + system.application};
+    return Fault{Finding::NoStation, Named(system) + ", application " + std::string(system.Application())};
   if (!joined.station)
-    return Fault{Finding::NoStation, Named(joined.Id()) + ", facility " + std::to_string(joined.facility)};
+    return Fault{Finding::NoStation, Named(system) + ", facility " + std::to_string(joined.facility)};
   const FacilityRow& facility = *joined.station;
   const StationNames& names = facility.names;
   const std::string callSign(names.CallSign());
   if (!IsCallSign(callSign)) return Fault{Finding::NotOnAir, "call sign \"" + callSign + '"'};
   if (!IsOnAir(joined))
-    return Fault{Finding::NotOnAir,
-                 callSign + ", status " + (facility.status.empty() ? "blank" : facility.status)};
+    return Fault{Finding::NotOnAir, callSign + ", status " +
+                                        std::string(facility.Status().empty() ? "blank" : facility.Status())};
   if (!IsOnRaster(facility.frequency))
     return Fault{Finding::OffRaster, callSign + ", " + DecimalText(facility.frequency, 3) + " kHz"};
   if (const std::string fault = PowerFault(system.powerKW); !fault.empty())
@@ -167,34 +171,37 @@ std::optional<Fault> TableStations::MakeStation(std::size_t index, Station& stat
 
 void TableStations::UseFor(std::size_t index, Station& station) {
   System& joined = systems_[index];
-  const AntennaSystem& system = joined.Row();
+  const AntennaSystem& system = *joined.row;
   if (!joined.used) report_.Take(system.row);
   joined.used = true;
 
-  const auto rows = tables_.towers.find(joined.Id());
-  if (rows == tables_.towers.end()) {
+  const TowerRows* towers = tables_.towers.Find(system.Key());
+  if (!towers) {
     const std::string none = "0 of " + std::to_string(system.towerCount) + " towers";
     return DoWithoutArray(station, Finding::TowersUnknown, system.towerCount > 1 ? none : "");
   }
-  TowerArray array = ResolveTowers(rows->second, system.towerCount);
+  TowerArray array = ResolveTowers(towers->rows, system.towerCount);
   const std::string count = std::to_string(array.towers.size()) + " towers";
   if (!array.fault.empty()) return DoWithoutArray(station, Finding::TowersUnknown, array.fault);
   if (array.tooMany) return DoWithoutArray(station, Finding::TooManyTowers, count);
 
-  TakeTowers(joined.Id(), array.fieldless);
+  TakeTowers(joined, *towers, array.fieldless);
   if (!station.directional && array.towers.size() > 1)
     report_.Remark(station.row, Finding::TowersDisagree, Named(station, count));
+  array.towers.shrink_to_fit();
   station.towers = std::make_shared<const std::vector<Tower>>(std::move(array.towers));
 }
 
-void TableStations::TakeTowers(const std::string& id, const std::vector<RowPlace>& fieldless) {
-  if (!takenTowers_.insert(id).second) return;
-  for (const TowerRow& tower : tables_.towers.at(id)) {
+void TableStations::TakeTowers(System& system, const TowerRows& towers,
+                               const std::vector<RowPlace>& fieldless) {
+  if (system.hasTowers) return;
+  system.hasTowers = true;
+  for (const TowerRow& tower : towers.rows) {
     const bool hasNoField = std::any_of(fieldless.begin(), fieldless.end(),
                                         [&](RowPlace row) { return row.line == tower.row.line; });
     if (hasNoField)
       report_.LeaveOut(tower.row, Finding::NoField,
-                       "antenna system " + id + ", tower " + std::to_string(tower.number));
+                       Named(*system.row) + ", tower " + std::to_string(tower.number));
     else
       report_.Take(tower.row);
   }
@@ -217,40 +224,48 @@ void TableStations::DoWithoutArray(Station& station, Finding why, const std::str
 }
 
 void TableStations::CloseAccounts() {
-  std::vector<std::string_view> applications;
-  std::vector<FacilityId> facilities;
+  std::vector<bool> engineering(tables_.engineering.size());
+  std::vector<bool> applications(tables_.applications.size());
+  std::vector<bool> facilities(tables_.facilities.size());
+  std::vector<bool> towers(tables_.towers.size());
+  const auto mark = [](std::vector<bool>& used, std::optional<std::size_t> index) {
+    if (index) used[*index] = true;
+  };
   for (const System& system : systems_) {
+    if (system.hasTowers) mark(towers, tables_.towers.IndexOf(system.row->Key()));
     if (!system.used) continue;
-    applications.push_back(system.Row().application);
-    facilities.push_back(system.facility);
+    mark(engineering, tables_.engineering.IndexOf(system.row->Application()));
+    mark(applications, tables_.applications.IndexOf(system.row->Application()));
+    mark(facilities, tables_.facilities.IndexOf(system.facility));
   }
-  std::sort(applications.begin(), applications.end());
-  std::sort(facilities.begin(), facilities.end());
-  const auto close = [this](const auto& rows, const auto& used, const std::string& what) {
-    std::vector<std::pair<RowPlace, decltype(&rows.begin()->first)>> unused;
-    for (const auto& [id, row] : rows) {
-      if (std::binary_search(used.begin(), used.end(), id))
-        report_.Take(row.row);
+
+  const auto close = [this](const auto& rows, const std::vector<bool>& used, const std::string& what) {
+    std::deque<std::uint32_t> unused;
+    for (std::uint32_t i = 0; i < rows.size(); ++i) {
+      if (used[i])
+        report_.Take(rows[i].row);
       else
-        unused.emplace_back(row.row, &id);
+        unused.push_back(i);
     }
     std::sort(unused.begin(), unused.end(),
-              [](const auto& a, const auto& b) { return Earlier(a.first, b.first); });
-    for (const auto& [row, id] : unused) report_.LeaveOut(row, Finding::NotReferred, what + KeyText(*id));
+              [&](auto a, auto b) { return Earlier(rows[a].row, rows[b].row); });
+    for (const auto i : unused)
+      report_.LeaveOut(rows[i].row, Finding::NotReferred, what + KeyText(rows[i].Key()));
   };
   close(tables_.facilities, facilities, "facility ");
-  close(tables_.engineering, applications, "application ");
+  close(tables_.engineering, engineering, "application ");
   close(tables_.applications, applications, "application ");
 
-  std::vector<std::pair<RowPlace, const std::string*>> unused;
-  for (const auto& [id, rows] : tables_.towers) {
-    if (takenTowers_.contains(id)) continue;
-    for (const TowerRow& row : rows) unused.emplace_back(row.row, &id);
+  std::deque<std::pair<RowPlace, std::uint32_t>> unused;
+  for (std::uint32_t i = 0; i < tables_.towers.size(); ++i) {
+    if (towers[i]) continue;
+    for (const TowerRow& tower : tables_.towers[i].rows) unused.emplace_back(tower.row, i);
   }
   std::sort(unused.begin(), unused.end(),
             [](const auto& a, const auto& b) { return Earlier(a.first, b.first); });
-  for (const auto& [row, id] : unused)
-    report_.LeaveOut(row, Finding::NotReferred, "a tower of antenna system " + *id);
+  for (const auto& [row, i] : unused)
+    report_.LeaveOut(row, Finding::NotReferred,
+                     "a tower of antenna system " + std::string(tables_.towers[i].Key()));
 }
 
 }  // namespace kestrel

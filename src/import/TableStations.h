@@ -1,9 +1,7 @@
 #pragma once
 
 #include <cstdint>
-#include <map>
 #include <optional>
-#include <set>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -42,7 +40,7 @@ class TableStations {
   bool IsUsed(std::size_t index) const { return systems_[index].used; }
   /// REQUIRES: a record stands in that row.
   std::size_t IndexOf(RowPlace row) const;
-  RowPlace RowOf(std::size_t index) const { return systems_[index].Row().row; }
+  RowPlace RowOf(std::size_t index) const { return systems_[index].row->row; }
 
   /// The station of a record, its towers not yet set; or why there is none on the air.
   std::optional<Fault> MakeStation(std::size_t index, Station& station) const;
@@ -56,38 +54,36 @@ class TableStations {
   void CloseAccounts();
 
  private:
-  enum class Standing { Licensed, Permit, Abroad };
-  using Entry = std::pair<const std::string, AntennaSystem>;  ///< of the table, with its ant_sys_id
+  enum class Standing : char { Licensed, Permit, Abroad };
   struct System {
-    const Entry* entry = nullptr;
+    const AntennaSystem* row = nullptr;
     const FacilityRow* station = nullptr;
     FacilityId facility = 0;  ///< 0 when no table tells
     Standing standing = Standing::Licensed;
     bool used = false;
+    bool hasTowers = false;  ///< its tower rows are accounted for
 
-    const std::string& Id() const { return entry->first; }
-    const AntennaSystem& Row() const { return entry->second; }
-    FacilityHours Hours() const { return {facility, Row().hours}; }
+    FacilityHours Hours() const { return {facility, row->hours}; }
     std::tuple<std::string_view, int, char> Call() const {
-      return {station->names.CallSign(), static_cast<int>(station->frequency), Row().hours};
+      return {station->names.CallSign(), static_cast<int>(station->frequency), row->hours};
     }
   };
 
-  void Join(const Entry& entry);
+  /// Looks the system's facility up; false when it is neither in force nor wanted.
+  bool Join(System& system) const;
   void BuildIndexes();
   std::optional<Standing> StandingOf(const AntennaSystem& system, const ApplicationRow* engineering) const;
   bool IsOnAir(const System& system) const;
-  void TakeTowers(const std::string& id, const std::vector<RowPlace>& fieldless);
+  void TakeTowers(System& system, const TowerRows& towers, const std::vector<RowPlace>& fieldless);
   void DoWithoutArray(Station& station, Finding why, const std::string& fault);
 
   const AntennaTables& tables_;
   const ImportOptions& options_;
   ImportReport& report_;
-  std::map<std::string_view, FacilityId> facilityOfApplication_;  // in the current system
+  std::vector<const FacilityRow*> byApplication_;  // of the current system, sorted
   std::vector<System> systems_;
-  std::vector<std::uint32_t> byFacility_;   // indexes of those with a facility, sorted by facility and hours
-  std::vector<std::uint32_t> byCall_;       // of those with a station, sorted by call sign, channel and hours
-  std::set<std::string_view> takenTowers_;  // ant_sys_id whose tower rows are accounted for
+  std::vector<std::uint32_t> byFacility_;  // indexes of those with a facility, sorted by facility and hours
+  std::vector<std::uint32_t> byCall_;      // of those with a station, sorted by call sign, channel and hours
 };
 
 }  // namespace kestrel

@@ -25,14 +25,14 @@ Place From(const Place& origin, const TowerRow& row) {
 /// Bearings of 0 to below 360; what rounding leaves of a sum of nothing is nothing.
 void SetPlace(Tower& tower, const Place& place) {
   constexpr double kNothing = 1e-9;
-  tower.spacing = std::hypot(place.east, place.north);
-  tower.bearing = 0;
-  if (tower.spacing < kNothing) {
-    tower.spacing = 0;
+  const double spacing = std::hypot(place.east, place.north);
+  if (spacing < kNothing) {
+    tower.spacing = tower.bearing = 0;
     return;
   }
-  tower.bearing = std::atan2(place.east, place.north) / kRadian;
-  if (tower.bearing < 0) tower.bearing += 360;
+  const double bearing = std::atan2(place.east, place.north) / kRadian;
+  tower.spacing = static_cast<float>(spacing);
+  tower.bearing = static_cast<float>(bearing < 0 ? bearing + 360 : bearing);
 }
 
 }  // namespace

@@ -10,7 +10,7 @@
 namespace kestrel {
 namespace {
 
-using testing::DoubleNear;
+using testing::FloatNear;
 
 /// The sample tables with one row of one of them changed: the first "from" becomes "to".
 TextImport WithChange(const std::string& table, const std::string& from, const std::string& to) {
@@ -43,10 +43,10 @@ TEST(TowerArray, AChainAddsUp) {
   ASSERT_EQ(array.towers.size(), 4U);
   EXPECT_EQ(array.towers[1].spacing, 90);
   EXPECT_EQ(array.towers[1].bearing, 40);
-  EXPECT_THAT(array.towers[2].spacing, DoubleNear(150.000, 5e-4));
-  EXPECT_THAT(array.towers[2].bearing, DoubleNear(93.1301, 5e-5));
-  EXPECT_THAT(array.towers[3].spacing, DoubleNear(148.3613, 5e-5));
-  EXPECT_THAT(array.towers[3].bearing, DoubleNear(69.9361, 5e-5));
+  EXPECT_THAT(array.towers[2].spacing, FloatNear(150.000F, 5e-4F));
+  EXPECT_THAT(array.towers[2].bearing, FloatNear(93.1301F, 5e-5F));
+  EXPECT_THAT(array.towers[3].spacing, FloatNear(148.3613F, 5e-5F));
+  EXPECT_THAT(array.towers[3].bearing, FloatNear(69.9361F, 5e-5F));
 }
 
 TEST(TowerArray, ATowerWithoutFieldStillCarriesTheNext) {
@@ -54,8 +54,8 @@ TEST(TowerArray, ATowerWithoutFieldStillCarriesTheNext) {
       ResolveTowers({Row(1, 1, 10, 0, true), Row(2, 0, 90, 90, false), Row(3, 1, 90, 90, true)}, 3);
   ASSERT_EQ(array.towers.size(), 2U);
   EXPECT_EQ(array.towers[0].spacing, 10);  // the first is never placed from another
-  EXPECT_THAT(array.towers[1].spacing, DoubleNear(180, 1e-9));
-  EXPECT_THAT(array.towers[1].bearing, DoubleNear(90, 1e-9));
+  EXPECT_THAT(array.towers[1].spacing, FloatNear(180.0F, 1e-4F));
+  EXPECT_THAT(array.towers[1].bearing, FloatNear(90.0F, 1e-4F));
   EXPECT_EQ(array.fieldless.size(), 1U);
 }
 

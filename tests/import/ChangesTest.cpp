@@ -93,6 +93,7 @@ TEST(Changes, AFullChannelOfOneCallSignIsCompared) {
   for (int i = 0; i < MaxRecords; ++i) before += kOne;
   const std::string after = With(before, " 1,-", " 2,-");
   EXPECT_FALSE(Differences(before, after).empty());
+  EXPECT_EQ(Differences(before, before), "No changes\n");
 }
 
 TEST(Changes, TheTextStopsWhereItIsTold) {

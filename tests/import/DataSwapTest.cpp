@@ -1,10 +1,13 @@
 #include "import/DataSwap.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QLockFile>
@@ -21,10 +24,10 @@ namespace {
 /// touch.
 class DataSwapTest : public testing::Test {
  protected:
-  static StationSet Set(const std::string& name) {
-    StationSet set;
-    for (const std::string& file : StationSetNames()) set[file] = name;
-    return set;
+  static FileSource Set(const std::string& name) {
+    return [name](const TakeFile& take) {
+      for (const std::string& file : StationSetNames()) take(file, name);
+    };
   }
 
   /// A fresh folder; `old` empty: without station files. One file has its name in other letters.
@@ -35,8 +38,8 @@ class DataSwapTest : public testing::Test {
     for (const char* name : {"REGION2.dat", "STATES.dat", "Kestrel.lst", "Kestrel.CFG"})
       EXPECT_TRUE(folder.Write(name, "untouched"));
     if (old.empty()) return folder;
-    for (const auto& [name, bytes] : Set(old))
-      EXPECT_TRUE(folder.Write(name == "1230x.dat" ? "1230X.DAT" : QString::fromStdString(name), bytes));
+    for (const std::string& name : StationSetNames())
+      EXPECT_TRUE(folder.Write(name == "1230x.dat" ? "1230X.DAT" : QString::fromStdString(name), old));
     return folder;
   }
 
@@ -246,6 +249,37 @@ TEST_F(DataSwapTest, ALockOfAProcessThatIsGoneHoldsNothing) {
   EXPECT_TRUE(SwapInStations(folder, Set("new")));
   EXPECT_EQ(Holds(folder), "new");
   ExpectTidy(folder, {".import-undo"});
+}
+
+TEST_F(DataSwapTest, ALockFileThatNamesNobodyLocksNobodyOut) {
+  const DataFolder folder = Fresh("old");
+  const QString lock = folder.Path() + "/.import-lock";
+  const auto put = [&](const std::string& text, int age) {
+    EXPECT_TRUE(folder.Write(".import-lock", text));
+    QFile file(lock);
+    EXPECT_TRUE(file.open(QIODevice::ReadWrite));
+    const QDateTime time = QDateTime::currentDateTime().addSecs(-age);
+    EXPECT_TRUE(file.setFileTime(time, QFileDevice::FileModificationTime));
+  };
+  for (const std::string text : {"", "garbled", "\n\n\n", "-1\nkestrel\n", "\xFF\x00\xFF"}) {
+    put(text, 60);
+    QDir(folder.Path()).mkdir(".import-new");
+    EXPECT_TRUE(RecoverImport(folder));
+    EXPECT_FALSE(QFileInfo::exists(folder.Path() + "/.import-new")) << text;
+    put(text, -3600);  // the clock was wrong
+    EXPECT_TRUE(SwapInStations(folder, Set("new"))) << text;
+    EXPECT_FALSE(QFileInfo::exists(lock)) << text;
+  }
+  EXPECT_EQ(Holds(folder), "new");
+
+  put("", 0);  // another import may be making it
+  EXPECT_EQ(SwapInStations(folder, Set("newer")).error().text, "another import is at work in it");
+  put("", 60);
+  const int held = open(QFile::encodeName(lock).constData(), O_RDWR);
+  ASSERT_EQ(flock(held, LOCK_EX), 0);
+  EXPECT_EQ(SwapInStations(folder, Set("newer")).error().text, "another import is at work in it");
+  close(held);
+  EXPECT_TRUE(SwapInStations(folder, Set("newer")));
 }
 
 TEST_F(DataSwapTest, WhatIsNoKeptSetIsNotPutBack) {

@@ -4,6 +4,7 @@
 
 #include <QDateTime>
 #include <QFile>
+#include <new>
 
 #include "ImportTesting.h"
 #include "TestFolder.h"
@@ -22,6 +23,12 @@ std::string Holds(const TestFolder& folder, const StationSet& before, const Stat
   return isWhole(before) ? "old" : isWhole(after) ? "new" : "mixed";
 }
 
+FileSource Source(const StationSet& set) {
+  return [&](const TakeFile& take) {
+    for (const auto& [name, bytes] : set) take(name, bytes);
+  };
+}
+
 /// The folder's set as it stands.
 StationSet SetOf(const TestFolder& folder) {
   StationSet set;
@@ -32,7 +39,7 @@ StationSet SetOf(const TestFolder& folder) {
 TEST(RunImport, CancelledAtAnyMomentItTellsWhatTheFolderHolds) {
   const TestFolder folder;
   const StationSet before = ImportTexts({{"amq", ListRow{.call = "QOLD"}.Text()}}).files;
-  ASSERT_TRUE(SwapInStations(folder.Folder(), before));
+  ASSERT_TRUE(SwapInStations(folder.Folder(), Source(before)));
   folder.Put("amq.txt", ListRow{.call = "QNEW"}.Text());
   const ImportRequest request{{folder.Path("amq.txt")}, {}, false};
   ASSERT_FALSE(RunImport(request, folder.Folder()).failure);
@@ -41,7 +48,7 @@ TEST(RunImport, CancelledAtAnyMomentItTellsWhatTheFolderHolds) {
 
   int calls = 0;
   for (int cancelAt = 1;; ++cancelAt) {
-    ASSERT_TRUE(SwapInStations(folder.Folder(), before));
+    ASSERT_TRUE(SwapInStations(folder.Folder(), Source(before)));
     calls = 0;
     double last = 0;
     const ImportOutcome outcome = RunImport(request, folder.Folder(), [&](double done, std::string_view) {
@@ -59,6 +66,24 @@ TEST(RunImport, CancelledAtAnyMomentItTellsWhatTheFolderHolds) {
     ExpectCountsAddUp(outcome.report);
   }
   EXPECT_GT(calls, 4);
+}
+
+TEST(RunImport, WantOfMemoryAtAnyMomentLeavesTheFiles) {
+  const TestFolder folder;
+  const StationSet before = ImportTexts({{"amq", ListRow{.call = "QOLD"}.Text()}}).files;
+  ASSERT_TRUE(SwapInStations(folder.Folder(), Source(before)));
+  folder.Put("amq.txt", ListRow{.call = "QNEW"}.Text());
+  for (const double moment : {0.0, 0.8, 0.9}) {
+    const ImportOutcome outcome =
+        RunImport({{folder.Path("amq.txt")}, {}, false}, folder.Folder(), [&](double done, std::string_view) {
+          if (done >= moment) throw std::bad_alloc();
+          return true;
+        });
+    ASSERT_TRUE(outcome.failure);
+    EXPECT_EQ(outcome.failure->Message(),
+              "there is not enough memory for so long files; the station files are as they were");
+    EXPECT_EQ(Holds(folder, before, before), "old");
+  }
 }
 
 TEST(RunImport, TheDateIsThatOfTheNewestFileWithRows) {

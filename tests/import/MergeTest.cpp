@@ -167,6 +167,8 @@ TEST(Merge, AStationEndedInALaterListIsGone) {
   for (const char* status : {"DEL", "CNL", "EXP"}) {
     EXPECT_EQ(left({row("LIC"), row(status)}), "") << status;
     EXPECT_EQ(left({row("LIC", ""), row(status, "0")}), "") << status;
+    EXPECT_EQ(left({row("LIC"), row(status, "")}), "") << status;
+    EXPECT_EQ(left({row("LIC"), row(status, "") + row("LIC")}), "U1") << status;
     EXPECT_EQ(left({row(status), row("LIC")}), "U1") << status;
     EXPECT_EQ(left({row("LIC"), row(status), row("LIC")}), "U1") << status;
     EXPECT_EQ(left({row("LIC") + row(status)}), "U1") << status;
@@ -175,8 +177,10 @@ TEST(Merge, AStationEndedInALaterListIsGone) {
   for (const char* status : {"CP", "APP"}) EXPECT_EQ(left({row("LIC"), row(status)}), "U1") << status;
   EXPECT_EQ(left({row("LIC"), ListRow{.call = "-"}.Text()}), "");
   EXPECT_EQ(left({row("LIC"), ListRow{.hours = "Nighttime", .status = "DEL"}.Text()}), "U1");
-  EXPECT_EQ(left({row("LIC", ""), ListRow{.status = "DEL", .city = "ELSEWHERE", .facility = ""}.Text()}),
-            "U1");
+  for (const char* facility : {"", "900001"})
+    EXPECT_EQ(
+        left({row("LIC", facility), ListRow{.status = "DEL", .city = "ELSEWHERE", .facility = ""}.Text()}),
+        "U1");
   EXPECT_EQ(ImportTexts({{"old", row("LIC")}, {"new", row("DEL")}}).Examples(Finding::Superseded),
             "old:1: QAAA 1230 U, off the air in a later list\n");
 }
