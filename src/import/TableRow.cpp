@@ -8,6 +8,21 @@ namespace {
 
 constexpr std::string_view kEndMark = "|^|";
 constexpr std::size_t kLongestKey = 200;  // bytes
+constexpr std::size_t kFewRows = 1000;
+
+/// Bytes of a table's rows on average, less than any real table's has. Of shorter ones so many go into a file
+/// that what is kept of them would be out of proportion to it.
+std::size_t LeastRowBytes(Table table) {
+  switch (table) {
+    case Table::AntennaSystems:
+      return 64;
+    case Table::Towers:
+    case Table::Facilities:
+      return 40;
+    default:
+      return 28;
+  }
+}
 
 }  // namespace
 
@@ -27,6 +42,11 @@ bool TableRow::Next() {
       LeaveOut(Finding::WrongForm, "the row is longer than 64 KB");
       continue;
     }
+    if (IsOneTooMany(line.size())) {
+      LeaveOut(Finding::WrongForm,
+               "rows of fewer than " + std::to_string(LeastRowBytes(layout_.table)) + " bytes on average");
+      continue;
+    }
     if (line.ends_with(kEndMark)) {
       line.remove_suffix(kEndMark.size());
     } else if (layout_.endMarks) {
@@ -38,6 +58,14 @@ bool TableRow::Next() {
     LeaveOut(Finding::WrongForm, std::to_string(fields_.size()) + " columns, " +
                                      std::to_string(layout_.columns.size()) + " expected");
   }
+  return false;
+}
+
+bool TableRow::IsOneTooMany(std::size_t bytes) {
+  bytes_ += bytes;
+  const std::size_t most = kFewRows + bytes_ / LeastRowBytes(layout_.table);
+  if (rows_ >= most) return true;
+  ++rows_;
   return false;
 }
 

@@ -22,7 +22,8 @@ class TableRow {
  public:
   TableRow(LineStream& lines, int file, const TableLayout& layout, ImportReport& report);
 
-  /// The next row with the right number of columns; rows without it are left out. False at the end.
+  /// The next row with the right number of columns; rows without it are left out. So are those of more than a
+  /// thousand rows that are shorter on average than any real table's. False at the end.
   bool Next();
 
   RowPlace Place() const { return {file_, lines_.LineNumber()}; }
@@ -52,6 +53,9 @@ class TableRow {
   void LeaveOut(Finding why, std::string_view text) { report_.LeaveOut(Place(), why, text); }
 
  private:
+  /// Whether the table has too many short rows to take this one, too.
+  bool IsOneTooMany(std::size_t bytes);
+
   LineStream& lines_;
   int file_;
   const TableLayout& layout_;
@@ -60,6 +64,8 @@ class TableRow {
   std::vector<std::string_view> fields_;
   std::string unescaped_;
   std::string fault_;
+  std::size_t rows_ = 0;   // taken
+  std::size_t bytes_ = 0;  // of all rows
 };
 
 }  // namespace kestrel

@@ -166,20 +166,20 @@ TEST(ImportMemory, TablesStayUnderThreeTimesTheirSize) {
                   "1",     "C"};
             });
   const std::string engineering =
-      Table({"application_id", "facility_id", "station_class"}, kStations, 32, [](int i) {
+      Table({"application_id", "facility_id", "station_class"}, kStations, 28, [](int i) {
         return std::vector<std::string>{Name(i), std::to_string(i + 1), ""};
       });
   const std::string facilities =
       Table({"facility_id", "fac_callsign", "fac_frequency", "fac_service", "fac_status", "comm_city",
              "comm_state", "fac_country"},
-            kStations, 32, [](int i) {
+            kStations, 40, [](int i) {
               return std::vector<std::string>{
                   std::to_string(i + 1), Name(i), std::to_string(Channel(i)), "AM", "", "", "", "MX"};
             });
-  const auto towers = [](int each) {
+  const auto towers = [](int each, std::size_t shortest = 40) {
     return Table({"ant_sys_id", "tower_num", "field_ratio", "phasing_deg", "spacing_deg", "orientation_deg",
                   "tower_ref_switch"},
-                 kAntennas * each, 40, [each](int i) {
+                 kAntennas * each, shortest, [each](int i) {
                    return std::vector<std::string>{
                        Name(i / each), std::to_string(i % each + 1), "1", "", "", "", ""};
                  });
@@ -189,6 +189,7 @@ TEST(ImportMemory, TablesStayUnderThreeTimesTheirSize) {
   ExpectInProportion("applications", {station, engineering});
   ExpectInProportion("facilities", {station, facilities});
   ExpectInProportion("towers", {station, towers(1)});
+  ExpectInProportion("towers shorter than real ones", {station, towers(4, 0)});
   ExpectInProportion("all tables", {systems, engineering, facilities});
   ExpectInProportion("all, a tower each", {systems, engineering, facilities, towers(1)});
   ExpectInProportion("all, three towers each", {systems, engineering, facilities, towers(3)});
