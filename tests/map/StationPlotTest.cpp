@@ -77,6 +77,8 @@ TEST(StationPlotTest, TheTraceFollowsThePatternAndItsEnlargementEndsAtThePlotBox
   std::vector<Point> enlarged = {Trace(10000).front()};
   for (const Drawn& stroke : Plot({Cardioid()}).All("Polyline")) {
     if (stroke.Color == 0) continue;
+    EXPECT_NEAR(stroke.Points[0].x, enlarged.back().x, 2.5) << "where the former stroke ended";
+    EXPECT_NEAR(stroke.Points[0].y, enlarged.back().y, 2.5);
     for (std::size_t i = 1; i < stroke.Points.size(); ++i) {
       EXPECT_EQ(stroke.Color, isInside(stroke.Points[i]) ? 0xFF4444 : 0xFFFFFF) << i;
       enlarged.push_back(stroke.Points[i]);
