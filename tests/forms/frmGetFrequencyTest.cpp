@@ -50,7 +50,7 @@ TEST_F(frmGetFrequencyTest, OffersTheChannelAndEscapeChangesNothing) {
   const struct {
     float current, previous;
     const char* offered;
-  } rows[] = {{620, 0, "620"}, {1705, 900, "1705"}, {0, 900, "900"}, {520, 900, "520"}};
+  } rows[] = {{620, 0, "620"}, {1705, 900, "1705"}, {0, 900, "900"}, {520, 900, "520"}, {510, 900, "510"}};
   for (const auto& row : rows) {
     State.CurrentFrequency = row.current;
     State.PreviousFrequency = row.previous;
