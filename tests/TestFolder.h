@@ -27,7 +27,8 @@ class TestFolder {
   }
 
   void Remove(const QString& name) const { EXPECT_TRUE(QFile::remove(Path(name))) << name.toStdString(); }
-  QString Path(const QString& name) const { return temporary_.filePath(name); }
+  /// The path of a file; without a name that of the folder.
+  QString Path(const QString& name = {}) const { return temporary_.filePath(name); }
   const DataFolder& Folder() const { return folder_; }
 
  private:

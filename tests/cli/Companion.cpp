@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QFile>
 #include <QProcess>
 
 namespace kestrel::cli {
@@ -12,22 +10,15 @@ void PrintTo(const Answer& answer, std::ostream* out) {
   *out << "status " << answer.Status << "\n--- out\n" << answer.Out << "--- err\n" << answer.Err << "---";
 }
 
-Folder::Folder() : dir_(QDir::tempPath() + "/kestrel data XXXXXX") {}
-
-void Folder::Write(const QString& name, std::string_view bytes) const {
-  QFile file(File(name));
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write(bytes.data(), static_cast<qint64>(bytes.size()));
-}
-
-std::string Folder::Read(const QString& name) const {
-  QFile file(File(name));
-  if (!file.open(QIODevice::ReadOnly)) return {};
-  return file.readAll().toStdString();
-}
-
 Answer Folder::Run(const QStringList& arguments) const {
   return RunIn(Path(), QStringList{"--data", Path()} + arguments);
+}
+
+QJsonDocument Folder::Json(const QStringList& arguments) const {
+  const Answer answer = Run(arguments + QStringList{"--json"});
+  EXPECT_EQ(answer.Status, 0) << answer.Err;
+  EXPECT_EQ(answer.Err, "");
+  return QJsonDocument::fromJson(QByteArray::fromStdString(answer.Out));
 }
 
 bool UnderCommaLocale() {

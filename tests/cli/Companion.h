@@ -1,11 +1,12 @@
 #pragma once
 
+#include <QJsonDocument>
 #include <QString>
 #include <QStringList>
-#include <QTemporaryDir>
 #include <ostream>
 #include <string>
-#include <string_view>
+
+#include "TestFolder.h"
 
 // The built companion, run from outside.
 
@@ -22,21 +23,14 @@ struct Answer {
 
 void PrintTo(const Answer& answer, std::ostream* out);
 
-/// A data folder of a test's own, with a blank in its path, gone at the test's end.
-class Folder {
+/// A data folder of a test's own.
+class Folder : public TestFolder {
  public:
-  Folder();
-
-  QString Path() const { return dir_.path(); }
-  QString File(const QString& name) const { return dir_.filePath(name); }
-  void Write(const QString& name, std::string_view bytes) const;
-  std::string Read(const QString& name) const;
-
   /// Runs the companion with this folder as --data and as the current one.
   Answer Run(const QStringList& arguments) const;
 
- private:
-  QTemporaryDir dir_;
+  /// The same with --json; the answer must be a success without messages.
+  QJsonDocument Json(const QStringList& arguments) const;
 };
 
 /// Whether the tests run under the locale that writes numbers with a comma.

@@ -30,39 +30,14 @@ class Damage {
 
   /// Some of the pieces of which readers make decisions, put over or into the bytes, and bytes lost.
   std::string Damaged(std::string bytes) {
-    static const std::string kPieces[] = {"\n",
-                                          "\r",
-                                          ",",
-                                          ",,,,",
-                                          " ",
-                                          "-",
-                                          "-0",
-                                          "1",
-                                          "9",
-                                          "inf",
-                                          "nan",
-                                          "1e9",
-                                          ".",
-                                          "-2000",
-                                          "1e400",
-                                          "1e-400",
-                                          "12",
-                                          "13",
-                                          "-100 -100\n",
-                                          "|",
-                                          "\xFF",
-                                          "\xE1",
-                                          "\xF0\x9F",
-                                          "*",
-                                          ":",
-                                          "end\n",
-                                          "../",
-                                          "PK\x01\x02",
-                                          std::string(1, '\0'),
-                                          std::string(400, '9'),
-                                          std::string(70'000, 'x'),
-                                          std::string(5'000, ','),
-                                          std::string(3'000, '\n')};
+    // clang-format off
+    static const std::string kPieces[] = {
+        "\n", "\r", ",", ",,,,", " ", "-", "-0", "1", "9", "inf", "nan", "1e9", ".", "-2000", "1e400", "1e-400",
+        "12", "13", "-100 -100\n", "|", "\xFF", "\xE1", "\xF0\x9F", "*", ":", "end\n", "../", "PK\x01\x02",
+        std::string(1, '\0'), std::string(400, '9'), std::string(70'000, 'x'), std::string(5'000, ','),
+        std::string(3'000, '\n')
+    };
+    // clang-format on
     for (std::size_t blows = Below(12); blows > 0; --blows) {
       const std::size_t at = Below(bytes.size() + 1);
       const std::string& piece = kPieces[Below(std::size(kPieces))];
@@ -86,25 +61,25 @@ class Damage {
 
   /// Puts damaged bytes into the file's place, or now and then something that is no file or is not there.
   void Put(const Folder& folder, const QString& name, const std::string& good) {
-    const QByteArray path = QFile::encodeName(folder.File(name));
+    const QByteArray path = QFile::encodeName(folder.Path(name));
     switch (Below(24)) {
       case 0:
         return;
       case 1:
-        ASSERT_TRUE(QDir().mkpath(folder.File(name)));
+        ASSERT_TRUE(QDir().mkpath(folder.Path(name)));
         return;
       case 2:
         ASSERT_EQ(mkfifo(path.constData(), 0600), 0);
         return;
       case 3:
-        ASSERT_TRUE(QFile::link("/dev/zero", folder.File(name)));
+        ASSERT_TRUE(QFile::link("/dev/zero", folder.Path(name)));
         return;
       case 4:
-        folder.Write(name, "");
-        ASSERT_TRUE(QFile::resize(folder.File(name), 2LL << 30));
+        folder.Put(name, "");
+        ASSERT_TRUE(QFile::resize(folder.Path(name), 2LL << 30));
         return;
       default:
-        folder.Write(name, Damaged(good));
+        folder.Put(name, Damaged(good));
     }
   }
 
@@ -144,7 +119,7 @@ void Fill(const Folder& folder, Damage& damage) {
       damage.Put(folder, kept, "no folder");
       continue;
     }
-    ASSERT_TRUE(QDir().mkpath(folder.File(kept)));
+    ASSERT_TRUE(QDir().mkpath(folder.Path(kept)));
     damage.Put(folder, QString(kept) + "/620x.dat", Kept("station-file", damage));
   }
 }
@@ -162,7 +137,7 @@ void ExpectWords(const std::string& errors) {
 }
 
 void ExpectPicture(const Folder& folder, const QString& name) {
-  const std::string bytes = folder.Read(name);
+  const std::string bytes = folder.Text(name);
   EXPECT_TRUE(bytes.starts_with("\x89PNG") || bytes.starts_with("<?xml") || bytes.starts_with("%PDF"))
       << name.toStdString();
 }

@@ -31,14 +31,14 @@ Svg ReadSvg(const std::string& bytes) {
 class PicturesTest : public testing::Test {
  protected:
   PicturesTest() {
-    folder_.Write("REGION2.dat", "41 284\n41 286\n39 286\n-100 -100\n39 284\n38 284\n-2000\n");
-    folder_.Write("620x.dat",
-                  "620,QAAA,Town,ST,Land,D,40.5,75,1,-,-,1\n0,1,90,0,0,0\n"
-                  "620,QAAA,Town,ST,Land,N,40.5,75,1,-,-,1\n0,1,90,0,0,0\n"
-                  "620,QAAA,Town,ST,Land,N,40.6,75,1,-,-,1\n0,1,90,0,0,0\n"
-                  "620,Q&B <1>\x01,Town,ST,Land,U,39.5,75,1,-,-,0\n"
-                  "620,QFAR,Town,ST,Land,U,-40,-75,1,-,-,1\n0,1,90,0,0,0\n");
-    folder_.Write("610x.dat", "610,QLOW,Town,ST,Land,U,40,74,1,-,-,1\n0,1,90,0,0,0\n");
+    folder_.Put("REGION2.dat", "41 284\n41 286\n39 286\n-100 -100\n39 284\n38 284\n-2000\n");
+    folder_.Put("620x.dat",
+                "620,QAAA,Town,ST,Land,D,40.5,75,1,-,-,1\n0,1,90,0,0,0\n"
+                "620,QAAA,Town,ST,Land,N,40.5,75,1,-,-,1\n0,1,90,0,0,0\n"
+                "620,QAAA,Town,ST,Land,N,40.6,75,1,-,-,1\n0,1,90,0,0,0\n"
+                "620,Q&B <1>\x01,Town,ST,Land,U,39.5,75,1,-,-,0\n"
+                "620,QFAR,Town,ST,Land,U,-40,-75,1,-,-,1\n0,1,90,0,0,0\n");
+    folder_.Put("610x.dat", "610,QLOW,Town,ST,Land,U,40,74,1,-,-,1\n0,1,90,0,0,0\n");
   }
 
   Answer Map(const QString& file, const QStringList& options = {}) const {
@@ -49,7 +49,7 @@ class PicturesTest : public testing::Test {
 
   Svg MapSvg(const QStringList& options = {}) const {
     EXPECT_EQ(Map("map.svg", options), (Answer{0, "", ""}));
-    const Svg svg = ReadSvg(folder_.Read("map.svg"));
+    const Svg svg = ReadSvg(folder_.Text("map.svg"));
     EXPECT_TRUE(svg.WellFormed);
     return svg;
   }
@@ -80,7 +80,7 @@ TEST_F(PicturesTest, OptionsChooseWhatIsDrawn) {
 TEST_F(PicturesTest, AChannelWithoutAFileIsAPictureWithItsNotice) {
   EXPECT_EQ(Map("map.svg", {"--frequency", "1230"}),
             (Answer{0, "", "kestrel-cli: 1230x.dat: there is no such file\n"}));
-  EXPECT_TRUE(ReadSvg(folder_.Read("map.svg")).Texts.contains("    No station file for 1230 kHz"));
+  EXPECT_TRUE(ReadSvg(folder_.Text("map.svg")).Texts.contains("    No station file for 1230 kHz"));
 }
 
 // Where the tests run under the locale with a comma, the bytes are compared with those under the plainest.
@@ -88,21 +88,21 @@ TEST_F(PicturesTest, SizesKindsAndBytesAreTheSameEverywhere) {
   for (const QSize size : {QSize(64, 64), QSize(1600, 1200), QSize(90, 16384)}) {
     const QString text = QString("%1x%2").arg(size.width()).arg(size.height());
     EXPECT_EQ(Map("map.png", {"--size", text}), (Answer{0, "", ""}));
-    EXPECT_EQ(QImage(folder_.File("map.png")).size(), size);
+    EXPECT_EQ(QImage(folder_.Path("map.png")).size(), size);
   }
   for (const QString name : {"map.png", "map.SVG"}) {
     ASSERT_EQ(Map(name).Status, 0);
-    const std::string first = folder_.Read(name);
+    const std::string first = folder_.Text(name);
     const Answer again = RunIn(
         folder_.Path(), {"--data", ".", "map", "--home", "40,75", "--scale", "1000", "-o", name}, {}, "C");
     EXPECT_EQ(again, (Answer{0, "", ""}));
-    EXPECT_TRUE(folder_.Read(name) == first) << name.toStdString();
+    EXPECT_TRUE(folder_.Text(name) == first) << name.toStdString();
   }
 }
 
 TEST_F(PicturesTest, PdfIsOneVectorPageOfTheSizeWithItsFonts) {
   ASSERT_EQ(Map("map.pdf", {"--size", "960x480"}), (Answer{0, "", ""}));
-  const std::string pdf = folder_.Read("map.pdf");
+  const std::string pdf = folder_.Text("map.pdf");
   EXPECT_EQ(pdf.substr(0, 5), "%PDF-");
   EXPECT_NE(pdf.find("/Count 1\n"), std::string::npos);
   EXPECT_NE(pdf.find("/MediaBox [0 0 720.000000 360.000000]"), std::string::npos);
@@ -117,22 +117,22 @@ TEST_F(PicturesTest, AFailedPictureIsStatusOneAndLeavesTheOldOne) {
       (Answer{1, "",
               "kestrel-cli: no/such/map.png: No such file or directory; the picture was not written\n"}));
   ASSERT_EQ(Map("map.png").Status, 0);
-  const std::string before = folder_.Read("map.png");
+  const std::string before = folder_.Text("map.png");
   EXPECT_EQ(Map("map.png", {"--scale", "1"}).Status, 2);
-  EXPECT_TRUE(folder_.Read("map.png") == before);
+  EXPECT_TRUE(folder_.Text("map.png") == before);
 }
 
 TEST_F(PicturesTest, ScanShowsEveryChannelAndIsSilentWithoutATerminal) {
   EXPECT_EQ(folder_.Run({"scan", "--home", "40,75", "--scale", "1000", "-o", "scan.svg"}),
             (Answer{0, "", ""}));
-  const Svg svg = ReadSvg(folder_.Read("scan.svg"));
+  const Svg svg = ReadSvg(folder_.Text("scan.svg"));
   EXPECT_TRUE(svg.WellFormed);
   EXPECT_EQ(svg.Ids, (QStringList{"QLOW-610-U", "QAAA-620-D", "QAAA-620-N", "QAAA-620-N-2", "QB1-620-U"}));
   EXPECT_EQ(svg.Texts, (QStringList{"610", "620", "620", "620"}));  // once for each place
 
   const Folder empty;
   EXPECT_EQ(empty.Run({"scan", "-o", "scan.png"}).Status, 0);
-  EXPECT_FALSE(QImage(empty.File("scan.png")).isNull());
+  EXPECT_FALSE(QImage(empty.Path("scan.png")).isNull());
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <cmath>
 #include <sstream>
@@ -21,7 +20,7 @@ constexpr const char* kChannel =
 
 TEST(StationsTest, ListsRecordsInFileOrderWithExactNumbers) {
   const Folder folder;
-  folder.Write("1230X.DAT", kChannel);
+  folder.Put("1230X.DAT", kChannel);
   const QStringList view = {"stations", "--frequency", "1230", "--home", "40,75", "--scale", "1000"};
   const std::string note = "kestrel-cli: 1230x.dat:3: 14 towers, at most 12\n";
   const Answer json{
@@ -49,18 +48,14 @@ TEST(StationsTest, ListsRecordsInFileOrderWithExactNumbers) {
 
 TEST(StationsTest, AMissingChannelIsStatusOne) {
   const Folder folder;
-  for (const QString command : {"stations", "pattern"}) {
-    QStringList arguments = {command, "--frequency", "620"};
-    if (command == "pattern") arguments += {"--call", "QAAA"};
-    EXPECT_EQ(
-        folder.Run(arguments),
-        (Answer{1, "",
-                "kestrel-cli: " + folder.File("620x.dat").toStdString() +
-                    ": there is no such file; choose another channel with --frequency or another folder "
-                    "with --data\n"}));
-  }
-  folder.Write("last.cfg", "5000\nx\n40\n75\n.5\n200\n0\n");
-  EXPECT_EQ(folder.Run({"--session", folder.File("last.cfg"), "stations"}),
+  const Answer missing{1, "",
+                       "kestrel-cli: " + folder.Path("620x.dat").toStdString() +
+                           ": there is no such file; choose another channel with --frequency or another "
+                           "folder with --data\n"};
+  EXPECT_EQ(folder.Run({"stations", "--frequency", "620"}), missing);
+  EXPECT_EQ(folder.Run({"pattern", "--frequency", "620", "--call", "QAAA"}), missing);
+  folder.Put("last.cfg", "5000\nx\n40\n75\n.5\n200\n0\n");
+  EXPECT_EQ(folder.Run({"--session", folder.Path("last.cfg"), "stations"}),
             (Answer{1, "",
                     "kestrel-cli: the session's channel is 5000 kHz, and station files run from 530 to 1700; "
                     "choose one with --frequency\n"}));
@@ -68,7 +63,7 @@ TEST(StationsTest, AMissingChannelIsStatusOne) {
 
 TEST(StationsTest, AnEmptyChannelIsAnEmptyListAndAFullDiskStatusOne) {
   const Folder folder;
-  folder.Write("620x.dat", "");
+  folder.Put("620x.dat", "");
   EXPECT_EQ(folder.Run({"stations", "--json"}), (Answer{0, "[]\n", ""}));
   EXPECT_EQ(
       RunIn(folder.Path(), {"--data", ".", "stations"}, "/dev/full"),
@@ -79,20 +74,17 @@ TEST(StationsTest, AnEmptyChannelIsAnEmptyListAndAFullDiskStatusOne) {
 class PatternTest : public testing::Test {
  protected:
   PatternTest() {
-    folder_.Write("620x.dat",
-                  "620,QDIR ,Town,ST,Land,N,40,75,1,-,-,2\n"
-                  "0,1,90.5,0,0,0\n0,1,90.5,-90,90,0\n"
-                  "620,QONE,Town,ST,Land,U,40,75,10,-,-,1\n0,.5,90,0,0,0\n"
-                  "620,qdir,Town,ST,Land,D,40,75,1,-,-,2\n"
-                  "0,1,90,0,90,0\n 1,1,90,0,90,90\n"
-                  "620,QNIL,Town,ST,Land,C,40,75,1,-,-,1\n0,0,90,0,0,0\n");
+    folder_.Put("620x.dat",
+                "620,QDIR ,Town,ST,Land,N,40,75,1,-,-,2\n"
+                "0,1,90.5,0,0,0\n0,1,90.5,-90,90,0\n"
+                "620,QONE,Town,ST,Land,U,40,75,10,-,-,1\n0,.5,90,0,0,0\n"
+                "620,qdir,Town,ST,Land,D,40,75,1,-,-,2\n"
+                "0,1,90,0,90,0\n 1,1,90,0,90,90\n"
+                "620,QNIL,Town,ST,Land,C,40,75,1,-,-,1\n0,0,90,0,0,0\n");
   }
 
   QJsonArray Search(const QStringList& arguments) const {
-    const Answer answer = folder_.Run(QStringList{"pattern", "--json"} + arguments);
-    EXPECT_EQ(answer.Status, 0) << answer.Err;
-    EXPECT_EQ(answer.Err, "");
-    return QJsonDocument::fromJson(QByteArray::fromStdString(answer.Out)).array();
+    return folder_.Json(QStringList{"pattern"} + arguments).array();
   }
 
   Folder folder_;

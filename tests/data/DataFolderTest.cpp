@@ -4,16 +4,16 @@
 #include <sys/stat.h>
 
 #include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
 
+#include "TestFolder.h"
 #include "WithoutRights.h"
 #include "data/FileIo.h"
 
 namespace kestrel {
 namespace {
 
-std::string Text(const Result<QByteArray>& bytes) {
+/// The bytes, or why there are none.
+std::string Bytes(const Result<QByteArray>& bytes) {
   return bytes ? bytes->toStdString() : bytes.error().Message();
 }
 
@@ -23,27 +23,19 @@ std::string Names(const QString& path) {
   return QDir(path).entryList(filter, QDir::Name).join(' ').toStdString();
 }
 
-class DataFolderTest : public testing::Test {
+class DataFolderTest : public testing::Test, protected TestFolder {
  protected:
-  void Put(const QString& name, const QByteArray& bytes) {
-    QFile file(Path(name));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << name.toStdString();
-    file.write(bytes);
-  }
-  QString Path(const QString& name) const { return folder_.Path() + '/' + name; }
-
-  QTemporaryDir temporary_{QDir::tempPath() + "/kestrel test XXXXXX"};
-  DataFolder folder_{temporary_.path()};
+  const DataFolder& folder_ = Folder();
 };
 
 TEST_F(DataFolderTest, FindsFilesWhateverTheirCase) {
   Put("1230X.DAT", "upper");
-  EXPECT_EQ(Text(folder_.Read("1230x.dat")), "upper");
+  EXPECT_EQ(Bytes(folder_.Read("1230x.dat")), "upper");
   EXPECT_TRUE(folder_.Has("1230x.Dat"));
   Put("1230x.dat", "exact");
-  EXPECT_EQ(Text(folder_.Read("1230x.dat")), "exact");
-  EXPECT_EQ(Text(folder_.Read("1230X.DAT")), "upper");
-  EXPECT_EQ(Text(folder_.Read("620x.dat")), "620x.dat: there is no such file");
+  EXPECT_EQ(Bytes(folder_.Read("1230x.dat")), "exact");
+  EXPECT_EQ(Bytes(folder_.Read("1230X.DAT")), "upper");
+  EXPECT_EQ(Bytes(folder_.Read("620x.dat")), "620x.dat: there is no such file");
   EXPECT_EQ(folder_.Read("620x.dat").error().kind, Error::Kind::NotFound);
   EXPECT_FALSE(folder_.Has("620x.dat"));
   EXPECT_FALSE(DataFolder("/nowhere at all").Has("620x.dat"));
@@ -51,18 +43,27 @@ TEST_F(DataFolderTest, FindsFilesWhateverTheirCase) {
 
 TEST_F(DataFolderTest, WritingKeepsTheNameInItsCase) {
   Put("KESTREL.cfg", "old");
-  ASSERT_TRUE(folder_.Write("Kestrel.CFG", "new"));
-  EXPECT_EQ(Text(folder_.Read("KESTREL.cfg")), "new");
+  SessionState state;
+  state.CurrentFrequency = 1230;
+  state.SessionFileName = "elsewhere";
+  ASSERT_TRUE(SaveSession(folder_, state));
   EXPECT_EQ(Names(folder_.Path()), "KESTREL.cfg");
+  EXPECT_EQ(state.SessionFileName, "Kestrel.CFG");
+  SessionState read;
+  LoadSession(folder_, read);
+  EXPECT_EQ(read.CurrentFrequency, 1230);
+  Remove("KESTREL.cfg");
+  LoadSession(folder_, read);
+  EXPECT_EQ(read.CurrentFrequency, 620);
 }
 
 TEST_F(DataFolderTest, OnlyPlainFilesAreRead) {
   ASSERT_TRUE(QDir(folder_.Path()).mkdir("1230x.dat"));
   EXPECT_EQ(folder_.Read("1230x.dat").error().kind, Error::Kind::NotAFile);
-  EXPECT_EQ(Text(folder_.Read("1230x.dat")), "1230x.dat: is a folder or a device, not a file");
+  EXPECT_EQ(Bytes(folder_.Read("1230x.dat")), "1230x.dat: is a folder or a device, not a file");
   // A pipe that nobody writes to must not hold the program up.
   ASSERT_EQ(mkfifo(QFile::encodeName(Path("620x.dat")).constData(), 0600), 0);
-  EXPECT_EQ(Text(folder_.Read("620x.dat")), "620x.dat: is a folder or a device, not a file");
+  EXPECT_EQ(Bytes(folder_.Read("620x.dat")), "620x.dat: is a folder or a device, not a file");
   EXPECT_EQ(ReadFile("/dev/zero").error().kind, Error::Kind::NotAFile);
 }
 
@@ -73,7 +74,7 @@ TEST_F(DataFolderTest, AFileWithoutPermissionIsRefusedInWords) {
   EXPECT_TRUE(HoldsWithoutRights([&] { return static_cast<bool>(folder_.Read("620x.dat")); }));
   ASSERT_TRUE(QFile::setPermissions(Path("620x.dat"), QFile::Permissions()));
   EXPECT_TRUE(
-      HoldsWithoutRights([&] { return Text(folder_.Read("620x.dat")) == "620x.dat: Permission denied"; }));
+      HoldsWithoutRights([&] { return Bytes(folder_.Read("620x.dat")) == "620x.dat: Permission denied"; }));
 }
 
 TEST_F(DataFolderTest, TheStationsLineIsReadOrRefusedInWords) {
@@ -89,12 +90,12 @@ TEST_F(DataFolderTest, TheStationsLineIsReadOrRefusedInWords) {
 
 TEST_F(DataFolderTest, ALongFileIsRefused) {
   Put("a", "12345678");
-  EXPECT_EQ(Text(ReadFile(Path("a"), 8)), "12345678");
+  EXPECT_EQ(Bytes(ReadFile(Path("a"), 8)), "12345678");
   EXPECT_EQ(ReadFile(Path("a"), 7).error().kind, Error::Kind::TooLarge);
   ASSERT_TRUE(QFile::resize(Path("a"), LargestDataFile + 1));
-  EXPECT_EQ(Text(ReadFile(Path("a"))), "a: is larger than 64 MB, the most that is read");
+  EXPECT_EQ(Bytes(ReadFile(Path("a"))), "a: is larger than 64 MB, the most that is read");
   Put("empty", "");
-  EXPECT_EQ(Text(ReadFile(Path("empty"))), "");
+  EXPECT_EQ(Bytes(ReadFile(Path("empty"))), "");
 }
 
 TEST_F(DataFolderTest, AFileThatChangesWhileItIsReadIsRefused) {
@@ -102,8 +103,8 @@ TEST_F(DataFolderTest, AFileThatChangesWhileItIsReadIsRefused) {
   // is writing.
   for (const char* file : {"/proc/self/status", "/sys/devices/system/cpu/online"}) {
     if (QFile::exists(file)) {
-      EXPECT_EQ(Text(ReadFile(file)), QFileInfo(file).fileName().toStdString() +
-                                          ": changed while it was read; try again when it is complete");
+      EXPECT_EQ(Bytes(ReadFile(file)), QFileInfo(file).fileName().toStdString() +
+                                           ": changed while it was read; try again when it is complete");
     }
   }
 }
@@ -120,31 +121,14 @@ TEST_F(DataFolderTest, AFailedWriteLeavesWhatWasThere) {
   const Result<Done> inFile = DataFolder(Path("file")).Write("Kestrel.CFG", "new");
   ASSERT_FALSE(inFile);
   EXPECT_EQ(inFile.error().kind, Error::Kind::Refused);
-  EXPECT_EQ(Text(folder_.Read("file")), "old");
+  EXPECT_EQ(Bytes(folder_.Read("file")), "old");
 
   // A name so long that none is left for the new file beside the old one.
   const QString longName(252, 'n');
   Put(longName, "old");
   EXPECT_FALSE(folder_.Write(longName, "new"));
-  EXPECT_EQ(Text(folder_.Read(longName)), "old");
+  EXPECT_EQ(Bytes(folder_.Read(longName)), "old");
   EXPECT_EQ(Names(folder_.Path()), "Kestrel.CFG file " + longName.toStdString());
-}
-
-TEST_F(DataFolderTest, TheSessionIsSavedAndLoaded) {
-  SessionState state;
-  state.CurrentFrequency = 1230;
-  state.SessionFileName = "elsewhere";
-  ASSERT_TRUE(SaveSession(folder_, state));
-  EXPECT_EQ(state.SessionFileName, "Kestrel.CFG");
-  const std::string text = Text(folder_.Read("Kestrel.CFG"));
-  EXPECT_NE(text.find("\r\nFrequency displayed: 1230\r\n"), std::string::npos) << text;
-  SessionState read;
-  LoadSession(folder_, read);
-  EXPECT_EQ(read.CurrentFrequency, 1230);
-
-  ASSERT_TRUE(QFile::remove(Path("Kestrel.CFG")));
-  LoadSession(folder_, read);
-  EXPECT_EQ(read.CurrentFrequency, 620);
 }
 
 TEST_F(DataFolderTest, FillingNeverOverwrites) {
@@ -154,8 +138,8 @@ TEST_F(DataFolderTest, FillingNeverOverwrites) {
     Put(QString("came with it/") + name, name);
   Put("new/1230X.DAT", "the user's");
   ASSERT_TRUE(FillDataFolder(Path("new"), Path("came with it")));
-  EXPECT_EQ(Text(DataFolder(Path("new")).Read("1230x.dat")), "the user's");
-  EXPECT_EQ(Text(DataFolder(Path("new")).Read("STATES.dat")), "STATES.dat");
+  EXPECT_EQ(Bytes(DataFolder(Path("new")).Read("1230x.dat")), "the user's");
+  EXPECT_EQ(Bytes(DataFolder(Path("new")).Read("STATES.dat")), "STATES.dat");
   EXPECT_EQ(Names(Path("new")), "1230X.DAT REGION2.dat STATES.dat");
   ASSERT_TRUE(FillDataFolder(Path("deep/er"), Path("came with it")));
   EXPECT_TRUE(DataFolder(Path("deep/er")).Has("REGION2.dat"));
@@ -166,8 +150,7 @@ TEST_F(DataFolderTest, FillingNeverOverwrites) {
 }
 
 TEST_F(DataFolderTest, AFillingThatFailedIsTakenUpAgain) {
-  const QDir root(folder_.Path());
-  ASSERT_TRUE(root.mkpath("came with it"));
+  ASSERT_TRUE(QDir().mkdir(Path("came with it")));
   for (const char* name : {"REGION2.dat", "STATES.dat"}) Put(QString("came with it/") + name, name);
   ASSERT_TRUE(QFile::resize(Path("came with it/STATES.dat"), LargestDataFile + 1));
   ASSERT_FALSE(FillDataFolder(Path("new"), Path("came with it")));
@@ -175,7 +158,7 @@ TEST_F(DataFolderTest, AFillingThatFailedIsTakenUpAgain) {
   EXPECT_FALSE(DataFolder(Path("new")).Has("REGION2.dat"));
   Put("came with it/STATES.dat", "mended");
   ASSERT_TRUE(FillDataFolder(Path("new"), Path("came with it")));
-  EXPECT_EQ(Text(DataFolder(Path("new")).Read("STATES.dat")), "mended");
+  EXPECT_EQ(Bytes(DataFolder(Path("new")).Read("STATES.dat")), "mended");
 }
 
 TEST_F(DataFolderTest, TheWantedFolderMustBeThere) {

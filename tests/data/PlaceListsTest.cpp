@@ -72,15 +72,11 @@ TEST(PlaceListsTest, EmptyLinesDoNotCountButTheLimitDoes) {
 
   for (const std::size_t most : {MaxCities, MaxCalls}) {
     std::string bytes;
-    for (std::size_t i = 1; i <= most; ++i) bytes += std::to_string(i) + "\r\n\r\n";
-    const auto full = ReadPlaceList(bytes, most);
-    ASSERT_TRUE(full);
-    EXPECT_EQ(full->size(), most);
-    EXPECT_EQ(full->back(), std::to_string(most));
+    for (std::size_t i = 0; i < most; ++i) bytes += "x\r\n\r\n";
+    ASSERT_TRUE(ReadPlaceList(bytes, most));
+    EXPECT_EQ(ReadPlaceList(bytes, most)->size(), most);
     EXPECT_FALSE(ReadPlaceList(bytes + "x", most));
   }
-  EXPECT_EQ(MaxCities, 3400U);
-  EXPECT_EQ(MaxCalls, 9000U);
 }
 
 }  // namespace

@@ -6,11 +6,10 @@
 #include <unistd.h>
 
 #include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
 #include <cerrno>
 #include <functional>
 
+#include "TestFolder.h"
 #include "WithoutRights.h"
 #include "core/SessionFile.h"
 #include "data/DataFolder.h"
@@ -20,7 +19,7 @@
 namespace kestrel {
 namespace {
 
-class SessionSavingTest : public testing::Test {
+class SessionSavingTest : public testing::Test, protected TestFolder {
  protected:
   static SessionState State(float frequency) {
     SessionState state;
@@ -51,8 +50,7 @@ class SessionSavingTest : public testing::Test {
     return QDir(folder_.Path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
   }
 
-  QTemporaryDir temporary_{QDir::tempPath() + "/kestrel test XXXXXX"};
-  DataFolder folder_{temporary_.path()};
+  const DataFolder& folder_ = Folder();
 };
 
 constexpr int kUntraced = 99;  // the status where the system lets nobody watch a process
@@ -86,7 +84,7 @@ TEST_F(SessionSavingTest, KilledAnywhereItLeavesTheOldFileOrTheNewOne) {
     int kept = 0;
     int replaced = 0;
     for (int stop = 0;; ++stop) {
-      for (const QString& name : Names()) ASSERT_TRUE(QFile::remove(folder_.Path() + '/' + name));
+      for (const QString& name : Names()) Remove(name);
       if (old != 0) {
         ASSERT_EQ(Save(old), 0);
       }

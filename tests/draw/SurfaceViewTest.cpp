@@ -109,6 +109,7 @@ TEST(SurfaceViewTest, APanelGrowsAsOnePieceFromItsAnchorUntilItsTextCanBeRead) {
   small.BeginPanel(anchor, legend);
   EXPECT_EQ(small.At(anchor), RulesFor(320, 253).Fit.ToSurface(anchor));
   EXPECT_NEAR(small.FontSize(legend) * XHeightShare(FontFace::Sans), 7, 1e-3);
+  EXPECT_NEAR(small.FontSize({FontFace::Sans, 20}), 2 * small.FontSize(legend), 1e-3);
   const double growth = small.Length(100) / (100 * RulesFor(320, 253).Fit.Scale);
   EXPECT_GT(growth, 2);
   EXPECT_NEAR(small.At(corner).x - small.At(anchor).x, growth * (before.x - small.At(anchor).x), 1e-3);

@@ -13,16 +13,17 @@
 #include <functional>
 
 #include "core/Text.h"
+#include "forms/SampleFolder.h"
 #include "forms/StandInPlatform.h"
 #include "forms/Workspace.h"
-#include "TestFolder.h"
 
 namespace kestrel {
 
-/// A form's surroundings: a session of its own, a platform that answers at once, an empty data folder.
+/// A form's surroundings: a session of its own, a platform that answers at once, a data folder with a little
+/// of everything.
 class FormTest : public ::testing::Test {
  protected:
-  TestFolder Files;
+  SampleFolder Files;
   SessionState State;
   StandInPlatform System;
   Workspace Everything{State, Files.Folder(), System};

@@ -19,78 +19,21 @@
 #include <QUrl>
 #include <QWheelEvent>
 #include <algorithm>
-#include <array>
 #include <iostream>
 
 namespace kestrel {
 namespace {
 
-const std::array kTexts = {"",
-                           "0",
-                           "-0",
-                           "620",
-                           "1230",
-                           "535",
-                           "1700",
-                           "99999",
-                           "1.1k",
-                           "33.2",
-                           "88.5",
-                           "-97.2",
-                           "12,5",
-                           ".",
-                           "-",
-                           "nan",
-                           "inf",
-                           "1e400",
-                           "1e-400",
-                           "QDN630",
-                           "q",
-                           "Pl",
-                           "%s%n",
-                           "\t\n\r",
-                           "\xd9\xa1",
-                           "\xe2\x80\xae"
-                           "abc",
-                           "K\xc3\x96LN",
-                           "a b'c\"d;",
-                           "qarr"};
+const QStringList kTexts = {"",       "0",         "-0",        "620",       "1230", "535", "1700", "99999",
+                            "1.1k",   "33.2",      "88.5",      "-97.2",     "12,5", ".",   "-",    "nan",
+                            "inf",    "1e400",     "1e-400",    "QDN630",    "q",    "Pl",  "%s%n", "\t\n\r",
+                            "\u0661", "\u202Eabc", "K\u00D6LN", "a b'c\"d;", "qarr"};
 
-struct KeyStroke {
-  Qt::Key Key;
-  Qt::KeyboardModifiers Modifiers = Qt::NoModifier;
-};
-
-const std::array kKeys = {KeyStroke{Qt::Key_Tab},
-                          KeyStroke{Qt::Key_Tab},
-                          KeyStroke{Qt::Key_Backtab, Qt::ShiftModifier},
-                          KeyStroke{Qt::Key_Return},
-                          KeyStroke{Qt::Key_Enter},
-                          KeyStroke{Qt::Key_Space},
-                          KeyStroke{Qt::Key_Escape},
-                          KeyStroke{Qt::Key_Up},
-                          KeyStroke{Qt::Key_Down},
-                          KeyStroke{Qt::Key_Left},
-                          KeyStroke{Qt::Key_Right},
-                          KeyStroke{Qt::Key_PageUp},
-                          KeyStroke{Qt::Key_PageDown},
-                          KeyStroke{Qt::Key_Home},
-                          KeyStroke{Qt::Key_End},
-                          KeyStroke{Qt::Key_Delete},
-                          KeyStroke{Qt::Key_Backspace},
-                          KeyStroke{Qt::Key_Plus},
-                          KeyStroke{Qt::Key_Minus},
-                          KeyStroke{Qt::Key_Equal},
-                          KeyStroke{Qt::Key_Up, Qt::ShiftModifier},
-                          KeyStroke{Qt::Key_Down, Qt::ShiftModifier},
-                          KeyStroke{Qt::Key_F1},
-                          KeyStroke{Qt::Key_Menu},
-                          KeyStroke{Qt::Key_A, Qt::ControlModifier},
-                          KeyStroke{Qt::Key_C, Qt::ControlModifier},
-                          KeyStroke{Qt::Key_X, Qt::ControlModifier},
-                          KeyStroke{Qt::Key_Z, Qt::ControlModifier},
-                          KeyStroke{Qt::Key_Print},
-                          KeyStroke{Qt::Key_Q, Qt::ControlModifier}};
+const QStringList kKeys = {"Tab",    "Tab",    "Shift+Backtab", "Return",     "Enter",     "Space",
+                           "Esc",    "Up",     "Down",          "Left",       "Right",     "PgUp",
+                           "PgDown", "Home",   "End",           "Del",        "Backspace", "+",
+                           "-",      "=",      "Shift+Up",      "Shift+Down", "F1",        "Menu",
+                           "Ctrl+A", "Ctrl+C", "Ctrl+X",        "Ctrl+Z",     "Print",     "Ctrl+Q"};
 
 /// The controls of a window that a user can reach, in the window's order.
 template <typename Control>
@@ -130,16 +73,12 @@ QString ButtonName(const QAbstractButton& button) {
   return button.window()->objectName() + '/' + button.objectName();
 }
 
-std::string FccRow(const std::string& call, const std::string& frequency, const std::string& facility) {
-  return "|" + call + "|" + frequency + "   kHz|AM ||UNL|Unlimited|B|B|LIC|PLANO|TX|US|BL-1|5.0    kW||||" +
-         facility + "|N|33|1|11.28|W|96|41|56.04|OWNER, INC|0.0 km|0.0 mi|0.0 deg|1|0a|7|\n";
-}
-
 }  // namespace
 
 Monkey::Monkey(unsigned seed, int commands, const SampleFolder& folder)
     : random_(seed), commands_(commands), folder_(folder) {
-  folder_.Put("amq.txt", FccRow("KAAA", "620", "11") + FccRow("KBBB", "1230", "12") + "|KCUT|62");
+  folder_.Put("amq.txt",
+              FccRow("KAAA", "620", "5.0", "11") + FccRow("KBBB", "1230", "5.0", "12") + "|KCUT|62");
   folder_.Put("letter.txt", "Dear listener,\n");
   for (const char* name : {"REGION2.dat", "STATES.dat", "620x.dat", "630x.dat", "1230x.dat", "Kestrel.lst",
                            "StationsCall.DAT", "Stations.txt"})
@@ -166,7 +105,7 @@ void Monkey::Step() {
     QApplication::quit();
   }
   if (!window) return;
-  if (!AtWork()) return LeaveAll(*window);
+  if (!AtWork()) return void(window->close());
   if (auto* dialog = qobject_cast<QPrintDialog*>(window)) return AnswerPrintDialog(*dialog);
   Watch(*window);
   ++done_;
@@ -174,10 +113,6 @@ void Monkey::Step() {
   const int number = done_;
   Act(*window);
   if (number % 1000 == 0 && Thousand) Thousand();
-}
-
-void Monkey::LeaveAll(QWidget& window) {
-  window.close();
 }
 
 void Monkey::Watch(QWidget& window) {
@@ -228,16 +163,15 @@ void Monkey::ClickButton(QWidget& window) {
 }
 
 void Monkey::PressKey(QWidget& window) {
-  KeyStroke stroke = OneOf(kKeys);
+  QKeyCombination stroke = QKeySequence(OneOf(kKeys), QKeySequence::PortableText)[0];
   if (Below(3) == 0) {
     // A letter: the main window's shortcuts, and with Alt the captions' mnemonics.
-    stroke.Key = static_cast<Qt::Key>(Qt::Key_A + Below(26));
-    stroke.Modifiers = Below(2) == 0 ? Qt::AltModifier : Qt::NoModifier;
+    const auto letter = static_cast<Qt::Key>(Qt::Key_A + Below(26));
+    stroke = QKeyCombination(Below(2) == 0 ? Qt::AltModifier : Qt::NoModifier, letter);
   }
   QWidget* target = window.focusWidget() && Below(4) != 0 ? window.focusWidget() : &window;
-  Say("key " + window.objectName() + ' ' + target->objectName() + ' ' +
-      QKeySequence(static_cast<int>(stroke.Key) | static_cast<int>(stroke.Modifiers.toInt())).toString());
-  QTest::keyClick(target, stroke.Key, stroke.Modifiers);
+  Say("key " + window.objectName() + ' ' + target->objectName() + ' ' + QKeySequence(stroke).toString());
+  QTest::keyClick(target, stroke.key(), stroke.keyboardModifiers());
 }
 
 void Monkey::PasteText(QWidget& window) {
@@ -245,7 +179,7 @@ void Monkey::PasteText(QWidget& window) {
   if (boxes.isEmpty()) return;
   QLineEdit* box = OneOf(boxes);
   // Often the call sign that is on every channel, which leads to further forms.
-  QString text = Below(4) == 0 ? "QARR" : OneOf(kTexts);
+  QString text = Below(4) == 0 ? QString("QARR") : OneOf(kTexts);
   if (Below(30) == 0) text = QString(20000, '9');
   Say("paste " + window.objectName() + ' ' + box->objectName() + ' ' + text.left(40));
   box->setFocus();
@@ -329,7 +263,7 @@ void Monkey::ChangeFile() {
 }
 
 QStringList Monkey::SomeFiles() {
-  const std::array names = {"amq.txt", "letter.txt", "not there.txt", ".", "620x.dat"};
+  const QStringList names = {"amq.txt", "letter.txt", "not there.txt", ".", "620x.dat"};
   QStringList files;
   for (int count = Below(4); count > 0; --count) files << folder_.Path(OneOf(names));
   return files;
@@ -350,7 +284,7 @@ QStringList Monkey::ChooseFiles(QWidget*, const QString&) {
 }
 
 QString Monkey::ChooseFileToWrite(QWidget*, const QString&, const QString& offered) {
-  const std::array names = {offered, QString("no folder/report.txt"), QString(".")};
+  const QStringList names = {offered, "no folder/report.txt", "."};
   return Below(4) == 0 ? QString() : folder_.Path(OneOf(names));
 }
 

@@ -63,7 +63,6 @@ class Monkey final : public QObject, public Platform {
   void Schedule();
   void Step();
   void Act(QWidget& window);
-  void LeaveAll(QWidget& window);
   void Watch(QWidget& window);
   void CountPress();
   void AnswerPrintDialog(QPrintDialog& dialog);

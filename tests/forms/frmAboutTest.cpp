@@ -1,7 +1,8 @@
+#include "forms/frmAbout.h"
+
 #include <QDir>
 
 #include "forms/FormFixture.h"
-#include "forms/frmAbout.h"
 #include "ui/SystemInformation.h"
 
 namespace kestrel {
@@ -9,10 +10,9 @@ namespace {
 
 class AboutTest : public FormTest {
  protected:
-  QString Path(const QString& name = {}) const { return Files.Folder().Path() + '/' + name; }
+  QString Path(const QString& name) const { return Files.Path(name); }
 
   void WriteProgram(const QString& path) {
-    ASSERT_TRUE(QDir(Path()).mkpath(QFileInfo(path).path()));
     Files.Put(path, "#!/bin/sh\n");
     QFile::setPermissions(Path(path), QFile::ReadOwner | QFile::ExeOwner);
   }
@@ -26,18 +26,10 @@ class AboutTest : public FormTest {
   }
 };
 
-TEST_F(AboutTest, TextsAndTheInformationTool) {
-  Files.Put("Stations.txt", "Test stations of 1 May\r\n");
+TEST_F(AboutTest, TheStationsLineAndTheInformationTool) {
   frmAbout form(Everything);
   Use(form, [&] {
-    EXPECT_EQ(Shown(form, "lblTitle"), "KestrelII");
-    EXPECT_EQ(Shown(form, "lblVersion"), "Version 3.06");
-    const std::string text = Shown(form, "lblDescription");
-    for (const char* part :
-         {"Copyright 2026 The KestrelII authors", "Test stations of 1 May", "GeoNames", "CC BY 4.0",
-          "Natural Earth", "US Census Bureau", "WITHOUT WARRANTY OF ANY KIND"})
-      EXPECT_NE(text.find(part), std::string::npos) << part;
-
+    EXPECT_NE(Shown(form, "lblDescription").find("Stations of a test"), std::string::npos);
     Press(form, "cmdSysInfo");
     EXPECT_EQ(System.Messages, QStringList{"System Information Is Unavailable At This Time"});
     System.HasSystemInformation = true;
@@ -49,7 +41,7 @@ TEST_F(AboutTest, TextsAndTheInformationTool) {
 }
 
 TEST_F(AboutTest, ToolsAreFoundByEntryThenByProgram) {
-  for (const char* folder : {"first", "second", "programs"}) QDir(Path()).mkdir(folder);
+  for (const char* folder : {"first", "second", "programs"}) ASSERT_TRUE(QDir().mkdir(Path(folder)));
   EXPECT_FALSE(Tool());
 
   WriteProgram("programs/hardinfo");
@@ -70,17 +62,14 @@ TEST_F(AboutTest, ToolsAreFoundByEntryThenByProgram) {
 }
 
 TEST_F(AboutTest, TheRegistryRoute) {
-  QMap<QString, QString> values;
-  const RegistryText registry = [&](const QString& key, const QString& value) {
-    return values.value(key + ':' + value);
-  };
+  QMap<QString, QString> values = {{"SOFTWARE\\Microsoft\\Shared Tools Location:MSINFO", "C:\\Tools"}};
   QStringList files;
   const auto find = [&] {
-    return FindRegisteredTool(registry, [&](const QString& path) { return files.contains(path); });
+    return FindRegisteredTool(
+        [&](const QString& key, const QString& value) { return values[key + ':' + value]; },
+        [&](const QString& path) { return files.contains(path); });
   };
-  EXPECT_FALSE(find());
-  values["SOFTWARE\\Microsoft\\Shared Tools Location:MSINFO"] = "C:\\Tools";
-  EXPECT_FALSE(find());  // the folder is known, the program is not in it
+  EXPECT_FALSE(find()) << "the folder is known, the program is not in it";
   files << "C:\\Tools\\MSINFO32.EXE";
   EXPECT_EQ(find(), (ProgramCall{"C:\\Tools\\MSINFO32.EXE", {}}));
   values["SOFTWARE\\Microsoft\\Shared Tools\\MSINFO:PATH"] = "D:\\msinfo32.exe";

@@ -1,109 +1,71 @@
 #include "forms/frmOpening.h"
 
-#include <gtest/gtest.h>
-
-#include <QLabel>
-#include <QPushButton>
-#include <QTest>
-
-#include "forms/SampleFolder.h"
-#include "forms/StandInPlatform.h"
+#include "forms/FormFixture.h"
 
 namespace kestrel {
 namespace {
 
-class frmOpeningTest : public ::testing::Test {
- protected:
-  SampleFolder folder_;
-  const DataFolder data_ = folder_.Folder();
-  SessionState state_;
-  StandInPlatform platform_;
-  const Workspace workspace_{state_, data_, platform_};
-};
+using frmOpeningTest = FormTest;
 
 TEST_F(frmOpeningTest, LoadsListsAndSessionAndLeadsOn) {
-  folder_.Put("Kestrel.CFG", "Frequency: 1.23K\nHome: Here\nLat: 40\nLon: 75\n");
-  frmOpening opening(workspace_);
+  Files.Put("Kestrel.CFG", "Frequency: 1.23K\nHome: Here\nLat: 40\nLon: 75\n");
+  frmOpening opening(Everything);
   int starts = 0;
   opening.Started = [&] { ++starts; };
   opening.show();
   opening.Load();
-  EXPECT_EQ(platform_.Messages, QStringList());
-  EXPECT_EQ(state_.CityList.size(), 1U);
-  EXPECT_EQ(state_.CallList.size(), 1U);
-  EXPECT_EQ(state_.CurrentFrequency, 1230);
-  EXPECT_EQ(opening.findChild<QLabel*>("lblVersion")->text(), "Version 3.06");
-  EXPECT_EQ(opening.findChild<QLabel*>("lblStations")->text(), "Stations of a test");
+  EXPECT_EQ(System.Messages, QStringList());
+  EXPECT_EQ(State.CityList.size(), 1U);
+  EXPECT_EQ(State.CallList.size(), 1U);
+  EXPECT_EQ(State.CurrentFrequency, 1230);
+  EXPECT_EQ(Shown(opening, "lblStations"), "Stations of a test");
 
-  QTest::mouseClick(opening.findChild<QLabel*>("lblVersion"), Qt::LeftButton);
-  EXPECT_EQ(platform_.Beeps, 1);
+  QTest::mouseClick(Find<QLabel>(opening, "lblVersion"), Qt::LeftButton);
+  EXPECT_EQ(System.Beeps, 1);
   EXPECT_EQ(starts, 0);
   QTest::keyClick(&opening, Qt::Key_Return);
   EXPECT_EQ(starts, 1);
   EXPECT_FALSE(opening.isVisible());
 }
 
-TEST_F(frmOpeningTest, EscapeAndExitLeaveWithoutStarting) {
-  for (const bool byKey : {true, false}) {
-    frmOpening opening(workspace_);
-    opening.Started = [] { ADD_FAILURE() << "the map was opened"; };
-    opening.show();
-    opening.Load();
-    if (byKey)
-      QTest::keyClick(&opening, Qt::Key_Escape);
-    else
-      QTest::mouseClick(opening.findChild<QPushButton*>("cmdExit"), Qt::LeftButton);
-    EXPECT_FALSE(opening.isVisible());
-  }
-}
-
 TEST_F(frmOpeningTest, LoadsOnceShownUnlessItHasBeenLeft) {
-  for (const char* button : {"cmdEnter", "cmdExit"}) {
-    frmOpening opening(workspace_);
+  for (const std::string way : {"cmdEnter", "cmdExit", "Escape"}) {
+    frmOpening opening(Everything);
     int loads = 0;
+    int starts = 0;
     opening.FirstPainted = [&] { ++loads; };
+    opening.Started = [&] { ++starts; };
     opening.show();
     opening.grab();  // paints it
-    QTest::mouseClick(opening.findChild<QPushButton*>(button), Qt::LeftButton);
+    if (way == "Escape")
+      QTest::keyClick(&opening, Qt::Key_Escape);
+    else
+      Press(opening, way.c_str());
+    EXPECT_FALSE(opening.isVisible()) << way;
     EXPECT_EQ(loads, 0) << "painted first";
     QCoreApplication::processEvents();
-    EXPECT_EQ(loads, button == std::string("cmdEnter") ? 1 : 0);
+    EXPECT_EQ(loads, way == "cmdEnter" ? 1 : 0) << way;
+    EXPECT_EQ(starts, loads) << way;
   }
 }
 
-TEST_F(frmOpeningTest, MissingListEndsLoadingButStartStillReadsTheSession) {
-  folder_.Put("Kestrel.CFG", "Frequency: 1230\nHome: Here\nLat: 40\nLon: 75\n");
-  for (const char* list : {"Kestrel.lst", "StationsCall.DAT"}) {
-    SampleFolder fresh;
-    fresh.Put("Kestrel.CFG", folder_.Text("Kestrel.CFG"));
-    fresh.Remove(list);
-    SessionState state;
-    StandInPlatform platform;
-    const DataFolder data = fresh.Folder();
-    frmOpening opening({state, data, platform});
+TEST_F(frmOpeningTest, AListThatCannotBeReadEndsLoadingButStartStillReadsTheSession) {
+  Files.Put("Kestrel.CFG", "Frequency: 1230\nHome: Here\nLat: 40\nLon: 75\n");
+  Files.Put("StationsCall.DAT", QByteArray("too many\n").repeated(9001));
+  for (const bool missing : {false, true}) {
+    if (missing) Files.Remove("Kestrel.lst");
+    State = {};
+    frmOpening opening(Everything);
     opening.show();
     opening.Load();
-    EXPECT_EQ(platform.Messages, QStringList("We have had a data-file reading error")) << list;
+    EXPECT_EQ(System.Messages.size(), missing ? 2 : 1);
+    EXPECT_EQ(System.Messages.last(), "We have had a data-file reading error");
     EXPECT_TRUE(opening.isVisible());
-    EXPECT_EQ(state.CurrentFrequency, 620) << "the session is not reached";
-    opening.Started = [&] { EXPECT_EQ(state.CurrentFrequency, 1230); };
-    QTest::mouseClick(opening.findChild<QPushButton*>("cmdEnter"), Qt::LeftButton);
-    EXPECT_EQ(state.HomeName, "Here");
+    EXPECT_EQ(State.CurrentFrequency, 620) << "the session is not reached";
+    opening.Started = [&] { EXPECT_EQ(State.CurrentFrequency, 1230); };
+    Press(opening, "cmdEnter");
+    EXPECT_EQ(State.HomeName, "Here");
   }
-}
-
-TEST_F(frmOpeningTest, FullListLoadsAndOneMoreEntryIsAnError) {
-  std::string lines;
-  for (int i = 0; i < 3400; ++i) lines += "           Plano  TX                  33.0198   96.6989\r\n\r\n";
-  folder_.Put("Kestrel.lst", lines);
-  frmOpening full(workspace_);
-  full.Load();
-  EXPECT_EQ(state_.CityList.size(), 3400U);
-  EXPECT_TRUE(platform_.Messages.isEmpty());
-  folder_.Put("Kestrel.lst", lines + "one more\r\n");
-  frmOpening overfull(workspace_);
-  overfull.Load();
-  EXPECT_EQ(platform_.Messages, QStringList("We have had a data-file reading error"));
 }
 
 }  // namespace

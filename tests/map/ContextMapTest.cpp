@@ -62,21 +62,13 @@ TEST(ContextMapTest, TheStationsMarkAndTheFrameLieOnTop) {
   const RecordingCanvas canvas = Draw("0 285\n1 285\n", 1, "0 284\n1 284\n");
   EXPECT_EQ(canvas.All("Polyline").size(), 2U);
   const auto circles = canvas.All("Circle");
-  ASSERT_EQ(circles.size(), 2U);
-  EXPECT_EQ(circles[0].Radius, 10);
-  EXPECT_EQ(circles[0].LineWidth, 10);
-  EXPECT_EQ(circles[0].Color, 0xFFFFFF);
-  EXPECT_EQ(circles[1].Radius, 75);
-  EXPECT_EQ(circles[1].LineWidth, 1);
-  EXPECT_EQ(circles[1].Color, 255);
+  const Point center = {0.35F * W, 0.325F * H};
+  const Font face = canvas.List.back().Face;
+  EXPECT_EQ(circles, (std::vector<Drawn>{{"Circle", {center}, 10, "", 0xFFFFFF, 10, face},
+                                         {"Circle", {center}, 75, "", 255, 1, face}}));
   EXPECT_EQ(canvas.List.front().Verb, "FilledBox") << "what was there is covered first";
-  EXPECT_EQ(canvas.List.back(), (Drawn{"Box",
-                                       {{0.05F * W, 0.05F * H}, {0.65F * W, 0.65F * H}},
-                                       0,
-                                       "",
-                                       16711680,
-                                       1,
-                                       canvas.List.back().Face}));
+  const std::vector<Point> frame = {{0.05F * W, 0.05F * H}, {0.65F * W, 0.65F * H}};
+  EXPECT_EQ(canvas.List.back(), (Drawn{"Box", frame, 0, "", 16711680, 1, face}));
   for (const Drawn& mask : canvas.All("FilledBox")) {
     if (mask.Color == 0xFFFFFF) continue;
     EXPECT_EQ(mask.Color, 16777198);
@@ -84,7 +76,6 @@ TEST(ContextMapTest, TheStationsMarkAndTheFrameLieOnTop) {
                         mask.Points[1].y <= 0.05F * H || mask.Points[0].y >= 0.65F * H;
     EXPECT_TRUE(beside) << "a mask inside the frame";
   }
-
   EXPECT_EQ(canvas.Texts().size(), 0U);
 }
 
@@ -106,26 +97,6 @@ TEST(ContextMapTest, AnOutlineFileThatCannotBeReadIsNamedOnTheMap) {
   const RecordingCanvas half = draw();
   EXPECT_EQ(half.Texts(), std::vector<std::string>{"REGION2.dat cannot be read"});
   EXPECT_EQ(half.All("Polyline").size(), 1U);
-}
-
-TEST(ContextMapTest, TheWayToALimitClosesOnePressAfterIt) {
-  ContextZoom zoom;
-  for (const float scale : {2.0F, 4.0F, 8.0F}) {
-    zoom.ZoomIn();
-    EXPECT_EQ(zoom.Scale, scale);
-    EXPECT_TRUE(zoom.MayZoomIn);
-  }
-  zoom.ZoomIn();
-  EXPECT_EQ(zoom.Scale, 8);
-  EXPECT_FALSE(zoom.MayZoomIn);
-  for (const float scale : {4.0F, 2.0F, 1.0F, 0.5F, 0.25F}) {
-    zoom.ZoomOut();
-    EXPECT_EQ(zoom.Scale, scale);
-    EXPECT_TRUE(zoom.MayZoomIn && zoom.MayZoomOut);
-  }
-  zoom.ZoomOut();
-  EXPECT_EQ(zoom.Scale, 0.25F);
-  EXPECT_FALSE(zoom.MayZoomOut);
 }
 
 }  // namespace

@@ -57,7 +57,7 @@ TEST(DisplayListTest, PlaysBackWhatWasDrawn) {
   EXPECT_EQ(list.Stations()[2].At, (Point{7, 8}));
 }
 
-TEST(DisplayListTest, PlaysAdditionsInTheColoursSetBefore) {
+TEST(DisplayListTest, PlaysAdditionsInTheColoursSetBeforeAndClearForgetsThem) {
   const FixedMeasure measure;
   DisplayList list(measure);
   DrawSomething(list);
@@ -69,21 +69,16 @@ TEST(DisplayListTest, PlaysAdditionsInTheColoursSetBefore) {
   EXPECT_EQ(played.List[0].Color, -1);
   EXPECT_EQ(played.List[0].LineWidth, 2.5F);
   EXPECT_EQ(played.List[0].Face.Points, 8);
-}
 
-TEST(DisplayListTest, ClearForgetsEverything) {
-  const FixedMeasure measure;
-  DisplayList list(measure);
-  DrawSomething(list);
   list.Clear();
   EXPECT_TRUE(list.IsEmpty());
   EXPECT_TRUE(list.Stations().empty());
   EXPECT_EQ(list.TextWidth("ab"), 200) << "in the font of a new canvas";
   list.Dot({1, 2});
-  RecordingCanvas played, direct;
+  RecordingCanvas anew, direct;
   direct.Dot({1, 2});
-  list.Play(played);
-  EXPECT_EQ(played.List, direct.List);
+  list.Play(anew);
+  EXPECT_EQ(anew.List, direct.List);
 }
 
 }  // namespace

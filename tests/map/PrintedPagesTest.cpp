@@ -24,37 +24,26 @@ TEST(PrintedPagesTest, TheMapPageRepeatsTheDrawingUnderItsTitle) {
   TestFolder data;
   data.Put("Stations.txt", "Stations of a test, 2026\r\n");
   SessionState state;
-  state.CurrentFrequency = 790;
+  state.CurrentFrequency = 620;
   state.HomeLatitude = -12.5;
   FixedMeasure measure;
-  DisplayList drawing(measure);
-  drawing.SetColor(255);
-  drawing.Line({1, 2}, {3, 4});
-  drawing.Text({5, 6}, "on the map");
-  const PrintedPage page = MapPage(state, data.Folder(), {drawing, {}});
-  EXPECT_EQ(TextsOf(page, kLetterLandscape),
-            (std::vector<std::string>{"790 kHz    Home: Plano   TX  12.5 S, 96.54139 W",
-                                      "Stations of a test, 2026", "on the map"}));
-}
-
-TEST(PrintedPagesTest, TheTitleNamesTheChannelsOnThePage) {
-  TestFolder data;
-  SessionState state;
-  state.CurrentFrequency = 620;
-  FixedMeasure measure;
-  const auto title = [&](const std::vector<int>& channels, bool scanned) {
+  const auto texts = [&](const std::vector<int>& channels, bool scanned) {
     DisplayList drawing(measure);
+    drawing.Text({5, 6}, "on the map");
     for (const int channel : channels) {
       drawing.BeginStation({{}, channel, "QABC", "D"});
       drawing.EndStation();
     }
-    const std::string text =
-        TextsOf(MapPage(state, data.Folder(), {drawing, {}, scanned}), kLetterLandscape).at(0);
+    return TextsOf(MapPage(state, data.Folder(), {drawing, {}, scanned}), kLetterLandscape);
+  };
+  EXPECT_EQ(texts({}, false), (std::vector<std::string>{"620 kHz    Home: Plano   TX  12.5 S, 96.54139 W",
+                                                        "Stations of a test, 2026", "on the map"}));
+  const auto title = [&](const std::vector<int>& channels, bool scanned) {
+    const std::string text = texts(channels, scanned).at(0);
     return text.substr(0, text.find("    Home: "));
   };
   std::vector<int> band;
   for (int channel = 530; channel <= 1700; channel += 10) band.push_back(channel);
-  EXPECT_EQ(title({}, false), "620 kHz") << "a channel without stations";
   EXPECT_EQ(title({620, 620}, false), "620 kHz");
   EXPECT_EQ(title({620, 630, 610, 630}, false), "620 kHz with 610, 630 kHz");
   EXPECT_EQ(title({610}, false), "620 kHz with 610 kHz") << "the hours chosen leave it no station";

@@ -43,51 +43,48 @@ std::vector<Drawn> Strokes(const RecordingCanvas& canvas, ColorValue color) {
   return found;
 }
 
-TEST(StationPlotTest, TheTraceFollowsThePatternOneDegreeAnticlockwise) {
-  for (const float aspect : {1.0F, 0.6F, 1.5F}) {
-    const auto traces = Strokes(Plot({Cardioid()}, aspect), 0);
-    ASSERT_EQ(traces.size(), 1U);
-    const std::vector<Point>& points = traces[0].Points;
-    ASSERT_EQ(points.size(), 361U);
-    EXPECT_EQ(points.front(), points.back()) << "closed";
-    double largest = 0;  // the extent that is brought to 1985 twips, from every second value
-    for (int d = 1; d <= 359; d += 2)
-      for (const double share : {std::sin((d - 1) * kRadian), std::cos((d - 1) * kRadian)})
-        largest = std::max(largest, std::abs(share * CardioidValue(d)));
-    for (int d = 1; d <= 360; ++d) {
-      const double radius = 1985 / largest * CardioidValue(d);
-      const Point at = points[static_cast<std::size_t>(d - 1)];
-      EXPECT_NEAR(at.x, 6000 + aspect * radius * std::sin((d - 1) * kRadian), 0.5) << d;
-      EXPECT_NEAR(at.y, 6500 - radius * std::cos((d - 1) * kRadian), 0.5) << d;
-    }
+/// The cardioid's points, one degree anticlockwise of the values, its extent brought to `radius`.
+std::vector<Point> Trace(double radius, double aspect = 1) {
+  double largest = 0;  // from every second value
+  for (int d = 1; d <= 359; d += 2)
+    for (const double share : {std::sin((d - 1) * kRadian), std::cos((d - 1) * kRadian)})
+      largest = std::max(largest, std::abs(share * CardioidValue(d)));
+  std::vector<Point> points;
+  for (int d = 1; d <= 361; ++d) {
+    const double length = radius / largest * CardioidValue(d == 361 ? 1 : d);
+    points.push_back({static_cast<float>(6000 + aspect * length * std::sin((d - 1) * kRadian)),
+                      static_cast<float>(6500 - length * std::cos((d - 1) * kRadian))});
+  }
+  return points;
+}
+
+void ExpectNear(const std::vector<Point>& points, const std::vector<Point>& wanted, double tolerance) {
+  ASSERT_EQ(points.size(), wanted.size());
+  for (std::size_t i = 0; i < points.size(); ++i) {
+    EXPECT_NEAR(points[i].x, wanted[i].x, tolerance) << i;
+    EXPECT_NEAR(points[i].y, wanted[i].y, tolerance) << i;
   }
 }
 
-TEST(StationPlotTest, TheEnlargedTraceIsBlueInsideThePlotBoxAndWhiteOutside) {
-  const RecordingCanvas canvas = Plot({Cardioid()});
+TEST(StationPlotTest, TheTraceFollowsThePatternAndItsEnlargementEndsAtThePlotBox) {
+  for (const float aspect : {1.0F, 0.6F, 1.5F}) {
+    const auto traces = Strokes(Plot({Cardioid()}, aspect), 0);
+    ASSERT_EQ(traces.size(), 1U);
+    ExpectNear(traces[0].Points, Trace(1985, aspect), 0.5);
+  }
+  // Blue inside, white outside, by where a segment ends.
   const auto isInside = [](Point at) { return at.x > 4000 && at.x < 8000 && at.y > 4500 && at.y < 8500; };
-  std::size_t segments = 0;
-  for (const auto& [color, inside] : std::map<ColorValue, bool>{{0xFF4444, true}, {0xFFFFFF, false}}) {
-    const auto strokes = Strokes(canvas, color);
-    EXPECT_FALSE(strokes.empty());
-    for (const Drawn& stroke : strokes)
-      for (std::size_t i = 1; i < stroke.Points.size(); ++i, ++segments)
-        EXPECT_EQ(isInside(stroke.Points[i]), inside) << stroke.Points[i].x << ' ' << stroke.Points[i].y;
+  std::vector<Point> enlarged = {Trace(10000).front()};
+  for (const Drawn& stroke : Plot({Cardioid()}).All("Polyline")) {
+    if (stroke.Color == 0) continue;
+    EXPECT_NEAR(stroke.Points[0].x, enlarged.back().x, 2.5) << "where the former stroke ended";
+    EXPECT_NEAR(stroke.Points[0].y, enlarged.back().y, 2.5);
+    for (std::size_t i = 1; i < stroke.Points.size(); ++i) {
+      EXPECT_EQ(stroke.Color, isInside(stroke.Points[i]) ? 0xFF4444 : 0xFFFFFF) << i;
+      enlarged.push_back(stroke.Points[i]);
+    }
   }
-  EXPECT_EQ(segments, 360U);
-  // At the same bearing the two traces stand in the ratio of 10000 to 1985: the trace crosses 1000 twips to
-  // the south-east where the enlarged one is at 5038.
-  const std::vector<Point> trace = Strokes(canvas, 0)[0].Points;
-  const std::vector<Point> enlarged = Strokes(canvas, 0xFF4444)[0].Points;
-  const double share = (enlarged[1].y - 6500) / (enlarged[1].x - 6000);
-  bool met = false;
-  for (const Point at : trace) {
-    if (std::abs((at.y - 6500) / (at.x - 6000) - share) > 1e-3 * std::abs(share)) continue;
-    met = met || std::abs(std::hypot(enlarged[1].x - 6000, enlarged[1].y - 6500) /
-                              std::hypot(at.x - 6000, at.y - 6500) -
-                          10000 / 1985.0) < 0.01;
-  }
-  EXPECT_TRUE(met);
+  ExpectNear(enlarged, Trace(10000), 2.5);
 }
 
 TEST(StationPlotTest, SpokesBearingsAndLegendStandInTheirPlaces) {

@@ -2,19 +2,15 @@
 
 #include <gtest/gtest.h>
 
-#include <QAbstractItemView>
 #include <QApplication>
 #include <QDialog>
-#include <QFontDatabase>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
-#include <QScrollBar>
 #include <QTest>
 #include <QVBoxLayout>
 
 #include "ui/FitToScreen.h"
-#include "ui/PlacePicker.h"
 
 namespace kestrel {
 namespace {
@@ -48,29 +44,6 @@ TEST(ControlsTest, NumbersAreReadInTheDigitsOfEveryScript) {
     box.setText(QString::fromUtf8(row.text));
     EXPECT_EQ(TypedNumber(box), row.number);
     EXPECT_EQ(box.text(), QString::fromUtf8(row.text)) << "what was typed stays";
-  }
-}
-
-TEST(ControlsTest, AListIsWholeWhereTwoOfThemFitTheScreen) {
-  const std::vector<std::string> lines = {"A line"};
-  const int screenWidth = QApplication::primaryScreen()->availableSize().width();
-  const int character = QFontMetrics(QFontDatabase::systemFont(QFontDatabase::FixedFont)).averageCharWidth();
-  const struct {
-    double share;  // of the screen
-    bool whole;
-  } rows[] = {{0.42, true}, {0.55, false}};
-  for (const auto& row : rows) {
-    PlaceListLook look;
-    look.Columns = {{"Place", static_cast<int>(screenWidth * row.share) / character}};
-    look.Cells =
-        look.Keys = [](const std::string& line) { return QStringList{QString::fromStdString(line)}; };
-    PlacePicker picker("lst", "txt", {}, lines, look);
-    picker.show();
-    picker.resize(picker.minimumSizeHint());
-    QApplication::processEvents();
-    auto* list = picker.findChild<QAbstractItemView*>("lst");
-    EXPECT_EQ(list->horizontalScrollBar()->maximum() == 0, row.whole) << row.share;
-    EXPECT_LE(picker.width(), screenWidth / 2) << row.share;
   }
 }
 

@@ -3,7 +3,8 @@
 #include <QFile>
 #include <QRegularExpression>
 #include <QtEndian>
-#include <tuple>
+#include <algorithm>
+#include <vector>
 
 namespace kestrel {
 namespace {
@@ -29,7 +30,7 @@ void ReadContent(const QByteArray& content, PdfPage& page) {
   std::vector<double> numbers;
   double scale = 1;
   double width = 1;
-  PdfColor line;
+  PdfColor line{};
   const auto color = [&numbers] {
     const std::size_t n = numbers.size();
     return n < 3 ? PdfColor{} : PdfColor{numbers[n - 3], numbers[n - 2], numbers[n - 1]};
@@ -56,8 +57,9 @@ void ReadContent(const QByteArray& content, PdfPage& page) {
 
 }  // namespace
 
-bool PdfColor::operator<(const PdfColor& other) const {
-  return std::tie(Red, Green, Blue) < std::tie(other.Red, other.Green, other.Blue);
+bool PdfPage::IsGrey() const {
+  return std::all_of(Colors.begin(), Colors.end(),
+                     [](const PdfColor& color) { return color[0] == color[1] && color[1] == color[2]; });
 }
 
 PdfPage ReadPdf(const QString& path) {

@@ -2,17 +2,13 @@
 
 #include <QSizeF>
 #include <QString>
+#include <array>
 #include <set>
-#include <vector>
 
 namespace kestrel {
 
 /// A colour of a PDF page, red, green and blue from 0 to 1.
-struct PdfColor {
-  double Red = 0, Green = 0, Blue = 0;
-  bool operator<(const PdfColor& other) const;
-  bool IsGrey() const { return Red == Green && Green == Blue; }
-};
+using PdfColor = std::array<double, 3>;
 
 /// What a PDF file of one page draws, read from its content.
 struct PdfPage {
@@ -23,6 +19,8 @@ struct PdfPage {
   std::set<double> LineWidths;  ///< points, of the lines that are drawn
   std::set<double> FontSizes;   ///< points, of the texts that are drawn
   std::set<PdfColor> Colors;    ///< of lines and texts
+
+  bool IsGrey() const;
 };
 
 PdfPage ReadPdf(const QString& path);

@@ -60,8 +60,11 @@ TEST(PlatformTest, TheBrowserGetsTheStationsAddressWhateverItsNameHolds) {
     const QUrl& opened = browser.Opened[0];
     EXPECT_EQ(opened.toEncoded().toStdString(), "http://maps.google.com/maps?hl=en&q=40.5,+-75.25+%28" +
                                                     std::string(row.pin) + "%20-%20NEW%20TOWN%29");
-    EXPECT_EQ(opened.host(), "maps.google.com");
-    EXPECT_EQ(opened.path(), "/maps");
+    DesktopPlatform().OpenAddress(QString::fromStdString(WebMapAddress(selection, row.callSign)));
+    for (const QUrl& address : browser.Opened) {  // as a call sign and as a language
+      EXPECT_EQ(address.host(), "maps.google.com") << row.callSign;
+      EXPECT_EQ(address.path(), "/maps") << row.callSign;
+    }
   }
 }
 

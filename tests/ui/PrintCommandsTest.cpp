@@ -8,7 +8,6 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 
 #include "TestFolder.h"
 #include "draw/Fonts.h"
@@ -65,14 +64,12 @@ class PrintCommandsTest : public ::testing::Test {
       return std::optional<PrintOrder>(std::move(order));
     };
   }
-  void ChoosePdf(bool outlineMap = false, QPageSize::PageSizeId paper = QPageSize::Letter) {
-    Choose([this, paper] { return std::make_unique<PrinterDevice>(Printer(pdf_, paper)); }, outlineMap);
-  }
-  void ChooseGreyPdf(bool outlineMap = false) {
+  void ChoosePdf(bool outlineMap = false, QPageSize::PageSizeId paper = QPageSize::A4,
+                 QPrinter::ColorMode colors = QPrinter::Color) {
     Choose(
-        [this] {
-          std::unique_ptr<QPrinter> printer = Printer(pdf_, QPageSize::A4);
-          printer->setColorMode(QPrinter::GrayScale);
+        [this, paper, colors] {
+          std::unique_ptr<QPrinter> printer = Printer(pdf_, paper);
+          printer->setColorMode(colors);
           return std::make_unique<PrinterDevice>(std::move(printer));
         },
         outlineMap);
@@ -82,6 +79,10 @@ class PrintCommandsTest : public ::testing::Test {
   }
 
   void PrintTheMap() { PrintMap(system_, data_.Folder(), state_, {drawing_, {}}, nullptr); }
+  void PrintTheStation() {
+    const SearchResult found = SearchStations(data_.Folder(), 1230, "QABC");
+    PrintStation(system_, data_.Folder(), state_, SelectRow(found.Rows.at(0)), nullptr);
+  }
 
   /// What was said since the last look.
   QStringList Said() { return std::exchange(system_.Messages, {}); }
@@ -116,86 +117,48 @@ class PrintCommandsTest : public ::testing::Test {
   StandInPlatform system_;
   PlatformTextMeasure measure_;
   DisplayList drawing_{measure_};
-  QTemporaryDir folder_;
-  QString pdf_ = folder_.filePath("page.pdf");
+  QString pdf_ = data_.Path("page.pdf");
 };
 
-TEST_F(PrintCommandsTest, TheMapIsOnePageOfLinesAndLetters) {
-  ChoosePdf();
-  PrintTheMap();
-  EXPECT_EQ(Said(), QStringList("All patterns printed"));
-  ExpectVectorPage(792, 612);
-  ChoosePdf(false, QPageSize::A4);
-  PrintTheMap();
-  ExpectVectorPage(842, 595);
+TEST_F(PrintCommandsTest, TheMapIsOnePageOfLinesAndLettersOnEveryPaper) {
+  for (const QPageSize::PageSizeId paper :
+       {QPageSize::A5, QPageSize::A3, QPageSize::Legal, QPageSize::Letter, QPageSize::A4}) {
+    ChoosePdf(false, paper);
+    PrintTheMap();
+    EXPECT_EQ(Said(), QStringList("All patterns printed"));
+    const QSizeF points = QPageSize(paper).size(QPageSize::Point);
+    ExpectVectorPage(static_cast<int>(points.height()), static_cast<int>(points.width()));
+  }
   if (!CanReadPdf()) GTEST_SKIP() << "no pdftotext to read the page's text with";
-  const QString text = PdfText();
-  for (const char* words : {"1230 kHz    Home: Plano", "Stations of a test", "1230 QABC", "Nighttime"})
-    EXPECT_TRUE(text.simplified().contains(QString(words).simplified())) << words << "\nin\n"
-                                                                         << text.toStdString();
-}
-
-TEST_F(PrintCommandsTest, TheOutlineMapHasNoStations) {
+  const QString text = PdfText().simplified();
+  for (const char* words : {"1230 kHz Home: Plano", "Stations of a test", "1230 QABC", "Nighttime"})
+    EXPECT_TRUE(text.contains(words)) << words << "\nin\n" << text.toStdString();
   ChoosePdf(true);
   PrintTheMap();
   EXPECT_EQ(Said(), QStringList());
-  ExpectVectorPage(792, 612);
-  if (!CanReadPdf()) GTEST_SKIP() << "no pdftotext to read the page's text with";
   EXPECT_TRUE(PdfText().contains("Region 2"));
-  EXPECT_FALSE(PdfText().contains("QABC"));
-}
-
-TEST_F(PrintCommandsTest, TheStationPageHoldsItsDataInWords) {
-  ChoosePdf(false, QPageSize::A4);
-  const SearchResult found = SearchStations(data_.Folder(), 1230, "QABC");
-  PrintStation(system_, data_.Folder(), state_, SelectRow(found.Rows.at(0)), nullptr);
-  EXPECT_EQ(Said(), QStringList());
-  ExpectVectorPage(842, 595);
-  if (!CanReadPdf()) GTEST_SKIP() << "no pdftotext to read the page's text with";
-  const QString text = PdfText();
-  for (const char* words :
-       {"QABC", "SPRINGFIELD", "1 kW", "nighttime (N)", "Spacings", "-90", "Enlarged 5x", "330"})
-    EXPECT_TRUE(text.contains(words)) << words << "\nin\n" << text.toStdString();
+  EXPECT_FALSE(PdfText().contains("QABC")) << "the outline map has no stations";
 }
 
 TEST_F(PrintCommandsTest, APrinterWithoutColourGetsGreysOnly) {
-  const auto isColored = [](const PdfPage& page) {
-    return std::any_of(page.Colors.begin(), page.Colors.end(),
-                       [](const PdfColor& color) { return !color.IsGrey(); });
-  };
-  for (const bool outlines : {false, true}) {
-    ChoosePdf(outlines, QPageSize::A4);
-    PrintTheMap();
-    const PdfPage colored = ExpectVectorPage(842, 595);
-    EXPECT_TRUE(isColored(colored));
-    ChooseGreyPdf(outlines);
-    PrintTheMap();
-    const PdfPage grey = ExpectVectorPage(842, 595);
-    EXPECT_FALSE(isColored(grey));
+  for (const auto& [outlines, station] : {std::pair{true, false}, {false, false}, {false, true}}) {
+    const auto print = [&](QPrinter::ColorMode colors) {
+      ChoosePdf(outlines, QPageSize::A4, colors);
+      station ? PrintTheStation() : PrintTheMap();
+      return ExpectVectorPage(842, 595);
+    };
+    const PdfPage colored = print(QPrinter::Color);
+    const PdfPage grey = print(QPrinter::GrayScale);
+    EXPECT_FALSE(colored.IsGrey());
+    EXPECT_TRUE(grey.IsGrey());
+    if (station) continue;
     EXPECT_GE(grey.Colors.size(), colored.Colors.size()) << "as many greys as there were colours";
     EXPECT_GT(grey.LineWidths.size(), colored.LineWidths.size()) << "and widths";
-  }
-  const StationSelection selection = SelectRow(SearchStations(data_.Folder(), 1230, "QABC").Rows.at(0));
-  ChoosePdf(false, QPageSize::A4);
-  PrintStation(system_, data_.Folder(), state_, selection, nullptr);
-  EXPECT_TRUE(isColored(ExpectVectorPage(842, 595)));
-  ChooseGreyPdf();
-  PrintStation(system_, data_.Folder(), state_, selection, nullptr);
-  EXPECT_FALSE(isColored(ExpectVectorPage(842, 595)));
-}
-
-TEST_F(PrintCommandsTest, SmallPaperKeepsLettersLegible) {
-  for (const QPageSize::PageSizeId paper : {QPageSize::A5, QPageSize::A3, QPageSize::Legal}) {
-    ChoosePdf(false, paper);
-    PrintTheMap();
-    const QSizeF points = QPageSize(paper).size(QPageSize::Point);
-    ExpectVectorPage(static_cast<int>(points.height()), static_cast<int>(points.width()));
   }
 }
 
 TEST_F(PrintCommandsTest, NothingOfTheStationPageRunsTogetherOnSmallPaper) {
   if (!CanReadPdf()) GTEST_SKIP() << "no pdftotext to read the page's text with";
-  const StationSelection selection = SelectRow(SearchStations(data_.Folder(), 1230, "QABC").Rows.at(0));
   for (const QPageSize::PageSizeId paper : {QPageSize::Letter, QPageSize::A5, QPageSize::A6})
     for (const auto orientation : {QPageLayout::Landscape, QPageLayout::Portrait}) {
       Choose([&] {
@@ -203,10 +166,12 @@ TEST_F(PrintCommandsTest, NothingOfTheStationPageRunsTogetherOnSmallPaper) {
         printer->setPageOrientation(orientation);
         return std::make_unique<PrinterDevice>(std::move(printer));
       });
-      PrintStation(system_, data_.Folder(), state_, selection, nullptr);
+      PrintTheStation();
+      EXPECT_EQ(Said(), QStringList());
       const QStringList words = PdfText().split(QRegularExpression("\\s+"));
-      for (const char* word : {"Tower", "Fields", "Heights", "Phases", "Spacings", "Bearings", "Switch",
-                               "QABC", "SPRINGFIELD", "STATES", "96.54139", "home", "330"})
+      for (const char* word :
+           {"Tower", "Fields", "Heights", "Phases", "Spacings", "Bearings", "Switch", "QABC", "SPRINGFIELD",
+            "nighttime", "STATES", "96.54139", "home", "-90", "Enlarged", "330"})
         EXPECT_TRUE(words.contains(word)) << word << " on paper " << paper << ' ' << orientation << '\n'
                                           << PdfText().toStdString();
     }
@@ -226,28 +191,23 @@ TEST_F(PrintCommandsTest, AFileThatBreaksOffIsNotPrinted) {
   EXPECT_EQ(Said(), QStringList("Printer Error"));
 }
 
-TEST_F(PrintCommandsTest, ACancelledDialogPrintsNothingAndSaysNothing) {
-  PrintTheMap();
-  PrintStation(system_, data_.Folder(), state_, {}, nullptr);
-  EXPECT_EQ(Said(), QStringList());
-}
-
 TEST_F(PrintCommandsTest, EveryFailureHasItsWords) {
   const QString states = "We had a problem sending STATES.dat to the printer";
   const QString region = "We had a problem sending REGION2.dat to the printer";
   const QString outlines = "We had a problem printing the map of Region 2";
   const auto unopened = [this] {
-    return std::make_unique<PrinterDevice>(Printer(folder_.filePath("no such folder/page.pdf")));
+    return std::make_unique<PrinterDevice>(Printer(data_.Path("no such folder/page.pdf")));
   };
 
-  Choose(unopened);
   PrintTheMap();
-  EXPECT_EQ(Said(), QStringList("Printer Error"));
-  Choose(unopened, true);
-  PrintTheMap();
-  EXPECT_EQ(Said(), QStringList("Printer Error"));
-  Choose(unopened);
-  PrintStation(system_, data_.Folder(), state_, {}, nullptr);
+  PrintTheStation();
+  EXPECT_EQ(Said(), QStringList()) << "cancelled";
+  for (const bool outlineMap : {false, true}) {
+    Choose(unopened, outlineMap);
+    PrintTheMap();
+    EXPECT_EQ(Said(), QStringList("Printer Error"));
+  }
+  PrintTheStation();
   EXPECT_EQ(Said(), QStringList("Printer Error"));
   ChooseFailing(false);
   PrintTheMap();
@@ -256,11 +216,11 @@ TEST_F(PrintCommandsTest, EveryFailureHasItsWords) {
   PrintTheMap();
   EXPECT_EQ(Said(), QStringList(outlines));
 
-  ASSERT_TRUE(QFile::remove(data_.Folder().Path() + "/STATES.dat"));
+  data_.Remove("STATES.dat");
   ChoosePdf();
   PrintTheMap();
   EXPECT_EQ(Said(), QStringList({states, "All patterns printed"}));
-  ASSERT_TRUE(QFile::remove(data_.Folder().Path() + "/REGION2.dat"));
+  data_.Remove("REGION2.dat");
   ChoosePdf(true);
   PrintTheMap();
   EXPECT_EQ(Said(), QStringList({states, region, outlines}));
