@@ -67,8 +67,7 @@ void Scan(const Band& band, const SessionState& state) {
   const DataFolder folder(QString::fromStdString(band.Folder));
   const MapProjection projection(state.HomeLatitude, state.HomeLongitude, state.ScaleFactor);
   DrawOutlineFiles(surface.List, folder, projection);
-  for (const float channel : Channels())
-    static_cast<void>(DrawScannedChannel(surface.List, folder, projection, channel));
+  for (BandScan scan(folder, projection); !scan.AtEnd();) static_cast<void>(scan.DrawNext(surface.List));
   surface.Show();
 }
 

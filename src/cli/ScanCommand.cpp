@@ -6,7 +6,6 @@
 #include "cli/Console.h"
 #include "cli/Options.h"
 #include "core/Numbers.h"
-#include "data/StationFile.h"
 #include "draw/Fonts.h"
 #include "draw/Picture.h"
 #include "map/BandScan.h"
@@ -36,9 +35,9 @@ void DrawBand(const DataFolder& folder, const MapProjection& projection, Canvas&
   int channels = 0;
   {
     const ProgressLine progress;
-    for (float channel = LowestChannel; channel <= HighestChannel; channel += ChannelStep) {
-      progress.Show(channel);
-      const Result<Done> drawn = DrawScannedChannel(canvas, folder, projection, channel);
+    for (BandScan scan(folder, projection); !scan.AtEnd();) {
+      progress.Show(scan.Channel());
+      const Result<Done> drawn = scan.DrawNext(canvas);
       if (drawn)
         ++channels;
       else if (drawn.error().kind != Error::Kind::NotFound)

@@ -221,12 +221,12 @@ void frmPlot::ScanOnce() {
   const MapProjection projection(state.HomeLatitude, state.HomeLongitude, state.ScaleFactor);
   DrawOutlineFiles(surface_->Drawing(), workspace_.Folder, projection);
   surface_->ShowDrawing();
-  for (float channel = LowestChannel; channel <= HighestChannel && !state.StopRequested;
-       channel += ChannelStep) {
-    progress_->setValue(static_cast<int>(channel));
-    progress_->setFormat(QString::number(static_cast<int>(channel)) + " kHz");
+  for (BandScan scan(workspace_.Folder, projection); !scan.AtEnd() && !state.StopRequested;) {
+    const int channel = static_cast<int>(scan.Channel());
+    progress_->setValue(channel);
+    progress_->setFormat(QString::number(channel) + " kHz");
     // A channel without a file has no stations.
-    static_cast<void>(DrawScannedChannel(surface_->Drawing(), workspace_.Folder, projection, channel));
+    static_cast<void>(scan.DrawNext(surface_->Drawing()));
     surface_->ShowAdditions();
     workspace_.System.ProcessEvents();
   }

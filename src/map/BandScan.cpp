@@ -1,10 +1,12 @@
 #include "map/BandScan.h"
 
+#include <algorithm>
 #include <bit>
+#include <chrono>
 #include <cmath>
 #include <cstdint>
+#include <thread>
 #include <unordered_set>
-#include <vector>
 
 #include "core/Numbers.h"
 #include "core/Text.h"
@@ -21,8 +23,18 @@ constexpr Font kMapFont = {FontFace::Sans, 10};
 constexpr ColorValue kTextColor = 0x202020;
 constexpr ColorValue kCrossColor = 255;
 
+constexpr unsigned kMostProcessors = 4;
+
+float ChannelOf(std::size_t index) {
+  return LowestChannel + ChannelStep * static_cast<float>(index);
+}
+
 /// The stations of a channel's file, each with its place; those without one left out.
-std::vector<StationMark> ReadMarks(std::string_view bytes, const MapProjection& projection, float channel) {
+Result<std::vector<StationMark>> ReadMarks(const DataFolder& folder, const MapProjection& projection,
+                                           float channel) {
+  const Result<QByteArray> file = folder.Read(StationFileName(channel));
+  if (!file) return file.error();
+  const std::string_view bytes(file->constData(), static_cast<std::size_t>(file->size()));
   std::vector<StationMark> marks;
   std::vector<float> latitudes, longitudesEast;
   StationLineReader lines(bytes);
@@ -48,19 +60,12 @@ std::uint64_t Spot(Point at) {
   return std::uint64_t{std::bit_cast<std::uint32_t>(at.x)} << 32 | std::bit_cast<std::uint32_t>(at.y);
 }
 
-}  // namespace
-
-Result<Done> DrawScannedChannel(Canvas& canvas, const DataFolder& folder, const MapProjection& projection,
-                                float channel) {
-  const Result<QByteArray> bytes = folder.Read(StationFileName(channel));
-  if (!bytes) return bytes.error();
-
+void DrawChannel(Canvas& canvas, float channel, const std::vector<StationMark>& marks) {
   canvas.SetLineWidth(1);
   canvas.SetFont(kLabelFont);
   const std::string label = NumberText(channel);
   std::unordered_set<std::uint64_t> labelled;  // a station's second record stands on the same spot
-  const std::string_view view(bytes->constData(), static_cast<std::size_t>(bytes->size()));
-  for (const StationMark& mark : ReadMarks(view, projection, channel)) {
+  for (const StationMark& mark : marks) {
     const auto [x, y] = mark.At;
     canvas.BeginStation(mark);
     if (labelled.insert(Spot(mark.At)).second) {
@@ -73,6 +78,44 @@ Result<Done> DrawScannedChannel(Canvas& canvas, const DataFolder& folder, const 
     canvas.EndStation();
   }
   canvas.SetFont(kMapFont);
+}
+
+}  // namespace
+
+BandScan::BandScan(const DataFolder& folder, const MapProjection& projection) {
+  for (std::size_t i = 0; ChannelOf(i) <= HighestChannel; ++i)
+    readings_.emplace_back([folder, projection, i] { return ReadMarks(folder, projection, ChannelOf(i)); });
+  const unsigned processors = std::min(std::thread::hardware_concurrency(), kMostProcessors);
+  for (unsigned i = 1; i < processors; ++i)
+    readers_.push_back(std::async([this] {
+      while (ReadOne())
+        ;
+    }));
+}
+
+BandScan::~BandScan() {
+  next_ = readings_.size();
+}
+
+float BandScan::Channel() const {
+  return ChannelOf(present_);
+}
+
+bool BandScan::ReadOne() {
+  const std::size_t channel = next_++;
+  if (channel >= readings_.size()) return false;
+  readings_[channel]();
+  return true;
+}
+
+Result<Done> BandScan::DrawNext(Canvas& canvas) {
+  const float channel = Channel();
+  std::future<Marks> reading = readings_[present_++].get_future();
+  while (reading.wait_for(std::chrono::seconds(0)) != std::future_status::ready)
+    if (!ReadOne()) reading.wait();
+  const Marks marks = reading.get();
+  if (!marks) return marks.error();
+  DrawChannel(canvas, channel, *marks);
   return Done{};
 }
 

@@ -1,5 +1,10 @@
 #pragma once
 
+#include <atomic>
+#include <cstddef>
+#include <future>
+#include <vector>
+
 #include "core/Result.h"
 #include "data/DataFolder.h"
 #include "map/Canvas.h"
@@ -7,11 +12,33 @@
 
 namespace kestrel {
 
-/// Draws one channel of the whole-band scan: for every station line of its file a red cross at the station's
-/// place and the channel's number beside it, no pattern. A record whose position is no finite number is left
-/// out. The caller goes from LowestChannel to HighestChannel by ChannelStep and may stop between any two.
-/// Errors: the file's (NotFound for a channel without stations); nothing is drawn then.
-Result<Done> DrawScannedChannel(Canvas& canvas, const DataFolder& folder, const MapProjection& projection,
-                                float channel);
+/// The whole-band scan: all channels from the lowest to the highest, one after the other, for whoever wants
+/// to show each as it comes. While one is drawn and shown, the files of those that follow are read.
+class BandScan {
+ public:
+  BandScan(const DataFolder& folder, const MapProjection& projection);
+  /// Waits for the files being read.
+  ~BandScan();
+
+  bool AtEnd() const { return present_ == readings_.size(); }
+  /// The channel that comes next, kHz.
+  float Channel() const;
+
+  /// Draws the next channel: for every station line of its file a red cross at the station's place and the
+  /// channel's number beside it, no pattern. A record whose position is no finite number is left out. Errors:
+  /// the file's (NotFound for a channel without stations); nothing is drawn then. REQUIRES: not AtEnd().
+  Result<Done> DrawNext(Canvas& canvas);
+
+ private:
+  using Marks = Result<std::vector<StationMark>>;
+
+  /// Reads the first channel that nobody has begun with. Returns whether there was one.
+  bool ReadOne();
+
+  std::vector<std::packaged_task<Marks()>> readings_;  // by channel
+  std::atomic<std::size_t> next_ = 0;                  // to be read
+  std::size_t present_ = 0;                            // to be drawn
+  std::vector<std::future<void>> readers_;             // beside the caller, as far as there are threads
+};
 
 }  // namespace kestrel

@@ -99,6 +99,34 @@ TEST(SurfaceViewTest, ThinningShortensCrowdedLinesAndKeepsTheSmallestShape) {
   EXPECT_EQ(StrokesOf(view, {{-1000, 4500}, {13000, 4500}}).size(), 1U);
 }
 
+TEST(SurfaceViewTest, WhatIsNearlyStraightIsDrawnStraight) {
+  SurfaceView view(RulesFor(1200, 950));  // ten twips to the pixel
+  // A circle as antenna patterns have, 50 pixels in radius: no more vertices than it needs to look round.
+  std::vector<Point> circle;
+  Stroke plain;
+  for (int i = 0; i <= 180; ++i) {
+    const double angle = i * 3.14159265 / 90;
+    circle.push_back(
+        {static_cast<float>(6000 + 500 * std::sin(angle)), static_cast<float>(4500 - 500 * std::cos(angle))});
+    plain.emplace_back(view.At(circle.back()).x, view.At(circle.back()).y);
+  }
+  const std::vector<Stroke> runs = StrokesOf(view, circle);
+  ASSERT_EQ(runs.size(), 1U);
+  EXPECT_LE(runs[0].size(), 91U);
+  EXPECT_EQ(runs[0].front(), plain.front());
+  EXPECT_EQ(runs[0].back(), plain.back());
+  for (const QPointF& point : plain) EXPECT_LE(DistanceTo(runs, point), 0.1 + 1e-4);
+
+  // Of a straight line four steps become one; back and forth on one line is no straight line.
+  const auto count = [&](const std::vector<float>& xs) {
+    std::vector<Point> points;
+    for (const float x : xs) points.push_back({x, 1000});
+    return StrokesOf(view, points).at(0).size();
+  };
+  EXPECT_EQ(count({0, 100, 200, 300, 400, 500}), 3U);
+  EXPECT_EQ(count({0, 100, 50, 150, 0, 500}), 6U);
+}
+
 TEST(SurfaceViewTest, APanelGrowsAsOnePieceFromItsAnchorUntilItsTextCanBeRead) {
   const Font legend{FontFace::Sans, 10};
   const Font label{FontFace::Sans, 8};

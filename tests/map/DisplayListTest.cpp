@@ -81,5 +81,46 @@ TEST(DisplayListTest, PlaysAdditionsInTheColoursSetBeforeAndClearForgetsThem) {
   EXPECT_EQ(anew.List, direct.List);
 }
 
+TEST(DisplayListTest, PassesOverLinesThatDoNotTouchWhatIsShown) {
+  const SheetBox shown = {{0, 100}, {50, 200}};
+  // Lines of one to five points, of which the last alone comes near or not.
+  const struct {
+    const char* what;
+    Point last;
+    bool touches;
+  } rows[] = {{"above", {10, 99}, false},         {"at the upper edge", {10, 100}, true},
+              {"below", {10, 201}, false},        {"at the lower edge", {10, 200}, true},
+              {"to the left", {-1, 150}, false},  {"at the left edge", {0, 150}, true},
+              {"to the right", {51, 150}, false}, {"at the right edge", {50, 150}, true}};
+  const FixedMeasure measure;
+  for (const auto& row : rows) {
+    const bool beside = row.last.y >= 100 && row.last.y <= 200;
+    for (std::size_t length = 1; length <= 5; ++length) {
+      std::vector<Point> points(length, row.last);
+      for (std::size_t i = 0; i + 1 < length; ++i)
+        points[i] = beside ? Point{row.last.x < 25 ? -9.0F : 59.0F, 150 + static_cast<float>(i)}
+                           : Point{10 + static_cast<float>(i), row.last.y < 150 ? 90.0F : 210.0F};
+      DisplayList list(measure);
+      list.Polyline(points);
+      list.Polygon(points);
+      list.Line(points.front(), points.back());
+      RecordingCanvas played;
+      list.PlayFrom(0, played, shown);
+      EXPECT_EQ(played.List.size(), row.touches ? 3U : 0U) << row.what << ", " << length << " points";
+    }
+  }
+  // Text, and what may grow out of its place in a panel, is drawn wherever it stands.
+  DisplayList list(measure);
+  list.Text({1000, 1000}, "far");
+  list.BeginPanel({1000, 1000}, {});
+  list.Line({1000, 1000}, {1001, 1000});
+  list.EndPanel();
+  list.Line({1000, 1000}, {1001, 1000});
+  RecordingCanvas played;
+  list.PlayFrom(0, played, shown);
+  EXPECT_EQ(played.All("Text").size(), 1U);
+  EXPECT_EQ(played.All("Line").size(), 1U);
+}
+
 }  // namespace
 }  // namespace kestrel

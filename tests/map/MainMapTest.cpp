@@ -98,7 +98,10 @@ TEST_F(MainMapTest, TheScanMarksStationsWithoutPatterns) {
   files_.Put("1230x.dat", kStation + kStation + "1230,WABC,City,ST,US,N,-60,75,1,-,-,0\n");
   const MapProjection projection(40, 75, 1000);
   RecordingCanvas canvas;
-  ASSERT_TRUE(DrawScannedChannel(canvas, files_.Folder(), projection, 1230));
+  BandScan scan(files_.Folder(), projection);
+  while (scan.Channel() < 1230) EXPECT_EQ(scan.DrawNext(canvas).error().kind, Error::Kind::NotFound);
+  EXPECT_TRUE(canvas.List.empty());
+  ASSERT_TRUE(scan.DrawNext(canvas));
   EXPECT_EQ(canvas.Texts(), (Texts{"1230", "1230"}));
   EXPECT_EQ(canvas.All("Text")[0].Points[0], (Point{5940, 4290}));
   EXPECT_EQ(canvas.All("Line")[0].Points, (std::vector<Point>{{5984, 4500}, {6016, 4500}}));
@@ -106,7 +109,23 @@ TEST_F(MainMapTest, TheScanMarksStationsWithoutPatterns) {
   EXPECT_EQ(canvas.All("Line").size(), 6U);
   EXPECT_EQ(canvas.All("Line")[0].Color, 255);
   EXPECT_EQ(canvas.All("Polygon").size(), 0U);
-  EXPECT_EQ(DrawScannedChannel(canvas, files_.Folder(), projection, 620).error().kind, Error::Kind::NotFound);
+
+  // The others in their order, one that is no file among them, whoever reads them ahead.
+  for (const char* name : {"1240x.dat", "1690x.dat", "1700x.dat"}) files_.Put(name, kStation);
+  QDir(files_.Folder().Path()).mkdir("1250x.dat");
+  canvas.Clear();
+  std::vector<float> drawn, faulty;
+  for (BandScan whole(files_.Folder(), projection); !whole.AtEnd();) {
+    const float channel = whole.Channel();
+    const Result<Done> done = whole.DrawNext(canvas);
+    if (done)
+      drawn.push_back(channel);
+    else if (done.error().kind != Error::Kind::NotFound)
+      faulty.push_back(channel);
+  }
+  EXPECT_EQ(drawn, (std::vector<float>{1230, 1240, 1690, 1700}));
+  EXPECT_EQ(faulty, std::vector<float>{1250});
+  EXPECT_EQ(canvas.Texts(), (Texts{"1230", "1230", "1240", "1690", "1700"}));
 }
 
 }  // namespace
