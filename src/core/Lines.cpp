@@ -67,8 +67,9 @@ std::optional<std::string_view> LineReader::NextBytes() {
 }
 
 std::optional<std::string_view> LineReader::Next() {
+  if (plain_) return NextBytes();
   const std::optional<std::string_view> line = NextBytes();
-  if (plain_ || !line || IsPlainAscii(*line)) return line;
+  if (!line || IsPlainAscii(*line)) return line;
   mended_ = IsUtf8(*line) ? std::string(*line) : FromLatin1(*line);
   std::replace(mended_.begin(), mended_.end(), '\0', ' ');
   return mended_;

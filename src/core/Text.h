@@ -1,6 +1,8 @@
 #pragma once
 
+#include <bit>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -14,8 +16,12 @@ namespace kestrel {
 inline std::string_view Trim(std::string_view text) {
   while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
   // Columns are often filled up with many.
-  while (text.size() >= 8 && EightCharacters(text.data() + text.size() - 8) == 0x0101010101010101 * ' ')
-    text.remove_suffix(8);
+  while (text.size() >= 8) {
+    const std::uint64_t others = EightCharacters(text.data() + text.size() - 8) ^ 0x0101010101010101 * ' ';
+    const auto blanks = static_cast<std::size_t>(std::countl_zero(others) / 8);
+    text.remove_suffix(blanks);
+    if (blanks < 8) return text;
+  }
   while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
   return text;
 }
