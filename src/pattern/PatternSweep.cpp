@@ -79,9 +79,9 @@ bool SweepPattern(const SweepTower* towers, int count, float* magnitudes) {
     AddTower(towers[i], std::sin(towers[i].Bearing), std::cos(towers[i].Bearing), azimuths, sums);
     fields += std::abs(towers[i].Field);
   }
-  // Each tower's sine and cosine are within 1.5e-14, so the sum is within sqrt(2) of that; the straight way's
-  // own last bits and the sum's add less than as much again.
-  return StoreMagnitudes(sums, 5e-14 * fields, magnitudes);
+  // Each tower's sine and cosine together are within 3.6e-12; the straight way's own last bits and the sum's
+  // add far less.
+  return StoreMagnitudes(sums, 4e-12 * fields, magnitudes);
 }
 
 }  // namespace kestrel::KESTREL_KERNELS
