@@ -129,10 +129,10 @@ void DrawPattern(Canvas& canvas, const SessionState& state, Point station, const
   for (std::size_t i = 0; i < outline.size(); ++i) {
     // The outline stands one degree anticlockwise of the values, as it always has.
     const double magnitude = values[2 * i + 1];
-    outline[i] =
-        Clamped({static_cast<float>(station.x + state.AspectRatio * size * directions[i].sine * magnitude),
-                 static_cast<float>(station.y - size * directions[i].cosine * magnitude)});
+    outline[i] = {static_cast<float>(station.x + state.AspectRatio * size * directions[i].sine * magnitude),
+                  static_cast<float>(station.y - size * directions[i].cosine * magnitude)};
   }
+  for (Point& point : outline) point = Clamped(point);
   canvas.Polygon(outline);
 }
 

@@ -70,9 +70,8 @@ std::size_t WhereToCut(std::string_view bytes) {
   return cuts ? FindPenUp(bytes, bytes.size() / 2) : bytes.size();
 }
 
-void DrawFile(Canvas& canvas, const DataFolder& folder, const QString& name, ColorValue color,
+void DrawFile(Canvas& canvas, const Result<QByteArray>& bytes, ColorValue color,
               const MapProjection& projection, std::vector<std::string>& notes) {
-  const Result<QByteArray> bytes = folder.Read(name);
   if (!bytes) {
     if (bytes.error().kind != Error::Kind::NotFound) notes.push_back(bytes.error().Message());
     return;
@@ -140,10 +139,11 @@ void DrawOutline(Canvas& canvas, std::string_view bytes, const MapProjection& pr
 std::vector<std::string> DrawOutlineFiles(Canvas& canvas, const DataFolder& folder,
                                           const MapProjection& projection) {
   std::vector<std::string> notes;
+  auto readingRegion = std::async([&folder] { return folder.Read("REGION2.dat"); });  // the longer one
   canvas.SetLineWidth(1);
-  DrawFile(canvas, folder, "STATES.dat", StatesOutlineColor, projection, notes);
+  DrawFile(canvas, folder.Read("STATES.dat"), StatesOutlineColor, projection, notes);
   DrawHomeMark(canvas);
-  DrawFile(canvas, folder, "REGION2.dat", RegionOutlineColor, projection, notes);
+  DrawFile(canvas, readingRegion.get(), RegionOutlineColor, projection, notes);
   return notes;
 }
 
