@@ -84,7 +84,7 @@ void AddRedrawRow(const std::string& work, const Band& band, const SessionState&
 void AddDrawingRows(const Band& band) {
   AddRedrawRow("400 records", band, Session(ChannelOf(band, 400, false), false), {15, 16.7, true});
   AddRedrawRow("400 records and all of Region 2", band,
-               AllOfRegion2(Session(ChannelOf(band, 400, false), false)), {15, 16.7, true});
+               AllOfRegion2(Session(ChannelOf(band, 400, false), false)), {0, 16.7, true});
   AddRedrawRow("with both adjacents", band, Session(ChannelOf(band, 1000, true), true), {8, 33, true});
   AddRow(
       "whole-band scan, " + band.Name, "straight code", {8, 45, true},
