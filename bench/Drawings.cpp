@@ -20,7 +20,6 @@ SessionState Session(float channel, bool adjacents) {
   SessionState state;
   state.CurrentFrequency = state.SelectedFrequency = channel;
   state.AdjacentsShown = adjacents ? 1 : 0;
-
   return state;
 }
 
@@ -85,7 +84,7 @@ void AddDrawingRows(const Band& band) {
   AddRedrawRow("400 records", band, Session(ChannelOf(band, 400, false), false), {15, 16.7, true});
   AddRedrawRow("400 records and all of Region 2", band,
                AllOfRegion2(Session(ChannelOf(band, 400, false), false)), {0, 16.7, true});
-  AddRedrawRow("with both adjacents", band, Session(ChannelOf(band, 1000, true), true), {8, 33, true});
+  AddRedrawRow("with both adjacents", band, Session(ChannelOf(band, 100'000, true), true), {8, 33, true});
   AddRow(
       "whole-band scan, " + band.Name, "straight code", {8, 45, true},
       [=] { Scan(band, Session(1230, false)); },

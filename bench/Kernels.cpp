@@ -89,6 +89,34 @@ class ProjPlot {
   PJ* projection_;
 };
 
+const Outline& Region2() {
+  static const Outline outline = straight::ReadOutline(std::string(KESTREL_SHARE_DIR) + "/REGION2.dat");
+  return outline;
+}
+
+/// Rows of `place(outline, points)` against GreatCircle and PROJ; `asked`: as AVX2 is asked for.
+template <typename Place>
+void AddProjectionRows(const std::string& work, bool asked, Place place) {
+  static std::vector<Point> points(Region2().Latitude.size());
+  static ProjPlot proj(Region2());
+  const auto fast = [place] {
+    place(Region2(), points);
+    Keep(points.data());
+  };
+  AddRow(work, "GreatCircle for each vertex", {asked ? 14.0 : 0, 0}, fast, [] {
+    straight::PlaceByGreatCircle(kHomeLatitude, kHomeLongitude, kScale, Region2().Latitude,
+                                 Region2().Longitude, points);
+    Keep(points.data());
+  });
+  AddRow(work, "PROJ aeqd on a sphere", {asked ? 8.0 : 0, 0}, fast, [] { proj.Run(); });
+}
+
+/// Home as the kernel takes it.
+ProjectionCenter Center() {
+  const auto [sine, cosine] = VertexAngle(kHomeLatitude);
+  return {sine, cosine, -double{kHomeLongitude}, KilometresPerDegree * DegreesPerRadian * kScale / 75};
+}
+
 void AddDistanceNote(const std::vector<Point>& places, const std::vector<Point>& others) {
   double farthest = 0;
   for (std::size_t i = 0; i < places.size(); ++i)
@@ -112,22 +140,15 @@ void AddSweepRow(const Band& band) {
 }
 
 void AddProjectionRows() {
-  static const Outline outline = straight::ReadOutline(std::string(KESTREL_SHARE_DIR) + "/REGION2.dat");
-  static std::vector<Point> points(outline.Latitude.size());
-  static ProjPlot proj(outline);
-  const auto fast = [] {
+  const auto place = [](const Outline& outline, std::vector<Point>& points) {
     MapProjection(kHomeLatitude, kHomeLongitude, kScale)
         .Vertices(outline.Latitude, outline.Longitude, points);
-    Keep(points.data());
   };
-  AddRow("projection of REGION2.dat", "GreatCircle for each vertex", {14, 0}, fast, [] {
-    straight::PlaceByGreatCircle(kHomeLatitude, kHomeLongitude, kScale, outline.Latitude, outline.Longitude,
-                                 points);
-    Keep(points.data());
-  });
-  AddRow("projection of REGION2.dat", "PROJ aeqd on a sphere", {8, 0}, fast, [] { proj.Run(); });
-  fast();
-  AddDistanceNote(points, proj.Places());
+  AddProjectionRows("projection of REGION2.dat", true, place);
+  const Outline& outline = Region2();
+  std::vector<Point> points(outline.Latitude.size());
+  place(outline, points);
+  AddDistanceNote(points, ProjPlot(outline).Places());
 }
 
 void AddLevelRows() {
@@ -136,16 +157,23 @@ void AddLevelRows() {
   for (std::size_t i = 1; i <= MaxTowers; ++i)
     towers.push_back({record.Fields[i], record.Spacings[i] / DegreesPerRadian,
                       record.Bearings[i] / DegreesPerRadian, record.Phases[i] / DegreesPerRadian});
-  for (const Level& level : LevelsHere())
+  for (const Level& level : LevelsHere()) {
+    const std::string_view name = level.Name;
     AddRow(
-        std::string("kernel of the sweep, 12 towers, ") + level.Name, "scalar formula",
-        {std::string_view(level.Name) == "x86-64" ? 5.0 : 12.0, 0},
+        "kernel of the sweep, 12 towers, " + std::string(name), "scalar formula",
+        {name == "x86-64" ? 5.0 : 12.0, 0},
         [level] {
           std::array<float, PatternAzimuths> magnitudes;
           static_cast<void>(level.Sweep(towers.data(), MaxTowers, magnitudes.data()));
           Keep(magnitudes.data());
         },
         Sweeping({record}, straight::ComputePattern));
+    AddProjectionRows("kernel of the projection, REGION2.dat, " + std::string(name), name == "x86-64-v3",
+                      [level](const Outline& outline, std::vector<Point>& points) {
+                        level.Place(Center(), outline.Latitude.data(), outline.Longitude.data(), &points[0].x,
+                                    points.size());
+                      });
+  }
 }
 
 }  // namespace kestrel::bench

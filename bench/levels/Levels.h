@@ -34,9 +34,10 @@ struct Level {
   decltype(&LayEights) Lay;
 };
 
-/// None where the compiler or the processor has no such levels.
+/// The kernels as the program has them, "as built", and those of each level, none of these where the compiler
+/// or the processor has no such levels.
 inline std::vector<Level> LevelsHere() {
-  std::vector<Level> here;
+  std::vector<Level> here = {{"as built", true, SweepPattern, PlaceVertices, MixRows, LayEights}};
 #ifdef KESTREL_LEVELS
   // By their features, since Clang 14 does not know the levels by name.
   const bool level3 =

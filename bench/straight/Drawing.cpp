@@ -65,7 +65,8 @@ class Plot {
         Outline180(at, Factor(record->HoursCode), values);
       else
         Dot(at, 30);
-      Label(at, NumberText(channel) + ' ' + record->CallSign, labelled, record->CallSign);
+      Label(at, NumberText(channel) + ' ' + record->CallSign, Darkened(PlatformColor(color)), labelled,
+            record->CallSign);
     }
   }
 
@@ -74,7 +75,7 @@ class Plot {
     std::set<std::string> labelled;
     while (const StationRecord* record = reader.Next()) {
       const Point at = Station(*record);
-      Label(at, NumberText(channel), labelled, "");
+      Label(at, NumberText(channel), QColor(0x20, 0x20, 0x20), labelled, "");
       painter_.setPen(Qt::red);
       Line({at.x - 16, at.y}, {at.x + 16, at.y});
       Line({at.x, at.y - 16}, {at.x, at.y + 16});
@@ -140,11 +141,15 @@ class Plot {
     Line(previous, first);
   }
 
-  void Label(Point at, const std::string& text, std::set<std::string>& labelled,
+  static QColor Darkened(QColor color) {
+    return QColor(color.red() * 11 / 20, color.green() * 11 / 20, color.blue() * 11 / 20);
+  }
+
+  void Label(Point at, const std::string& text, QColor labelColor, std::set<std::string>& labelled,
              const std::string& callSign) {
     if (!labelled.insert(callSign + ' ' + NumberText(at.x) + ' ' + NumberText(at.y)).second) return;
     const Point base = SurfaceView(rules_).Baseline({at.x - 60, at.y - 210}, kLabelFont);
-    painter_.setPen(QColor(0x20, 0x20, 0x20));
+    painter_.setPen(labelColor);
     painter_.drawText(QPointF(base.x, base.y), QString::fromStdString(text));
   }
 

@@ -8,7 +8,7 @@ constexpr std::size_t kMostFonts = 12;  // a map has three or four
 }  // namespace
 
 InkMask& DrawingTools::Mask(QSize size, int top) {
-  mask_.Hold(size, top);
+  mask_.Reset(size, top);
   return mask_;
 }
 

@@ -72,6 +72,7 @@ void GlyphCache::Blend(QImage& image, int x, int y, QRgb color, const Glyph& gly
                             image.bytesPerLine() / static_cast<qsizetype>(sizeof(QRgb))};
   const int firstRow = std::max(0, -y);
   const int rows = std::min(glyph.height, image.height() - y) - firstRow;
+  if (rows <= 0) return;
   const InkRows inkShown = {ink.ink + firstRow * ink.step, ink.step};
   QRgb* const corner = pixels.pixels + (y + firstRow) * pixels.step + x;
   if (x >= 0 && x + glyph.step <= image.width())

@@ -4,6 +4,7 @@
 #include <bit>
 #include <cmath>
 #include <cstring>
+#include <type_traits>
 #include <utility>
 
 #include "draw/Mixing.h"
@@ -11,18 +12,11 @@
 namespace kestrel {
 namespace {
 
-constexpr float kWidestLine = 14;
-// The border holds the ink of lines that run along the picture's edge, kWidestLine * sqrt(2) + 1 pixels, in
-// whole eights.
+// The border holds the ink of lines that run along the picture's edge, in whole eights.
 constexpr int kBorder = InkMask::LongestReach;
+static_assert(kBorder >= WideLine::Widest * 1.42 + 1 && kBorder % 8 == 0);
 constexpr int kPixelsOfWord = 64 * 8;  // whose eights are marked in a word
 constexpr int kPiece = 16;             // columns of a line that are marked together
-constexpr float kFarthest = 1 << 30;
-
-// Places across a line, in parts of a pixel fine enough for the longest line.
-using Fixed = std::int64_t;
-constexpr int kFixedBits = 24;
-constexpr double kOne = 1 << kFixedBits;
 
 /// The eights of a word of 64 from one to another.
 std::uint64_t EightsFromTo(int first, int last) {
@@ -30,83 +24,13 @@ std::uint64_t EightsFromTo(int first, int last) {
 }
 
 /// Adds a share of a pixel, in 256ths, up to the whole pixel.
-void Ink(std::uint8_t* pixel, int share) {
+void AddInk(std::uint8_t* pixel, int share) {
   *pixel = static_cast<std::uint8_t>(std::min(*pixel + share, 255));
 }
 
 }  // namespace
 
-/// A line of a width as the mask takes it: column by column, row by row when it is steep. What is said of
-/// columns and the pixels of one holds for rows then.
-struct InkMask::Course {
-  /// Where the line lies in a column: its lower edge, and the share of the column that it reaches, in 256ths.
-  struct Place {
-    Fixed edge;
-    int share;
-    int Row() const { return static_cast<int>(edge >> kFixedBits); }
-  };
-
-  bool isLine;  // otherwise there is nothing to draw
-  bool steep;
-  float begin, end;  // along the columns
-  float minor;       // across them, at the beginning
-  float slope;
-  float across;     // how wide the line is in a column
-  int first, last;  // columns
-  Fixed edgeAtFirst, step;
-  int inked;         // `across` in 256ths
-  int pixelsAcross;  // that it may reach in a column
-
-  Course(Point from, Point to, float width) {
-    steep = std::abs(to.y - from.y) > std::abs(to.x - from.x);
-    const float a = steep ? from.y : from.x;
-    const float b = steep ? to.y : to.x;
-    const float c = steep ? from.x : from.y;
-    const float d = steep ? to.x : to.y;
-    const bool back = a > b;
-    begin = back ? b : a;
-    end = back ? a : b;
-    minor = back ? d : c;
-    const float minorEnd = back ? c : d;
-    const float length = end - begin;
-    // Written so that a place that is no number is far away.
-    isLine = (length > 0) & (std::abs(begin) < kFarthest) & (std::abs(end) < kFarthest) &
-             (std::abs(minor) < kFarthest) & (std::abs(minorEnd) < kFarthest);
-    if (!isLine) return;
-    slope = (minorEnd - minor) / length;
-    // A line of one pixel is one pixel wide along the axis, whatever its slope: as crisp as can be.
-    across = width <= 1 ? width : std::min(width, kWidestLine) * std::sqrt(1 + slope * slope);
-    first = static_cast<int>(std::floor(begin));
-    last = static_cast<int>(std::floor(end));
-    edgeAtFirst = EdgeAt(static_cast<float>(first) + 0.5F);
-    step = static_cast<Fixed>(double{slope} * kOne);
-    inked = static_cast<int>(across * 256);
-    pixelsAcross = (inked + 255) / 256 + 1;
-    atFirst = AtEnd(first);
-    atLast = AtEnd(last);
-  }
-  Place atFirst, atLast;
-
-  Fixed EdgeAt(float place) const {
-    return static_cast<Fixed>((minor + (double{place} - begin) * slope - across / 2) * kOne);
-  }
-
-  /// In a column that the line may begin or end in.
-  Place AtEnd(int column) const {
-    const float left = std::max(begin, static_cast<float>(column));
-    const float right = std::min(end, static_cast<float>(column + 1));
-    // NOLINTNEXTLINE(bugprone-incorrect-roundings): never negative, and run for both ends of every line.
-    return {EdgeAt((left + right) / 2), static_cast<int>((right - left) * 256 + 0.5F)};
-  }
-
-  Place At(int column) const {
-    return column == first  ? atFirst
-           : column == last ? atLast
-                            : Place{edgeAtFirst + step * (column - first), 256};
-  }
-};
-
-void InkMask::Hold(QSize size, int top) {
+void InkMask::Reset(QSize size, int top) {
   // A drawing that was broken off has left ink.
   if (lastTouched_ >= 0) *this = {};
   width_ = size.width();
@@ -137,38 +61,39 @@ void InkMask::Touch(int left, int top, int right, int bottom) {
   lastTouched_ = std::max(lastTouched_, bottom);
 }
 
-void InkMask::InkCourse(const Course& course) {
-  const bool steep = course.steep;
+void InkMask::Ink(const WideLine& line) {
+  const bool steep = line.IsSteep();
+  const int rowsAcross = line.RowsAcross();
   const int lowestColumn = steep ? top_ : 0;
   const int highestColumn = steep ? top_ + rows_ - 1 : stride_ - 1;
   const int lowestRow = steep ? 0 : top_;
-  const int highestRow = (steep ? stride_ : top_ + rows_) - course.pixelsAcross;
+  const int highestRow = (steep ? stride_ : top_ + rows_) - rowsAcross;
   std::uint8_t* const origin = ink_.data() - top_ * std::ptrdiff_t{stride_};
   const std::ptrdiff_t alongStep = steep ? stride_ : 1;
   const std::ptrdiff_t acrossStep = steep ? 1 : stride_;
 
-  const int endColumn = std::min(course.last, highestColumn);
-  for (int piece = std::max(course.first, lowestColumn); piece <= endColumn; piece += kPiece) {
+  const int endColumn = std::min(line.LastColumn(), highestColumn);
+  for (int piece = std::max(line.FirstColumn(), lowestColumn); piece <= endColumn; piece += kPiece) {
     const int pieceEnd = std::min(piece + kPiece - 1, endColumn);
     int low = highestRow + 1, high = -1;
     for (int column = piece; column <= pieceEnd; ++column) {
-      const Course::Place place = course.At(column);
+      const WideLine::Place place = line.At(column);
       const int row = place.Row();
       if (row < lowestRow || row > highestRow) continue;
       low = std::min(low, row);
       high = std::max(high, row);
       std::uint8_t* pixel = origin + column * alongStep + row * acrossStep;
-      int room = 256 - static_cast<int>(place.edge >> (kFixedBits - 8) & 255);
-      int left = course.inked;
+      int room = 256 - place.InRow();
+      int left = line.Across();
       // Pixels that the line does not reach are given nothing, which is quicker than to ask.
-      for (int k = 0; k < course.pixelsAcross; ++k, pixel += acrossStep, room = 256) {
+      for (int k = 0; k < rowsAcross; ++k, pixel += acrossStep, room = 256) {
         const int covered = std::min(room, left);
         left -= covered;
-        Ink(pixel, (covered * place.share + 128) >> 8);
+        AddInk(pixel, (covered * place.Share + 128) >> 8);
       }
     }
     if (high < 0) continue;
-    high += course.pixelsAcross - 1;
+    high += rowsAcross - 1;
     if (steep)
       Touch(low, piece - top_, high, pieceEnd - top_);
     else
@@ -178,15 +103,21 @@ void InkMask::InkCourse(const Course& course) {
 
 void InkMask::AddPolyline(std::span<const Point> points, float width) {
   if (points.size() < 2) return;
-  const auto course = [&](std::size_t i) {
+  const auto line = [&](std::size_t i) {
     const Point from = points[i], to = points[i + 1];
-    return Course({from.x + kBorder, from.y + kBorder}, {to.x + kBorder, to.y + kBorder}, width);
+    return WideLine({from.x + kBorder, from.y + kBorder}, {to.x + kBorder, to.y + kBorder}, width);
   };
-  Course next = course(0);
+  const auto isBeside = [&](std::size_t i) {
+    const auto [upper, lower] = std::minmax(points[i].y, points[i + 1].y);
+    return lower < static_cast<float>(top_ - kBorder) || upper > static_cast<float>(top_ + height_ + kBorder);
+  };
+  // Each line is worked out before the one in front of it is inked, so that its divisions and root are done
+  // by the time they are needed.
+  WideLine next = line(0);
   for (std::size_t i = 0; i + 1 < points.size(); ++i) {
-    const Course present = next;
-    if (i + 2 < points.size()) next = course(i + 1);
-    if (present.isLine) InkCourse(present);
+    const WideLine present = next;
+    if (i + 2 < points.size()) next = line(i + 1);
+    if (present.IsLine() && !isBeside(i)) Ink(present);
   }
 }
 
@@ -207,7 +138,7 @@ void InkMask::AddDisc(Point center, float radius) {
     for (int column = left; column < right; ++column) {
       const float aside = static_cast<float>(column) + 0.5F - x;
       const float inside = radius + 0.5F - std::sqrt(down * down + aside * aside);
-      if (inside > 0) Ink(pixels + column, static_cast<int>(std::min(inside, most) * 256));
+      if (inside > 0) AddInk(pixels + column, static_cast<int>(std::min(inside, most) * 256));
     }
   }
   if (left < right && top < bottom)

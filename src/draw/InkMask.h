@@ -5,6 +5,7 @@
 #include <span>
 #include <vector>
 
+#include "draw/WideLine.h"
 #include "map/Canvas.h"
 
 namespace kestrel {
@@ -29,11 +30,13 @@ namespace kestrel {
 class InkMask {
  public:
   /// Lines farther than so many pixels from the picture leave no ink on it.
-  static constexpr int LongestReach = 24;
+  static constexpr int LongestReach = 48;
 
   /// Makes the mask, empty, one for the rows from `top` on of a picture, as many as the size has.
-  void Hold(QSize size, int top);
+  void Reset(QSize size, int top);
 
+  /// Points and width in pixels; a line of no width leaves no ink, one wider than WideLine::Widest is drawn
+  /// so wide.
   void AddPolyline(std::span<const Point> points, float width);
   void AddDisc(Point center, float radius);
   /// A square of one pixel.
@@ -43,8 +46,7 @@ class InkMask {
   void Lay(QRgb color, QImage& image);
 
  private:
-  struct Course;
-  void InkCourse(const Course& course);
+  void Ink(const WideLine& line);
   /// The marks of a word of a row.
   std::uint64_t& Touched(int row, int word) {
     return touched_[static_cast<std::size_t>(row) * static_cast<std::size_t>(words_) +

@@ -1,6 +1,5 @@
 #include "draw/Renderer.h"
 
-#include <QThread>
 #include <QThreadPool>
 #include <algorithm>
 #include <functional>
@@ -8,12 +7,12 @@
 #include <memory>
 #include <utility>
 
+#include "core/Processors.h"
 #include "draw/RasterCanvas.h"
 
 namespace kestrel {
 namespace {
 
-constexpr int kMostProcessors = 4;
 constexpr std::size_t kLittleToDraw = 100;    // figures, quicker drawn than handed out
 constexpr qsizetype kLittleToShow = 500'000;  // pixels, likewise
 
@@ -58,9 +57,7 @@ class Underway {
 
 }  // namespace
 
-Renderer::Renderer(int processors)
-    : processors_(processors > 0 ? processors : std::clamp(QThread::idealThreadCount(), 1, kMostProcessors)) {
-}
+Renderer::Renderer(int processors) : processors_(processors > 0 ? processors : ProcessorsToUse()) {}
 
 /// Calls `drawRows(rows, canvas, box)` for each strip, at the same time; lines that do not touch the box do
 /// not show in the strip.

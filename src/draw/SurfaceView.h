@@ -1,10 +1,9 @@
 #pragma once
 
 #include <QRectF>
-#include <array>
 #include <span>
-#include <vector>
 
+#include "draw/ThinnedRun.h"
 #include "map/Sheet.h"
 
 namespace kestrel {
@@ -16,63 +15,8 @@ struct SurfaceRules {
   QRectF Area;                 ///< what the surface shows, in its units
   double PixelSize = 1;        ///< units of an ordinary screen's pixel: line widths are multiples of it
   double SmallestXHeight = 7;  ///< in pixels; text below it grows; 0: text keeps its size
-  double Thinning = 0.5;       ///< vertices closer together than this many pixels are joined into one
-};
-
-/// A run of a polyline's vertices without those that do not show: vertices closer to the one before than a
-/// distance, and up to three in turn that stand off the straight line between their neighbours by less than a
-/// fifth of it.
-class ThinnedRun {
- public:
-  explicit ThinnedRun(float closest) : closest_(closest), straight_(closest / 5) {}
-
-  void Clear() { vertices_.clear(); }
-
-  void Begin(Point first) {
-    vertices_.assign(1, first);
-    passedCount_ = 0;
-  }
-
-  /// Adds a vertex; one that `must` be there however close it is.
-  void Add(Point point, bool must) {
-    const Point last = vertices_.back();
-    if (!must && SquaredDistance(last, point) < closest_ * closest_) return;
-    if (vertices_.size() > 1 && passedCount_ < passed_.size() && Straight(point)) {
-      passed_[passedCount_++] = last;
-      vertices_.back() = point;
-    } else {
-      passedCount_ = 0;
-      vertices_.push_back(point);
-    }
-  }
-
-  std::span<const Point> Vertices() const { return vertices_; }
-
- private:
-  static float SquaredDistance(Point a, Point b) {
-    const float x = b.x - a.x, y = b.y - a.y;
-    return x * x + y * y;
-  }
-
-  /// Whether a line from the last vertex but one to `end` takes the place of those between.
-  bool Straight(Point end) const {
-    const Point begin = vertices_[vertices_.size() - 2];
-    const float x = end.x - begin.x, y = end.y - begin.y;
-    const float squared = x * x + y * y;
-    const auto along = [&](Point between) {
-      const float toX = between.x - begin.x, toY = between.y - begin.y;
-      const float off = toX * y - toY * x, way = toX * x + toY * y;
-      return off * off <= straight_ * straight_ * squared && way >= 0 && way <= squared;
-    };
-    bool straight = along(vertices_.back());
-    for (std::size_t i = 0; i < passedCount_; ++i) straight = straight && along(passed_[i]);
-    return straight;
-  }
-
-  float closest_, straight_;
-  std::vector<Point> vertices_;
-  std::array<Point, 3> passed_;  // between the last two vertices
-  std::size_t passedCount_ = 0;
+  double Thinning = 0.5;       ///< vertices closer together than this many pixels are joined into one, those
+                               ///< off a straight line by less than a fifth of it left out: 1.2 times at most
 };
 
 /// Takes places and lengths of the sheet to the surface, panels included. Culling and thinning happen here,

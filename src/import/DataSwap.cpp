@@ -214,7 +214,8 @@ Error NotLocked(const Exchange& exchange, const DataFolder& folder) {
     return {Error::Kind::NotAFile, kLock.toStdString(), 0,
             "is not the lock file of an import; remove it to go on"};
   return {Error::Kind::Refused, folder.Path().toStdString(), 0,
-          exchange.IsBusy() ? "another import is at work in it" : "cannot be written to"};
+          exchange.IsBusy() ? "another import is at work in it (if none is, remove .import-lock there)"
+                            : "cannot be written to"};
 }
 
 /// With the folder locked: what an interrupted run left is finished or taken back.

@@ -4,8 +4,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <deque>
-#include <functional>
 #include <optional>
+#include <random>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -61,9 +62,26 @@ class KeyedRows {
   static constexpr std::uint32_t kFree = 0xFFFFFFFF;
   static constexpr std::uint32_t kGone = 0xFFFFFFFE;
 
+  /// An odd number that nobody who writes a table can know, so that nobody can choose keys which all fall
+  /// into the same slots.
+  static std::uint64_t Spreader() {
+    static const std::uint64_t spreader = [] {
+      std::random_device random;
+      return std::uint64_t{random()} << 32 | random() | 1;
+    }();
+    return spreader;
+  }
+
+  static std::uint64_t Folded(std::uint64_t key) { return key; }
+  static std::uint64_t Folded(std::string_view key) {
+    std::uint64_t folded = key.size();
+    for (const char c : key) folded = folded * Spreader() + static_cast<unsigned char>(c);
+    return folded;
+  }
+
   /// The slot of the key, or the free one where it is looked for in vain.
   std::size_t SlotOf(Key key) const {
-    const std::uint64_t spread = std::hash<Key>{}(key)*0x9E3779B97F4A7C15;
+    const std::uint64_t spread = Folded(key) * Spreader();
     std::size_t slot = spread >> (64 - std::countr_zero(slots_.size()));
     while (slots_[slot] != kFree && (slots_[slot] == kGone || rows_[slots_[slot]].Key() != key))
       slot = (slot + 1) % slots_.size();

@@ -56,23 +56,31 @@ void Erase(Stations& stations, const std::vector<bool>& gone) {
   std::erase_if(stations, [&](const Station&) { return gone[i++]; });
 }
 
+/// Of the rows that end stations the last list's for each, in order.
+Stations LastEnded(Stations ended) {
+  std::sort(ended.begin(), ended.end(), [](const Station& a, const Station& b) {
+    if (IdentityLess(a, b) || IdentityLess(b, a)) return IdentityLess(a, b);
+    return a.row.file > b.row.file;
+  });
+  const auto same = [](const Station& a, const Station& b) { return !IdentityLess(a, b); };
+  ended.erase(std::unique(ended.begin(), ended.end(), same), ended.end());
+  return ended;
+}
+
 /// The file of the last list that ends the station, by its facility or, in a row without one, by its names;
-/// -1 when none does. `ended` is sorted.
+/// -1 when none does. `ended` is as LastEnded has it.
 int EndedIn(const Stations& ended, Station station) {
-  int file = -1;
-  const auto look = [&] {
-    const auto [first, last] = std::equal_range(ended.begin(), ended.end(), station, IdentityLess);
-    for (auto at = first; at != last; ++at) file = std::max(file, at->row.file);
+  const auto file = [&] {
+    const auto at = std::lower_bound(ended.begin(), ended.end(), station, IdentityLess);
+    return at != ended.end() && !IdentityLess(station, *at) ? at->row.file : -1;
   };
-  look();
+  const int byFacility = file();
   station.facility = 0;
-  look();
-  return file;
+  return std::max(byFacility, file());
 }
 
 /// One row for each station and hours, none for those that a later list ends; the others are left out.
-void ChooseRows(Stations& rows, Stations ended, ImportReport& report) {
-  std::sort(ended.begin(), ended.end(), IdentityLess);
+void ChooseRows(Stations& rows, const Stations& ended, ImportReport& report) {
   std::vector<bool> gone(rows.size());
   for (std::size_t i = 0; i < rows.size(); ++i) {
     gone[i] = EndedIn(ended, rows[i]) > rows[i].row.file;
@@ -127,8 +135,9 @@ class Room {
 /// The stations of the tables that no list has.
 class TableOnly {
  public:
-  TableOnly(const AmqStations& amq, const Stations& listed, TableStations& tables, ImportReport& report)
-      : amq_(amq), tables_(tables), report_(report) {
+  TableOnly(const AmqStations& amq, const Stations& ended, const Stations& listed, TableStations& tables,
+            ImportReport& report)
+      : amq_(amq), ended_(ended), tables_(tables), report_(report) {
     for (const Station& station : listed)
       if (station.facility != 0) listed_.emplace_back(station.facility, station.hours);
     std::sort(listed_.begin(), listed_.end());
@@ -179,7 +188,9 @@ class TableOnly {
     const auto contains = [](const auto& sorted, const auto& value) {
       return std::binary_search(sorted.begin(), sorted.end(), value);
     };
-    if (!contains(amq_.facilities, station.facility)) return std::nullopt;
+    const Fault offAir = {Finding::NotOnAir, Named(station) + ", by the AM Query list"};
+    const bool isEnded = EndedIn(ended_, station) >= 0;
+    if (!contains(amq_.facilities, station.facility)) return isEnded ? std::optional(offAir) : std::nullopt;
     const auto begin =
         std::lower_bound(listed_.begin(), listed_.end(), FacilityHours(station.facility, '\0'));
     const auto end = std::find_if(
@@ -188,12 +199,13 @@ class TableOnly {
       return other.second == station.hours || Overlap(other.second, station.hours);
     });
     if (takesItsPlace) return Fault{Finding::Superseded, Named(station)};
-    if (begin == end || contains(amq_.offAir, FacilityHours(station.facility, station.hours)))
-      return Fault{Finding::NotOnAir, Named(station) + ", by the AM Query list"};
+    if (begin == end || isEnded || contains(amq_.offAir, FacilityHours(station.facility, station.hours)))
+      return offAir;
     return std::nullopt;
   }
 
   const AmqStations& amq_;
+  const Stations& ended_;
   TableStations& tables_;
   ImportReport& report_;
   std::vector<FacilityHours> listed_;  // sorted
@@ -223,8 +235,9 @@ Stations MergeStations(AmqStations amq, const AntennaTables& tables, const Impor
   std::sort(amq.facilities.begin(), amq.facilities.end());
   TableStations known(tables, options, report);
   Stations stations = std::move(amq.onAir);
-  ChooseRows(stations, std::move(amq.ended), report);
-  TableOnly others(amq, stations, known, report);
+  const Stations ended = LastEnded(std::move(amq.ended));
+  ChooseRows(stations, ended, report);
+  TableOnly others(amq, ended, stations, known, report);
   Room room;
   room.Fill(stations, report);
 

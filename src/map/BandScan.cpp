@@ -1,14 +1,14 @@
 #include "map/BandScan.h"
 
-#include <algorithm>
 #include <bit>
+#include <cassert>
 #include <chrono>
 #include <cmath>
 #include <cstdint>
-#include <thread>
 #include <unordered_set>
 
 #include "core/Numbers.h"
+#include "core/Processors.h"
 #include "core/Text.h"
 #include "data/StationFile.h"
 
@@ -22,8 +22,6 @@ constexpr Font kLabelFont = {FontFace::Sans, 8};
 constexpr Font kMapFont = {FontFace::Sans, 10};
 constexpr ColorValue kTextColor = 0x202020;
 constexpr ColorValue kCrossColor = 255;
-
-constexpr unsigned kMostProcessors = 4;
 
 float ChannelOf(std::size_t index) {
   return LowestChannel + ChannelStep * static_cast<float>(index);
@@ -85,8 +83,7 @@ void DrawChannel(Canvas& canvas, float channel, const std::vector<StationMark>& 
 BandScan::BandScan(const DataFolder& folder, const MapProjection& projection) {
   for (std::size_t i = 0; ChannelOf(i) <= HighestChannel; ++i)
     readings_.emplace_back([folder, projection, i] { return ReadMarks(folder, projection, ChannelOf(i)); });
-  const unsigned processors = std::min(std::thread::hardware_concurrency(), kMostProcessors);
-  for (unsigned i = 1; i < processors; ++i)
+  for (int i = 1; i < ProcessorsToUse(); ++i)
     readers_.push_back(std::async([this] {
       while (ReadOne())
         ;
@@ -109,6 +106,7 @@ bool BandScan::ReadOne() {
 }
 
 Result<Done> BandScan::DrawNext(Canvas& canvas) {
+  assert(!AtEnd());
   const float channel = Channel();
   std::future<Marks> reading = readings_[present_++].get_future();
   while (reading.wait_for(std::chrono::seconds(0)) != std::future_status::ready)

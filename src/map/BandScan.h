@@ -13,7 +13,8 @@
 namespace kestrel {
 
 /// The whole-band scan: all channels from the lowest to the highest, one after the other, for whoever wants
-/// to show each as it comes. While one is drawn and shown, the files of those that follow are read.
+/// to show each as it comes. While one is drawn and shown, the files of those that follow are read by other
+/// threads; the scan itself belongs to one.
 class BandScan {
  public:
   BandScan(const DataFolder& folder, const MapProjection& projection);

@@ -20,6 +20,7 @@ constexpr float kLowestLine = 0.6F * H;  // outlines end above the frame's lower
 constexpr float kLongestStepX = 0.2F * W;
 constexpr float kLongestStepY = 0.2F * H;
 constexpr float kTwipsPer75Km = 120;
+constexpr std::size_t kLongStroke = 4096;  // vertices, drawn before there are more
 constexpr float kSmallestZoom = 0.25F;
 constexpr float kLargestZoom = 8;
 
@@ -59,6 +60,10 @@ void DrawOutlineAround(Canvas& canvas, std::string_view bytes, const MapProjecti
       if (visible) stroke.push_back(at);
     }
     if (penUp != piece->PenUpBefore.end()) endStroke();
+    if (stroke.size() < kLongStroke) continue;
+    const Point last = stroke.back();
+    endStroke();
+    stroke.push_back(last);
   }
   endStroke();
 }

@@ -61,7 +61,7 @@ void DisplayList::Text(Point topLeft, std::string_view text) {
   Command command{Verb::Text};
   command.first = static_cast<std::uint32_t>(text_.size());
   command.count = static_cast<std::uint32_t>(text.size());
-  command.box = {topLeft, topLeft};
+  command.at = topLeft;
   text_ += text;
   commands_.push_back(command);
 }
@@ -130,7 +130,7 @@ void DisplayList::PlayCommand(const Command& command, Canvas& canvas) const {
     case Verb::Dot:
       return canvas.Dot(points()[0]);
     case Verb::Text:
-      return canvas.Text(command.box.TopLeft, std::string_view(text_).substr(command.first, command.count));
+      return canvas.Text(command.at, std::string_view(text_).substr(command.first, command.count));
     case Verb::BeginStation:
       return canvas.BeginStation(stations_[command.first]);
     case Verb::EndStation:

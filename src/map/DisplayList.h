@@ -50,7 +50,8 @@ class DisplayList final : public Canvas {
     PlayFrom(length, canvas, SheetBox::Everything());
   }
 
-  /// Likewise, but lines, open or closed, that do not touch `shown` are passed over.
+  /// Likewise, but lines, open or closed, that do not touch `shown` are passed over, unless they belong to a
+  /// panel. Lines have no width here: who draws wide ones shows more by their reach.
   void PlayFrom(std::size_t length, Canvas& canvas, const SheetBox& shown) const;
 
   /// The stations drawn, in drawing order.
@@ -83,7 +84,8 @@ class DisplayList final : public Canvas {
     float number = 0;         // width, radius or font size
     std::uint32_t first = 0;  // in points_, text_ or stations_; or the colour
     std::uint32_t count = 0;  // of points or bytes of text
-    SheetBox box = {};        // around lines; at its corner the text's place
+    Point at = {};            // the text's place
+    SheetBox box = {};        // around lines
   };
 
   static bool SetsState(Verb verb) {

@@ -1,5 +1,6 @@
 #include "map/Outlines.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <future>
@@ -62,12 +63,21 @@ bool JoinOutline(std::string_view bytes, const MapProjection& projection, Vertex
   return reader.Ended();
 }
 
-/// Where to cut a file in two that are drawn as the whole is; its end when it is short, or so long that it
-/// may have more than MaxVertices, whose lines have two characters at least.
+/// Whether lines are so short that many more vertices than usual stand in as many bytes.
+bool HasShortLines(std::string_view bytes) {
+  constexpr std::ptrdiff_t kShortLine = 8;  // a CR LF counts as two lines
+  const auto ends = std::count_if(bytes.begin(), bytes.end(), [](char c) { return c == '\n' || c == '\r'; });
+  return ends * kShortLine > static_cast<std::ptrdiff_t>(bytes.size());
+}
+
+/// Where to cut a file in two that are drawn as the whole is, of which the second is kept in memory until the
+/// first is drawn. The file's end when it is short, when it may have more than MaxVertices, whose lines have
+/// two characters at least, and when the second half would take more memory than its bytes.
 std::size_t WhereToCut(std::string_view bytes) {
   constexpr std::size_t kShort = 262'144;
-  const bool cuts = bytes.size() > kShort && bytes.size() <= 2 * MaxVertices;
-  return cuts ? FindPenUp(bytes, bytes.size() / 2) : bytes.size();
+  if (bytes.size() <= kShort || bytes.size() > 2 * MaxVertices) return bytes.size();
+  const std::size_t cut = FindPenUp(bytes, bytes.size() / 2);
+  return HasShortLines(bytes.substr(cut)) ? bytes.size() : cut;
 }
 
 void DrawFile(Canvas& canvas, const Result<QByteArray>& bytes, ColorValue color,

@@ -28,7 +28,8 @@ class VertexJoiner {
   using DrawStroke = std::function<void(std::span<const Point>)>;
   explicit VertexJoiner(DrawStroke draw) : draw_(std::move(draw)) {}
 
-  /// Joins the next vertices, which lie at `points`, one for each; brings these within the coordinate range.
+  /// Joins the next vertices, which lie at `points`, and brings these within the coordinate range. A step is
+  /// measured from a vertex brought within it. REQUIRES: a point for each vertex.
   void Add(const Outline& piece, std::span<Point> points);
   /// Draws what is left.
   void End();

@@ -12,7 +12,8 @@ SheetFit FitSheet(float surfaceWidth, float surfaceHeight, const SheetArea& area
 }
 
 SheetBox BoxAround(std::span<const Point> points) {
-  // Two points at a time, their x and y beside each other.
+  // Two points at a time, their x and y beside each other: written with vectors, since the compiler takes no
+  // minimum of floats for one whose order does not matter.
   using TwoPoints [[gnu::vector_size(16)]] = float;
   static_assert(sizeof(TwoPoints) == 2 * sizeof(Point));
   constexpr float kFar = std::numeric_limits<float>::infinity();

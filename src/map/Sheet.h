@@ -50,8 +50,8 @@ struct SheetBox {
   }
 };
 
-/// The smallest box around points; one that touches nothing around none. Points that are no numbers do not
-/// count.
+/// The smallest box around points; coordinates that are no numbers do not count. Around none it is one that
+/// touches nothing but Everything().
 SheetBox BoxAround(std::span<const Point> points);
 
 /// A part of a sheet, in twips.

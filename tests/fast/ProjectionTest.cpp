@@ -42,6 +42,20 @@ void ExpectSamePlaces(const Home& home, float scale, const SampleVertices& verti
   }
 }
 
+TEST(ProjectionTest, SineAndCosineAreAsExactAsStated) {
+  constexpr double kStated = 3.5e-12;
+  for (int i = -72'000; i <= 72'000; ++i) {
+    const double degrees = i / 100.0;
+    const auto [sine, cosine] = VertexAngle(degrees);
+    ASSERT_NEAR(sine, std::sin(degrees * 3.14159265358979324 / 180), kStated) << degrees;
+    ASSERT_NEAR(cosine, std::cos(degrees * 3.14159265358979324 / 180), kStated) << degrees;
+    if (i % 9000 != 0) continue;
+    const int quarter = (i / 9000 % 4 + 4) % 4;
+    EXPECT_EQ(sine, quarter == 1 ? 1 : quarter == 3 ? -1 : 0) << degrees;
+    EXPECT_EQ(cosine, quarter == 0 ? 1 : quarter == 2 ? -1 : 0) << degrees;
+  }
+}
+
 TEST(ProjectionTest, VerticesLieWhereTheStraightFormulaPutsThem) {
   const SampleVertices vertices = SampleSphere(20000, 7);
   for (const Home& home : kHomes)
