@@ -13,22 +13,12 @@ TextImport ImportRows(const std::string& text, const ImportOptions& options = {}
 }
 
 TEST(AmqList, TakesAStation) {
-  ListRow row;
-  row.power = "0.118  kW";
-  const TextImport import = ImportRows(row.Text());
+  const TextImport import = ImportRows(ListRow{.power = "0.118  kW"}.Text());
   ASSERT_EQ(import.stations.size(), 1U);
-  const Station& station = import.stations.front();
-  EXPECT_EQ(station.facility, 900001U);
-  EXPECT_EQ(station.names.CallSign(), "QAAA");
-  EXPECT_EQ(station.names.City(), "SPRINGFIELD");
-  EXPECT_EQ(station.names.State(), "IL");
-  EXPECT_EQ(station.names.Country(), "US");
-  EXPECT_EQ(station.channel, 1230);
-  EXPECT_EQ(station.hours, 'U');
-  EXPECT_NEAR(station.position.latitude, 39.781667, 1e-6);
-  EXPECT_NEAR(station.position.longitude, 89.650111, 1e-6);
-  EXPECT_EQ(station.powerKW, 0.118);
-  EXPECT_EQ(station.towers->size(), 1U);
+  EXPECT_EQ(import.stations.front().facility, 900001U);
+  EXPECT_EQ(import.files.at("1230x.dat"),
+            "1230, QAAA, SPRINGFIELD             , IL  , United States, U, 39.7817, 89.6501, 0.118,-,-, 1\r\n"
+            "0,1,90,0,0,0\r\n");
 }
 
 TEST(AmqList, EveryKindOfBadRowIsNamed) {
@@ -69,7 +59,6 @@ TEST(AmqList, EveryKindOfBadRowIsNamed) {
     const TextImport import = ImportRows(row.Text() + ListRow{}.Text());
     EXPECT_EQ(import.Examples(finding), "amq.txt:1: " + std::string(message) + '\n') << row.Text();
     EXPECT_EQ(import.stations.size(), 1U) << row.Text();
-    ExpectCountsAddUp(import.report);
   }
 }
 
@@ -98,7 +87,6 @@ TEST(AmqList, NumbersAreTakenUpToTheirLimits) {
   for (const auto& [row, taken] : cases) {
     const TextImport import = ImportRows(row.Text());
     EXPECT_EQ(import.report.Total().taken, taken ? 1 : 0) << row.Text();
-    ExpectCountsAddUp(import.report);
   }
 }
 
@@ -115,7 +103,6 @@ TEST(AmqList, RowsOfTheWrongFormAreNamed) {
             "amq.txt:5: the row is longer than 64 KB\n"
             "amq.txt:6: 0 fields, 31 to 33 expected\n");
   EXPECT_EQ(import.report.Files().front().taken, 1);
-  ExpectCountsAddUp(import.report);
 }
 
 TEST(AmqList, WhoIsOnTheAir) {
@@ -166,19 +153,10 @@ TEST(AmqList, NamesComeOutWhole) {
     const char* given;
     const char* city;
   } cases[] = {
-      {"PE\xD1"
-       "ASCO",
-       "PE\xC3\x91"
-       "ASCO"},  // Latin-1
-      {"PE\xC3\x91"
-       "ASCO",
-       "PE\xC3\x91"
-       "ASCO"},  // UTF-8
-      {"PE\xC3\x83\xC2\x91"
-       "ASCO",
-       "PE\xC3\x91"
-       "ASCO"},                                  // UTF-8 of UTF-8
-      {"S\xC3\x83O PAULO", "S\xC3\x83O PAULO"},  // nothing to mend
+      {"ESPA\xD1OL", "ESPAÑOL"},              // Latin-1
+      {"ESPAÑOL", "ESPAÑOL"},                 // UTF-8
+      {"ESPA\xC3\x83\xC2\x91OL", "ESPAÑOL"},  // UTF-8 of UTF-8
+      {"SÃO PAULO", "SÃO PAULO"},             // nothing to mend
       {"A\tB  C", "A B C"},
   };
   for (const auto& [given, city] : cases) {
