@@ -167,16 +167,26 @@ TEST_F(DataSwapTest, ARecoveryStoppedAnywhereIsRecoveredFrom) {
   }
 }
 
-TEST_F(DataSwapTest, AFileThatCannotBeReplacedBringsTheOldSetBack) {
-  const DataFolder folder = Fresh("old");
-  ASSERT_TRUE(QFile::remove(folder.Path() + "/550x.dat"));
-  ASSERT_TRUE(QDir(folder.Path()).mkdir("550x.dat"));
-  const Result<Done> outcome = SwapInStations(folder, Set("new"));
-  ASSERT_FALSE(outcome);
-  EXPECT_EQ(outcome.error().Message(), "550x.dat: the file cannot be moved");
-  EXPECT_EQ(folder.Read("1700x.dat")->toStdString(), "old");
-  EXPECT_EQ(folder.Read("1000x.dat")->toStdString(), "old");
-  ExpectTidy(folder, {});
+TEST_F(DataSwapTest, AFileThatCannotBeReplacedBringsTheOldSetBackWhereverItIsStopped) {
+  const auto prepare = [&] {
+    const DataFolder folder = Fresh("old");
+    EXPECT_TRUE(QFile::remove(folder.Path() + "/550x.dat") && QDir(folder.Path()).mkdir("550x.dat"));
+    return folder;
+  };
+  const std::string refusal = "550x.dat: the file cannot be moved";
+  std::string message;
+  const auto swap = [&](const DataFolder& folder, const SwapStep& step) {
+    message = SwapInStations(folder, Set("new"), step).error().Message();
+    return message != "the import was interrupted";
+  };
+  StoppedEverywhere(prepare, swap, [&](const DataFolder& folder, int stop) {
+    const Result<Done> recovered = RecoverImport(folder);
+    EXPECT_TRUE(recovered || recovered.error().Message() == refusal) << recovered.error().Message();
+    for (const char* name : {"530x.dat", "1000x.dat", "1700x.dat"})
+      ASSERT_EQ(folder.Read(name)->toStdString(), "old") << name << ' ' << stop;
+    ExpectTidy(folder, {});
+  });
+  EXPECT_EQ(message, refusal);
 }
 
 TEST_F(DataSwapTest, AnExchangeThatCannotBeClearedUpIsNoFailure) {

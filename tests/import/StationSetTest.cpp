@@ -40,16 +40,6 @@ TEST(StationLineText, FieldsHaveTheirWidths) {
                   .ends_with(", D, -33.4, -144.756, 1234.6,-,-, 1\r\n 3,0.000001,0,0,0,0\r\n"));
 }
 
-TEST(StationLineText, WhatIsReadIsWrittenAgain) {
-  const std::string text = ImportTexts(SampleTables(Order::A, false)).files.at("550x.dat");
-  StationFileReader reader("550x.dat", text);
-  std::string again;
-  FieldChanges changes;
-  while (const StationRecord* record = reader.Next()) again += StationRecordText(550, *record, changes);
-  EXPECT_EQ(again, text);
-  EXPECT_TRUE(reader.Notes().empty());
-}
-
 TEST(StationLineText, AFullStationFileIsReadWhole) {
   StationRecord record;
   record.CallSign = record.City = record.State = record.Country = std::string(200, 'W');
