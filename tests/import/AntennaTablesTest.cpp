@@ -205,6 +205,33 @@ TEST(AntennaTables, NumbersAreTakenUpToTheirLimits) {
   }
 }
 
+// The tables of the current system go by their header.
+const std::string kFacilities =
+    "active_ind|callsign|callsign_effective_date|community_served_city|community_served_state|country_code|"
+    "facility_id|facility_status|frequency|latest_filing_version_id|service_code|^|\n";
+const std::string kAntennas =
+    "aapp_application_id|active_ind|am_antenna_record_id|hours_operation|lat_deg|lat_dir|lat_min|lat_sec|"
+    "lon_deg|lon_dir|lon_min|lon_sec|power|tower_count|^|\n";
+const std::string kTowers =
+    "active_ind|am_antenna_record_id|tower_num|field_ratio|tower_phasing|tower_spacing|tower_orientation|"
+    "tower_ref_ind|^|\n";
+
+TEST(AntennaTables, TablesOfTheCurrentSystemMakeAStation) {
+  const TextImport import = ImportTexts({
+      {"f", kFacilities + "Y|WQAA|2001|BRAVO|IL|US|901|LICEN|550|ab12|AM|^|\n"
+                          "N|WQAA|1999|ALPHA|IA|US|901|LICEN|540|ab11|AM|^|\n"},
+      {"a", kAntennas + "ab12|Y|cd34|D|40|N|30|0|90|W|15|0|5.0|2|^|\n"},
+      {"t", kTowers + "Y|cd34|1|1.0|0|0|0|0|^|\nY|cd34|2|0.5|-90|90|45|0|^|\n"},
+      {"without", Replaced(kTowers, "tower_phasing", "tower_current")},
+  });
+  ASSERT_EQ(import.stations.size(), 1U) << ReportText(import.report);
+  EXPECT_EQ(import.stations.front().names.City(), "BRAVO");
+  ASSERT_EQ(import.stations.front().towers->size(), 2U);
+  EXPECT_EQ(import.stations.front().towers->at(1).bearing, 45);
+  EXPECT_EQ(import.report.Refusals().front().reason,
+            "is the app_am_tower table, but without a column for phasing_deg");
+}
+
 TEST(AntennaTables, WhatALaterFileNoLongerHasInForceIsGone) {
   const auto stations = [](const std::string& name, const std::string& later) {
     NamedTexts texts = SampleTables(Order::A, true);
@@ -222,20 +249,9 @@ TEST(AntennaTables, WhatALaterFileNoLongerHasInForceIsGone) {
   EXPECT_EQ(stations("both", header + day + archived), "D3N1U1") << "in one file it has another meaning";
   EXPECT_EQ(stations("presunrise", header + Replaced(day, "|D|", "|P|")), "N1U1");
 
-  EXPECT_EQ(stations("antenna",
-                     "aapp_application_id|active_ind|am_antenna_record_id|hours_operation|lat_deg|lat_dir|"
-                     "lat_min|lat_sec|lon_deg|lon_dir|lon_min|lon_sec|power|tower_count|^|\n"
-                     "501|N|701|D|40|N|30|0|90|W|15|0|5.0|2|^|\n"),
-            "N1U1");
-  EXPECT_EQ(stations("towers",
-                     "active_ind|am_antenna_record_id|tower_num|field_ratio|tower_phasing|tower_spacing|"
-                     "tower_orientation|tower_ref_ind|^|\nN|701|1|1.0|0|0|0|0|^|\n"),
-            "D0N1U1");
-  EXPECT_EQ(stations("facility",
-                     "active_ind|callsign|community_served_city|community_served_state|country_code|"
-                     "facility_id|facility_status|frequency|latest_filing_version_id|service_code|^|\n"
-                     "N|WQAA|BRAVO|IL|US|901|LICEN|550|501|AM|^|\n"),
-            "U1");
+  EXPECT_EQ(stations("antenna", kAntennas + "501|N|701|D|40|N|30|0|90|W|15|0|5.0|2|^|\n"), "N1U1");
+  EXPECT_EQ(stations("towers", kTowers + "N|701|1|1.0|0|0|0|0|^|\n"), "D0N1U1");
+  EXPECT_EQ(stations("facility", kFacilities + "N|WQAA|2001|BRAVO|IL|US|901|LICEN|550|501|AM|^|\n"), "U1");
 }
 
 TEST(AntennaTables, AnArrayThatIsNotWholeIsTakenWithoutItsPattern) {

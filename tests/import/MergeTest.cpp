@@ -48,6 +48,12 @@ TEST(Merge, JoinsByCallSignWhereTheFacilityIsNotKnown) {
   namesake.city = "ELSEWHERE";
   namesake.facility = "778";
   EXPECT_EQ(WithTables(row.Text() + namesake.Text()).report.Of(Finding::TowersUnknown).rows, 2);
+
+  NamedTexts texts = SampleTables(Order::A, false);  // nor with two of them in the tables
+  texts[0].second = Replaced(texts[0].second, "|U|31|", "|D|31|");
+  texts[3].second = Replaced(Replaced(texts[3].second, "XQBB", "WQAA"), "800.0", "550.0");
+  texts.emplace_back("amq.txt", row.Text());
+  EXPECT_EQ(ImportTexts(texts).Examples(Finding::TowersUnknown), "amq.txt:1: WQAA D\n");
 }
 
 TEST(Merge, WithoutTowersTheListSaysWhatIsKnown) {
@@ -75,13 +81,11 @@ NamedTexts TablesWithManyTowers() {
   return texts;
 }
 
-TEST(Merge, ManyTowersLeaveThePatternOpen) {
-  const TextImport import = ImportTexts(TablesWithManyTowers());
-  EXPECT_EQ(import.Hours("WQAA"), "D0N1");
-  EXPECT_EQ(import.Examples(Finding::TooManyTowers), "am_ant_sys.dat:2: WQAA D, 13 towers\n");
-}
+TEST(Merge, OnlyANonDirectionalStationHasATowerWhateverTheTablesLack) {
+  const TextImport manyTowers = ImportTexts(TablesWithManyTowers());
+  EXPECT_EQ(manyTowers.Hours("WQAA"), "D0N1");
+  EXPECT_EQ(manyTowers.Examples(Finding::TooManyTowers), "am_ant_sys.dat:2: WQAA D, 13 towers\n");
 
-TEST(Merge, ANonDirectionalStationHasATowerWhateverTheTablesLack) {
   ListRow listed = ListedWqaa();
   listed.directional = "";
   const auto import = [&](NamedTexts texts) {

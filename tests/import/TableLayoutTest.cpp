@@ -41,29 +41,5 @@ TEST(TableLayout, WhatIsNoTableIsRefusedWithTheReason) {
             "is a web page without rows; save the text list itself");
 }
 
-TEST(TableLayout, TablesOfTheCurrentSystemGoByTheirHeader) {
-  const std::string facility =
-      "active_ind|callsign|callsign_effective_date|community_served_city|community_served_state|country_code|"
-      "facility_id|"
-      "facility_status|frequency|latest_filing_version_id|service_code|^|\n"
-      "Y|WQAA|2001|BRAVO|IL|US|901|LICEN|550|ab12|AM|^|\nN|WQAA|1999|ALPHA|IA|US|901|LICEN|540|ab11|AM|^|\n";
-  const std::string antenna =
-      "aapp_application_id|active_ind|am_antenna_record_id|hours_operation|lat_deg|lat_dir|lat_min|lat_sec|"
-      "lon_deg|lon_dir|lon_min|"
-      "lon_sec|power|tower_count|^|\nab12|Y|cd34|D|40|N|30|0|90|W|15|0|5.0|2|^|\n";
-  const std::string tower =
-      "active_ind|am_antenna_record_id|tower_num|field_ratio|tower_phasing|tower_spacing|tower_orientation|"
-      "tower_ref_ind|^|\n"
-      "Y|cd34|1|1.0|0|0|0|0|^|\nY|cd34|2|0.5|-90|90|45|0|^|\n";
-  const TextImport import = ImportTexts({{"f", facility}, {"a", antenna}, {"t", tower}});
-  ASSERT_EQ(import.stations.size(), 1U) << ReportText(import.report);
-  EXPECT_EQ(import.stations.front().names.City(), "BRAVO");
-  ASSERT_EQ(import.stations.front().towers->size(), 2U);
-  EXPECT_EQ(import.stations.front().towers->at(1).bearing, 45);
-
-  EXPECT_EQ(Refusal(Replaced(tower, "tower_phasing", "tower_current")),
-            "is the app_am_tower table, but without a column for phasing_deg");
-}
-
 }  // namespace
 }  // namespace kestrel
