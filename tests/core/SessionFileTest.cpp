@@ -226,31 +226,5 @@ TEST(SessionFileTest, WriteReadWriteIsTheSame) {
   }
 }
 
-/// Whatever is read, the program can draw with it and write it: every number is finite, and from the second
-/// writing on (the first fills in what a file that ended early left unset) the file stays the same.
-void ExpectUsable(const std::string& bytes) {
-  SessionState state = Read(bytes);
-  for (const float value : {state.CurrentFrequency, state.HomeLatitude, state.HomeLongitude,
-                            state.PatternSize, state.ScaleFactor, state.AspectRatio})
-    ASSERT_TRUE(std::isfinite(value)) << bytes;
-  ASSERT_EQ(state.HomeName.find_first_of("\r\n"), std::string::npos) << bytes;
-  ReadSession(WriteSession(state, ""), state);
-  const std::string written = WriteSession(state, "");
-  ReadSession(written, state);
-  ASSERT_EQ(WriteSession(state, ""), written) << bytes;
-}
-
-TEST(SessionFileTest, EveryTruncationAndEveryByteDisturbedLeaveAUsableState) {
-  for (std::size_t at = 0; at < kGood.size(); ++at) {
-    ExpectUsable(kGood.substr(0, at));
-    std::string bytes = kGood;
-    for (const char byte :
-         {'\0', '\n', '\r', ' ', '*', ':', '-', '.', '9', 'e', 'G', '\x80', '\xC3', '\xFF'}) {
-      bytes[at] = byte;
-      ExpectUsable(bytes);
-    }
-  }
-}
-
 }  // namespace
 }  // namespace kestrel
