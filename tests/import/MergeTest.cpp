@@ -216,10 +216,14 @@ TEST(Merge, SilentStationsAndPermitsOnlyWhenWanted) {
     ImportOptions options;
     const char* hours;  // of the day and of the night; the day's antenna record is the first
   } cases[] = {
-      {"facility", "LICEN", "LICSL", {}, ""}, {"facility", "LICEN", "LICSL", {.includeSilent = true}, "D3N1"},
-      {"am_ant_sys", "|L|", "|C|", {}, "N1"}, {"am_ant_sys", "|L|", "|C|", {.includePermits = true}, "D3N1"},
+      {"facility", "LICEN", "LICSL", {}, ""},
+      {"facility", "LICEN", "LICSL", {.includeSilent = true}, "D3N1"},
+      {"facility", "LICEN", "LICAN", {.includeSilent = true}, ""},
+      {"am_ant_sys", "|L|", "|C|", {}, "N1"},
+      {"am_ant_sys", "|L|", "|C|", {.includePermits = true}, "D3N1"},
       {"am_ant_sys", "|L|", "||", {}, "N1"},  // only abroad it is blank
-      {"am_eng_data", "|L|", "|C|", {}, ""},  {"facility", "|US|", "|MX|", {}, ""},
+      {"am_eng_data", "|L|", "|C|", {}, ""},
+      {"facility", "|US|", "|MX|", {}, ""},
   };
   for (const auto& [table, from, to, options, hours] : cases)
     EXPECT_EQ(ImportChanged(table, from, to, options).Hours("WQAA"), hours)
