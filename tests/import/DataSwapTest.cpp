@@ -75,8 +75,12 @@ class DataSwapTest : public testing::Test {
   template <typename Prepare, typename Work, typename Check>
   static int StoppedEverywhere(Prepare prepare, Work work, Check check) {
     const auto next = [](int stop) {
-      const int nearest = (stop + 6) % 121;  // a turn comes after each round of 120 files and a few more
-      return nearest < 14 ? stop + 1 : stop + 37 - stop % 37;
+      const auto isNearTurn = [](int at) {
+        return (at + 6) % 121 < 14;
+      };  // each round has 120 files and more
+      do ++stop;
+      while (!isNearTurn(stop) && stop % 37 != 0);
+      return stop;
     };
     for (int stop = 0;; stop = next(stop)) {
       const DataFolder folder = prepare();
