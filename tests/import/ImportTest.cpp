@@ -8,86 +8,63 @@
 
 #include "ImportTesting.h"
 #include "TestFolder.h"
-#include "import/DataSwap.h"
 
 namespace kestrel {
 namespace {
 
-/// The stations that the folder's files hold: "old", "new", or "mixed" when they are of neither set alone.
-std::string Holds(const TestFolder& folder, const StationSet& before, const StationSet& after) {
-  const auto isWhole = [&](const StationSet& set) {
-    for (const auto& [name, bytes] : set)
-      if (folder.Text(QString::fromStdString(name)) != bytes) return false;
-    return true;
-  };
-  return isWhole(before) ? "old" : isWhole(after) ? "new" : "mixed";
-}
+/// A folder with a station QOLD, and the list of a station QNEW.
+class RunImportTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    folder_.Put("amq.txt", ListRow{.call = "QNEW"}.Text());
+    ImportOld();
+  }
 
-FileSource Source(const StationSet& set) {
-  return [&](const TakeFile& take) {
-    for (const auto& [name, bytes] : set) take(name, bytes);
-  };
-}
+  void ImportOld() {
+    folder_.Put("old.txt", ListRow{.call = "QOLD"}.Text());
+    ASSERT_FALSE(RunImport({{folder_.Path("old.txt")}, {}, false}, folder_.Folder()).failure);
+  }
 
-/// The folder's set as it stands.
-StationSet SetOf(const TestFolder& folder) {
-  StationSet set;
-  for (const std::string& name : StationSetNames()) set[name] = folder.Text(QString::fromStdString(name));
-  return set;
-}
+  /// The call sign of the folder's station.
+  std::string Holds() const { return folder_.Text("1230x.dat").substr(6, 4); }
 
-TEST(RunImport, CancelledAtAnyMomentItTellsWhatTheFolderHolds) {
-  const TestFolder folder;
-  const StationSet before = ImportTexts({{"amq", ListRow{.call = "QOLD"}.Text()}}).files;
-  ASSERT_TRUE(SwapInStations(folder.Folder(), Source(before)));
-  folder.Put("amq.txt", ListRow{.call = "QNEW"}.Text());
-  const ImportRequest request{{folder.Path("amq.txt")}, {}, false};
-  ASSERT_FALSE(RunImport(request, folder.Folder()).failure);
-  const StationSet after = SetOf(folder);
-  ASSERT_TRUE(UndoImport(folder.Folder()));
+  const TestFolder folder_;
+  const ImportRequest request_{{folder_.Path("amq.txt")}, {}, false};
+};
 
+TEST_F(RunImportTest, CancelledAtAnyMomentItTellsWhatTheFolderHolds) {
   int calls = 0;
-  for (int cancelAt = 1;; ++cancelAt) {
-    ASSERT_TRUE(SwapInStations(folder.Folder(), Source(before)));
+  for (int cancelAt = 1; calls >= cancelAt - 1; ++cancelAt) {
+    ImportOld();
     calls = 0;
     double last = 0;
-    const ImportOutcome outcome = RunImport(request, folder.Folder(), [&](double done, std::string_view) {
+    const ImportOutcome outcome = RunImport(request_, folder_.Folder(), [&](double done, std::string_view) {
       last = done;
       return ++calls != cancelAt;
     });
-    const std::string holds = Holds(folder, before, after);
-    if (calls < cancelAt) {
-      EXPECT_EQ(holds, "new") << "never cancelled";
-      break;
-    }
-    EXPECT_EQ(holds, last < 1 ? "old" : "new") << cancelAt;
-    const std::string why = outcome.failure ? outcome.failure->text.substr(0, 9) : "";
-    EXPECT_EQ(why, holds == "old" ? "cancelled" : "") << cancelAt;
+    const bool cancelled = calls >= cancelAt && last < 1;
+    EXPECT_EQ(Holds(), cancelled ? "QOLD" : "QNEW") << cancelAt;
+    const std::string why = outcome.failure ? outcome.failure->Message() : "";
+    EXPECT_EQ(why, cancelled ? "cancelled; the station files are as they were" : "") << cancelAt;
     ExpectCountsAddUp(outcome.report);
   }
   EXPECT_GT(calls, 4);
 }
 
-TEST(RunImport, WantOfMemoryAtAnyMomentLeavesTheFiles) {
-  const TestFolder folder;
-  const StationSet before = ImportTexts({{"amq", ListRow{.call = "QOLD"}.Text()}}).files;
-  ASSERT_TRUE(SwapInStations(folder.Folder(), Source(before)));
-  folder.Put("amq.txt", ListRow{.call = "QNEW"}.Text());
+TEST_F(RunImportTest, WantOfMemoryAtAnyMomentLeavesTheFiles) {
   for (const double moment : {0.0, 0.8, 0.9}) {
-    const ImportOutcome outcome =
-        RunImport({{folder.Path("amq.txt")}, {}, false}, folder.Folder(), [&](double done, std::string_view) {
-          if (done >= moment) throw std::bad_alloc();
-          return true;
-        });
+    const ImportOutcome outcome = RunImport(request_, folder_.Folder(), [&](double done, std::string_view) {
+      if (done >= moment) throw std::bad_alloc();
+      return true;
+    });
     ASSERT_TRUE(outcome.failure);
     EXPECT_EQ(outcome.failure->Message(),
               "there is not enough memory for so long files; the station files are as they were");
-    EXPECT_EQ(Holds(folder, before, before), "old");
+    EXPECT_EQ(Holds(), "QOLD");
   }
 }
 
-TEST(RunImport, TheDateIsThatOfTheNewestFileWithRows) {
-  const TestFolder folder;
+TEST_F(RunImportTest, TheDateIsThatOfTheNewestFileWithRows) {
   const struct {
     const char* name;
     std::string text;
@@ -97,15 +74,15 @@ TEST(RunImport, TheDateIsThatOfTheNewestFileWithRows) {
                {"letter.txt", "Dear listener,\n", {2026, 9, 3}}};
   ImportRequest request;
   for (const auto& [name, text, date] : files) {
-    folder.Put(name, text);
-    QFile file(folder.Path(name));
+    folder_.Put(name, text);
+    QFile file(folder_.Path(name));
     ASSERT_TRUE(file.open(QIODevice::ReadWrite));
     ASSERT_TRUE(file.setFileTime(date.startOfDay(), QFileDevice::FileModificationTime));
-    request.files << folder.Path(name);
+    request.files << folder_.Path(name);
   }
-  EXPECT_EQ(RunImport(request, folder.Folder()).stationsLine,
+  EXPECT_EQ(RunImport(request, folder_.Folder()).stationsLine,
             "The FCC's AM Query list, files of 2 August 2026, 2 stations");
-  EXPECT_EQ(folder.Text("Stations.txt"), "The FCC's AM Query list, files of 2 August 2026, 2 stations\r\n");
+  EXPECT_EQ(folder_.Text("Stations.txt"), "The FCC's AM Query list, files of 2 August 2026, 2 stations\r\n");
 }
 
 }  // namespace

@@ -44,49 +44,51 @@ std::string TableText::Text() const {
   return text;
 }
 
-std::vector<std::pair<std::string, std::string>> SampleTables(Order order, bool header) {
-  const std::string site =
-      " lat_deg=40 lat_dir=N lat_min=30 lat_sec=0.0 lon_deg=90 lon_dir=W lon_min=15 lon_sec=0.0";
-  const std::string abroad =
-      " lat_deg=31 lat_dir=N lat_min=44 lat_sec=10.5 lon_deg=106 lon_dir=W lon_min=29 lon_sec=5.25";
+NamedTexts SampleTables(Order order, bool header) {
   const std::string date = " last_update_date=01/02/2024";
+  const std::string home =
+      " ant_mode=DA2 eng_record_type=C am_dom_status=L"
+      " lat_deg=40 lat_dir=N lat_min=30 lat_sec=0.0 lon_deg=90 lon_dir=W lon_min=15 lon_sec=0.0" +
+      date;
+  const std::string abroad =
+      " ant_mode=ND1 eng_record_type=C"
+      " lat_deg=31 lat_dir=N lat_min=44 lat_sec=10.5 lon_deg=106 lon_dir=W lon_min=29 lon_sec=5.25" +
+      date;
+  const std::string tower = " elec_hgt_deg=90 tower_ref_switch=0" + date;
   const auto table = [&](const std::string& name, std::vector<std::string> rows) {
     return std::pair(name + ".dat", TableText{name, order, header, std::move(rows)}.Text());
   };
-  return {table("am_ant_sys", {"ant_mode=DA2 ant_sys_id=701 application_id=501 hours_operation=D power=5.0 "
-                               "tower_count=3 eng_record_type=C "
-                               "am_dom_status=L ant_dir_ind=Y" +
-                                   site + date,
-                               "ant_mode=DA2 ant_sys_id=702 application_id=501 hours_operation=N power=0.5 "
-                               "tower_count=1 eng_record_type=C "
-                               "am_dom_status=L ant_dir_ind=N" +
-                                   site + date,
-                               "ant_mode=ND1 ant_sys_id=703 application_id=502 hours_operation=U power=50.0 "
-                               "tower_count=1 eng_record_type=C" +
-                                   abroad + date}),
-          table("am_towers", {"ant_sys_id=701 tower_num=2 field_ratio=0.9 phasing_deg=-90 spacing_deg=90 "
-                              "orientation_deg=40 elec_hgt_deg=90 "
-                              "tower_ref_switch=0" +
-                                  date,
-                              "ant_sys_id=701 tower_num=1 field_ratio=1.0 phasing_deg=0 spacing_deg=0 "
-                              "orientation_deg=0 elec_hgt_deg=90 "
-                              "tower_ref_switch=0" +
-                                  date,
-                              "ant_sys_id=701 tower_num=3 field_ratio=0.7 phasing_deg=15 spacing_deg=120 "
-                              "orientation_deg=130 elec_hgt_deg=95.5 "
-                              "tower_ref_switch=1" +
-                                  date,
-                              "ant_sys_id=702 tower_num=1 field_ratio=1.0 elec_hgt_deg=90" + date,
-                              "ant_sys_id=703 tower_num=1 field_ratio=0 elec_hgt_deg=0 top_loaded_switch=1 "
-                              "topload_a=80 topload_b=10" +
-                                  date}),
-          table("am_eng_data", {"application_id=501 facility_id=901 am_dom_status=L" + date,
-                                "application_id=502 facility_id=902" + date}),
-          table("facility", {"facility_id=901 fac_callsign=WQAA fac_country=US fac_frequency=550.0 "
-                             "fac_service=AM fac_status=LICEN comm_city=BRAVO "
-                             "comm_state=IL",
-                             "facility_id=902 fac_callsign=XQBB fac_country=MX fac_frequency=800.0 "
-                             "fac_service=AM comm_city=CHARLIE"})};
+  return {
+      table(
+          "am_ant_sys",
+          {"ant_sys_id=701 application_id=501 hours_operation=D power=5.0 tower_count=3 ant_dir_ind=Y" + home,
+           "ant_sys_id=702 application_id=501 hours_operation=N power=0.5 tower_count=1 ant_dir_ind=N" + home,
+           "ant_sys_id=703 application_id=502 hours_operation=U power=50.0 tower_count=1" + abroad}),
+      table(
+          "am_towers",
+          {"ant_sys_id=701 tower_num=2 field_ratio=0.9 phasing_deg=-90 spacing_deg=90 orientation_deg=40" +
+               tower,
+           "ant_sys_id=701 tower_num=1 field_ratio=1.0 phasing_deg=0 spacing_deg=0 orientation_deg=0" + tower,
+           "ant_sys_id=701 tower_num=3 field_ratio=0.7 phasing_deg=15 spacing_deg=120 orientation_deg=130 "
+           "elec_hgt_deg=95.5 tower_ref_switch=1" +
+               date,
+           "ant_sys_id=702 tower_num=1 field_ratio=1.0 elec_hgt_deg=90" + date,
+           "ant_sys_id=703 tower_num=1 field_ratio=0 elec_hgt_deg=0 top_loaded_switch=1 topload_a=80 "
+           "topload_b=10" +
+               date}),
+      table("am_eng_data", {"application_id=501 facility_id=901 am_dom_status=L" + date,
+                            "application_id=502 facility_id=902" + date}),
+      table("facility",
+            {"facility_id=901 fac_callsign=WQAA fac_country=US fac_frequency=550.0 fac_service=AM "
+             "fac_status=LICEN comm_city=BRAVO comm_state=IL",
+             "facility_id=902 fac_callsign=XQBB fac_country=MX fac_frequency=800.0 fac_service=AM "
+             "comm_city=CHARLIE"})};
+}
+
+std::string Replaced(std::string text, std::string_view from, std::string_view to, std::string_view behind) {
+  const std::size_t at = text.find(from, text.find(behind));
+  EXPECT_NE(at, std::string::npos) << from;
+  return at == std::string::npos ? text : text.replace(at, from.size(), to);
 }
 
 std::string TextImport::Examples(Finding finding) const {
@@ -95,8 +97,15 @@ std::string TextImport::Examples(Finding finding) const {
   return all;
 }
 
-TextImport ImportTexts(const std::vector<std::pair<std::string, std::string>>& texts,
-                       const ImportOptions& options) {
+std::string TextImport::Hours(std::string_view call) const {
+  std::string text;
+  for (const Station& station : stations)
+    if (call.empty() || station.names.CallSign() == call)
+      text += station.hours + std::to_string(station.towers ? station.towers->size() : 0);
+  return text;
+}
+
+TextImport ImportTexts(const NamedTexts& texts, const ImportOptions& options) {
   TextImport import;
   Readings readings;
   for (const auto& [name, text] : texts) {
@@ -105,7 +114,16 @@ TextImport ImportTexts(const std::vector<std::pair<std::string, std::string>>& t
   }
   import.stations = MergeStations(std::move(readings.amq), readings.tables, options, import.report);
   import.files = MakeStationSet(import.stations, "A test", import.report);
+  ExpectCountsAddUp(import.report);
   return import;
+}
+
+TextImport ImportChanged(const std::string& table, std::string_view from, std::string_view to,
+                         const ImportOptions& options) {
+  NamedTexts texts = SampleTables(Order::A, true);
+  for (auto& [name, text] : texts)
+    if (name == table + ".dat") text = Replaced(text, from, to, "\n");
+  return ImportTexts(texts, options);
 }
 
 void ExpectCountsAddUp(const ImportReport& report) {

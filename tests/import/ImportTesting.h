@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -10,6 +11,9 @@
 #include "import/StationSet.h"
 
 namespace kestrel {
+
+/// Files by their names.
+using NamedTexts = std::vector<std::pair<std::string, std::string>>;
 
 /// A row of an AM Query list with the fields that a test cares about; the others as a plain station has them.
 struct ListRow {
@@ -45,7 +49,11 @@ struct TableText {
 /// The tables of two made-up stations: WQAA, 550 kHz, an array of 3 towers by day, the last one placed from
 /// the second, and one tower by night; XQBB in Mexico, 800 kHz, a lone tower. `order` and `header` hold for
 /// all of them.
-std::vector<std::pair<std::string, std::string>> SampleTables(Order order, bool header);
+NamedTexts SampleTables(Order order, bool header);
+
+/// `text` with `to` in place of the first `from` behind the first `behind`, which must be there.
+std::string Replaced(std::string text, std::string_view from, std::string_view to,
+                     std::string_view behind = {});
 
 /// What an import makes of named texts, without a disk.
 struct TextImport {
@@ -55,9 +63,16 @@ struct TextImport {
 
   /// The examples of a finding, all of them in one text, a line each.
   std::string Examples(Finding finding) const;
+  /// "D3N1": the hours and tower counts of the stations, in order; with a call sign, of those that have it.
+  std::string Hours(std::string_view call = {}) const;
 };
-TextImport ImportTexts(const std::vector<std::pair<std::string, std::string>>& texts,
-                       const ImportOptions& options = {});
+
+/// Fails the running test unless the import's counts add up.
+TextImport ImportTexts(const NamedTexts& texts, const ImportOptions& options = {});
+
+/// The import of the sample tables with one row of one of them changed: the first `from` becomes `to`.
+TextImport ImportChanged(const std::string& table, std::string_view from, std::string_view to,
+                         const ImportOptions& options = {});
 
 /// Fails the running test unless the rows taken and left out add up to those read, in each file and by
 /// reasons.

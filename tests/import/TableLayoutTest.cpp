@@ -2,10 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "ImportTesting.h"
-#include "import/TableColumns.h"
 
 namespace kestrel {
 namespace {
@@ -14,32 +11,6 @@ std::string Refusal(const std::string& text) {
   const ImportReport report = ImportTexts({{"file", text}}).report;
   return report.Refusals().empty() ? "read as " + report.Files().front().content
                                    : report.Refusals().front().reason;
-}
-
-TEST(TableLayout, BothOrdersAreRecognisedWithAndWithoutHeader) {
-  const std::vector<std::string> applications = {
-      "app_service=AM application_id=501 facility_id=901 comm_city=BRAVO fac_callsign=WQAA "
-      "fac_frequency=550"};
-  for (const Order order : {Order::A, Order::B}) {
-    for (const bool header : {false, true}) {
-      auto texts = SampleTables(order, header);
-      texts.emplace_back("application.dat", TableText{"application", order, header, applications}.Text());
-      texts.emplace_back("am_augs.dat",
-                         TableText{"am_augs",
-                                   order,
-                                   header,
-                                   {"ant_sys_id=701 aug_id=1 azimuth_deg=250 radiation_aug=95.5 "
-                                    "span_deg=40 last_update_date=01/02/2024"}}
-                             .Text());
-      for (const auto& [name, text] : texts) {
-        const Result<TableLayout> layout = RecogniseTable(text);
-        ASSERT_TRUE(layout) << name << ' ' << layout.error().text;
-        EXPECT_EQ(layout->title, name.substr(0, name.size() - 4) + " table");
-        EXPECT_EQ(layout->header, header);
-        EXPECT_EQ(std::is_sorted(layout->columns.begin(), layout->columns.end()), order == Order::B) << name;
-      }
-    }
-  }
 }
 
 TEST(TableLayout, ColumnsUnderAHeaderMayStandInAnyOrderAmongOthers) {
@@ -58,7 +29,6 @@ TEST(TableLayout, WhatIsNoTableIsRefusedWithTheReason) {
   EXPECT_EQ(Refusal("1|2|3|^|\n"), start + "rows of 3 columns that are none of the antenna tables'");
   EXPECT_EQ(Refusal("|a|b|c|\n|d|e|f|\n"), start + "rows of 3 fields, 31 to 33 expected");
   EXPECT_EQ(Refusal("ant_sys_id|tower_num|field_ratio|^|\n1|1|1|^|\n"),
-
             "is the am_towers table, but without a column for phasing_deg, spacing_deg, orientation_deg, "
             "tower_ref_switch");
   EXPECT_EQ(Refusal("active_ind|something|^|\nY|1|^|\n"), start + "a table that the importer does not use");
@@ -69,32 +39,6 @@ TEST(TableLayout, WhatIsNoTableIsRefusedWithTheReason) {
   EXPECT_EQ(Refusal("\xFF\xFEq"), "is UTF-16 text; save it as UTF-8");
   EXPECT_EQ(Refusal("<html><body>AM Query</body></html>"),
             "is a web page without rows; save the text list itself");
-}
-
-TEST(TableLayout, TablesOfTheCurrentSystemGoByTheirHeader) {
-  const std::string facility =
-      "active_ind|callsign|callsign_effective_date|community_served_city|community_served_state|country_code|"
-      "facility_id|"
-      "facility_status|frequency|latest_filing_version_id|service_code|^|\n"
-      "Y|WQAA|2001|BRAVO|IL|US|901|LICEN|550|ab12|AM|^|\nN|WQAA|1999|ALPHA|IA|US|901|LICEN|540|ab11|AM|^|\n";
-  const std::string antenna =
-      "aapp_application_id|active_ind|am_antenna_record_id|hours_operation|lat_deg|lat_dir|lat_min|lat_sec|"
-      "lon_deg|lon_dir|lon_min|"
-      "lon_sec|power|tower_count|^|\nab12|Y|cd34|D|40|N|30|0|90|W|15|0|5.0|2|^|\n";
-  const std::string tower =
-      "active_ind|am_antenna_record_id|tower_num|field_ratio|tower_phasing|tower_spacing|tower_orientation|"
-      "tower_ref_ind|^|\n"
-      "Y|cd34|1|1.0|0|0|0|0|^|\nY|cd34|2|0.5|-90|90|45|0|^|\n";
-  const TextImport import = ImportTexts({{"f", facility}, {"a", antenna}, {"t", tower}});
-  ASSERT_EQ(import.stations.size(), 1U) << ReportText(import.report);
-  EXPECT_EQ(import.stations.front().names.City(), "BRAVO");
-  ASSERT_EQ(import.stations.front().towers->size(), 2U);
-  EXPECT_EQ(import.stations.front().towers->at(1).bearing, 45);
-  ExpectCountsAddUp(import.report);
-
-  std::string without = tower;
-  without.replace(without.find("tower_phasing"), 13, "tower_current");
-  EXPECT_EQ(Refusal(without), "is the app_am_tower table, but without a column for phasing_deg");
 }
 
 }  // namespace
