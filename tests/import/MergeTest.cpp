@@ -203,6 +203,11 @@ TEST(Merge, TheListOverrulesTheTablesOnWhoIsOnTheAir) {
             "amq.txt:1: WQAA, status CNL\nam_ant_sys.dat:1: WQAA 550 D, by the AM Query list\n"
             "am_ant_sys.dat:2: WQAA 550 N, by the AM Query list\n");
   EXPECT_EQ(cancelled.report.Of(Finding::NotReferred).rows, 6);  // four towers and what joins them
+  // A row without the facility ends the day by its names; the night, which no row speaks of, stays.
+  row.facility = "";
+  row.city = "BRAVO";
+  EXPECT_EQ(WithTables(row.Text()).Hours("WQAA"), "N1");
+  row.facility = "901";
   row.status = "LIC";
   row.hours = "Unlimited";  // in place of the tables' day and night
   const TextImport unlimited = WithTables(row.Text());
