@@ -65,9 +65,16 @@ bool JoinOutline(std::string_view bytes, const MapProjection& projection, Vertex
 
 /// Whether lines are so short that many more vertices than usual stand in as many bytes.
 bool HasShortLines(std::string_view bytes) {
-  constexpr std::ptrdiff_t kShortLine = 8;  // a CR LF counts as two lines
-  const auto ends = std::count_if(bytes.begin(), bytes.end(), [](char c) { return c == '\n' || c == '\r'; });
-  return ends * kShortLine > static_cast<std::ptrdiff_t>(bytes.size());
+  constexpr std::size_t kShortLine = 8;  // a CR LF counts as two lines
+  constexpr std::size_t kPiece = 255;  // whose line ends a byte can count, so that many are counted at a time
+  std::size_t ends = 0;
+  for (std::string_view rest = bytes; !rest.empty(); rest.remove_prefix(std::min(kPiece, rest.size()))) {
+    unsigned char inPiece = 0;
+    for (const char c : rest.substr(0, kPiece))
+      inPiece = static_cast<unsigned char>(inPiece + (int{c == '\n'} | int{c == '\r'}));
+    ends += inPiece;
+  }
+  return ends * kShortLine > bytes.size();
 }
 
 /// Where to cut a file in two that are drawn as the whole is, of which the second is kept in memory until the
