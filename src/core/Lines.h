@@ -31,10 +31,10 @@ class LineReader {
   /// What has not been read, for readers that know a line's end before it is looked for.
   std::string_view Rest() const { return bytes_.substr(std::min(position_, bytes_.size())); }
 
-  /// Passes over the line of `length` bytes at the front of Rest(), its end included.
-  void SkipLine(std::size_t length) {
+  /// Passes over `count` lines of `length` bytes together at the front of Rest(), their ends included.
+  void SkipLines(std::size_t count, std::size_t length) {
     position_ += length;
-    ++lineNumber_;
+    lineNumber_ += static_cast<int>(count);
   }
 
   bool AtEnd() const { return position_ >= bytes_.size(); }

@@ -1,9 +1,9 @@
 #include "data/OutlineFile.h"
 
 #include <algorithm>
+#include <span>
 
 #include "core/Numbers.h"
-#include "core/PlainNumber.h"
 #include "core/Text.h"
 #include "core/TextFields.h"
 
@@ -14,23 +14,6 @@ constexpr std::size_t kPiece = 2048;
 constexpr double kEndMark = -2000;
 constexpr float kPenUp = -100;
 constexpr std::string_view kCommentSigns = "><!*'/\\";
-
-struct Vertex {
-  double Latitude = 0;
-  double Longitude = 0;
-};
-
-/// Reads a vertex line as nearly all are: two plain numbers, one blank between them, a line end right behind.
-/// Returns the line's length with its end; 0 for any other line, which is then read field by field.
-std::size_t ReadPlainVertex(std::string_view bytes, Vertex& vertex) {
-  const char* const end = bytes.data() + bytes.size();
-  const char* at = ReadPlainNumber(bytes.data(), end, vertex.Latitude);
-  if (!at || at == end || *at != ' ') return 0;
-  at = ReadPlainNumber(at + 1, end, vertex.Longitude);
-  if (!at || at == end) return 0;
-  if (*at == '\r' && at + 1 != end) ++at;
-  return *at == '\n' ? static_cast<std::size_t>(at + 1 - bytes.data()) : 0;
-}
 
 }  // namespace
 
@@ -43,41 +26,50 @@ const Outline* OutlineReader::Next() {
   piece_.PenUpBefore.clear();
   const std::size_t begin = count_;
   const std::size_t end = std::min(begin + kPiece, MaxVertices);
-  Vertex vertex;
   while (count_ < end && !ended_) {
-    if (const std::size_t length = ReadPlainVertex(lines_.Rest(), vertex)) {
-      ended_ = vertex.Latitude == kEndMark;
-      if (!ended_) Add(vertex.Latitude, vertex.Longitude);
-      lines_.SkipLine(length);
-    } else if (const auto line = lines_.Next()) {
-      ReadAnyLine(*line);
-    } else {
-      break;
-    }
+    if (ReadLinesAlike(end - count_) > 0) continue;
+    const auto line = lines_.Next();
+    if (!line) break;
+    ReadAnyLine(*line);
   }
   return count_ > begin ? &piece_ : nullptr;
 }
 
-inline void OutlineReader::Add(double latitude, double longitude) {
-  const auto north = static_cast<float>(latitude);
-  const auto east = static_cast<float>(longitude);
-  ++count_;
-  if (north == kPenUp && east == kPenUp) {
-    piece_.PenUpBefore.push_back(piece_.Latitude.size());
-  } else {
-    piece_.Latitude.push_back(north);
-    piece_.Longitude.push_back(east);
+std::size_t OutlineReader::ReadLinesAlike(std::size_t most) {
+  const std::string_view bytes = lines_.Rest();
+  std::size_t count = layout_ ? layout_->CountLines(bytes, most) : 0;
+  if (count == 0) {
+    const std::optional<VertexLayout> layout = VertexLayout::Of(bytes);
+    if (!layout) return 0;
+    layout_ = layout;
+    count = layout_->CountLines(bytes, most);
   }
+  const std::size_t before = piece_.Latitude.size();
+  piece_.Latitude.resize(before + count);
+  piece_.Longitude.resize(before + count);
+  layout_->ReadLines(bytes, std::span(piece_.Latitude).subspan(before),
+                     std::span(piece_.Longitude).subspan(before));
+  count_ += count;
+  lines_.SkipLines(count, count * layout_->LineLength());
+  return count;
 }
 
 void OutlineReader::ReadAnyLine(std::string_view text) {
   std::string_view line = Trim(text);
   if (line.empty()) return;
   if (comments_ == CommentLines::Skip && kCommentSigns.find(line.front()) != std::string_view::npos) return;
-  ended_ = LeadingNumber(line) == kEndMark;
+  const double first = LeadingNumber(NextBlankField(line).value_or(""));
+  ended_ = first == kEndMark;
   if (ended_) return;
-  const double latitude = LeadingNumber(NextBlankField(line).value_or(""));
-  Add(latitude, LeadingNumber(NextBlankField(line).value_or("")));
+  const auto latitude = static_cast<float>(first);
+  const auto longitude = static_cast<float>(LeadingNumber(NextBlankField(line).value_or("")));
+  ++count_;
+  if (latitude == kPenUp && longitude == kPenUp) {
+    piece_.PenUpBefore.push_back(piece_.Latitude.size());
+  } else {
+    piece_.Latitude.push_back(latitude);
+    piece_.Longitude.push_back(longitude);
+  }
 }
 
 std::size_t FindPenUp(std::string_view bytes, std::size_t from) {

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string_view>
 #include <vector>
 
 #include "core/Lines.h"
+#include "data/VertexLayout.h"
 
 // The map outline files "REGION2.dat" and "STATES.dat". docs/formats/outline-files.md describes them.
 
@@ -41,11 +43,13 @@ class OutlineReader {
   bool Ended() const { return ended_; }
 
  private:
-  void Add(double latitude, double longitude);
+  /// Reads the next lines as far as they are laid out alike, at most `most`; returns how many.
+  std::size_t ReadLinesAlike(std::size_t most);
   void ReadAnyLine(std::string_view line);
 
   LineReader lines_;
   const CommentLines comments_;
+  std::optional<VertexLayout> layout_;  // of the last line that has one
   Outline piece_;
   std::size_t count_ = 0;  // of vertices and marks read
   bool ended_ = false;

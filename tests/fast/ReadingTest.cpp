@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <random>
 
+#include "TestFolder.h"
 #include "WholeOutline.h"
 #include "data/DataFolder.h"
 #include "straight/Reading.h"
@@ -54,6 +56,44 @@ TEST(ReadingTest, StationFilesOfTheWholeBand) {
     ASSERT_FALSE(lines.Next());
   }
   EXPECT_GT(records, 10000);
+}
+
+/// Runs of lines laid out alike, each run otherwise; here and there a line of another kind among them.
+QByteArray MixedOutline(unsigned seed) {
+  std::mt19937 random(seed);
+  const auto below = [&random](std::size_t most) { return random() % most; };
+  const auto digits = [&](std::size_t count) {
+    QByteArray text;
+    while (count-- > 0) text += static_cast<char>('0' + below(10));
+    return text;
+  };
+  const QByteArray others[] = {"-100 -100\n", "-100.0 -100.00\n", "45 266\n",     "1e1 2.5\n",
+                               "\n",          " 45.25 266.5 x\n", "-2000.5 1.5\n"};
+  QByteArray bytes;
+  for (int run = 0; run < 200; ++run) {
+    const QByteArray signs[] = {below(3) == 0 ? "-" : "", below(3) == 0 ? "-" : ""};
+    const std::size_t wholes[] = {below(4), 1 + below(4)}, decimals[] = {1 + below(6), below(8)};
+    const char* const end = below(4) == 0 ? "\r\n" : "\n";
+    for (std::size_t line = below(40); line > 0; --line)
+      bytes += signs[0] + digits(wholes[0]) + '.' + digits(decimals[0]) + ' ' + signs[1] + digits(wholes[1]) +
+               '.' + digits(decimals[1]) + end;
+    if (below(2) == 0) bytes += others[below(std::size(others))];
+  }
+  return bytes + "-2000.0 0.0\n1.5 2.5\n";
+}
+
+TEST(ReadingTest, OutlinesLaidOutInManyWays) {
+  const TestFolder files;
+  for (unsigned seed = 1; seed <= 40; ++seed) {
+    const QByteArray bytes = MixedOutline(seed);
+    files.Put("outline", bytes);
+    const Outline quick = WholeOutline({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    const Outline straight = straight::ReadOutline(files.Path("outline").toStdString());
+    ASSERT_EQ(quick.Latitude, straight.Latitude) << seed;
+    ASSERT_EQ(quick.Longitude, straight.Longitude) << seed;
+    ASSERT_EQ(quick.PenUpBefore, straight.PenUpBefore) << seed;
+    ASSERT_GT(quick.Latitude.size(), 1000U) << seed;
+  }
 }
 
 TEST(ReadingTest, OutlineFiles) {
