@@ -4,7 +4,6 @@
 #include <array>
 #include <cmath>
 #include <future>
-#include <optional>
 #include <vector>
 
 namespace kestrel {
@@ -109,27 +108,46 @@ void VertexJoiner::EndStroke(std::span<const Point> rest) {
   begun_.clear();
 }
 
-void VertexJoiner::Add(const Outline& piece, std::span<Point> points) {
+bool VertexJoiner::GoesOn(std::span<const Point> points) const {
+  if (points.empty()) return true;
+  if (!begun_.empty() && IsLongStep(begun_.back(), points.front())) return false;
+  // All coordinates in a row, without an early end, so that many are looked at together.
+  const float* const coordinates = &points.front().x;
+  int others = 0;
+  for (std::size_t i = 0; i < 2 * points.size(); ++i)
+    others |= int{!(std::abs(coordinates[i]) <= CoordinateLimit)};
+  for (std::size_t i = 2; i < 2 * points.size(); ++i)
+    others |= int{!(std::abs(coordinates[i] - coordinates[i - 2]) <= kLongestStep)};
+  return others == 0;
+}
+
+std::span<const Point> VertexJoiner::Join(std::span<Point> points) {
+  if (GoesOn(points)) return points;
   std::size_t begin = 0;  // of the present stroke
-  auto penUp = piece.PenUpBefore.begin();
   for (std::size_t i = 0; i < points.size(); ++i) {
     const bool placed = std::isfinite(points[i].x) && std::isfinite(points[i].y);
     const Point* const previous = i > begin ? &points[i - 1] : begun_.empty() ? nullptr : &begun_.back();
-    bool lifted = !placed || !previous || IsLongStep(*previous, points[i]);
-    for (; penUp != piece.PenUpBefore.end() && *penUp <= i; ++penUp) lifted = true;
-    if (lifted) {
+    if (!placed || !previous || IsLongStep(*previous, points[i])) {
       EndStroke(points.subspan(begin, i - begin));
       begin = placed ? i : i + 1;
     }
     points[i] = Clamped(points[i]);
   }
-  const std::span<const Point> rest = points.subspan(begin);
+  return points.subspan(begin);
+}
+
+void VertexJoiner::Add(const Outline& piece, std::span<Point> points) {
+  std::size_t begin = 0;
+  for (const std::size_t penUp : piece.PenUpBefore) {
+    EndStroke(Join(points.subspan(begin, penUp - begin)));
+    begin = penUp;
+  }
+  const std::span<const Point> rest = Join(points.subspan(begin));
   begun_.insert(begun_.end(), rest.begin(), rest.end());
-  const bool marked = penUp != piece.PenUpBefore.end();
-  if (!marked && begun_.size() < kLongStroke) return;
-  const std::optional<Point> last = marked || begun_.empty() ? std::nullopt : std::optional(begun_.back());
+  if (begun_.size() < kLongStroke) return;
+  const Point last = begun_.back();
   EndStroke({});
-  if (last) begun_.push_back(*last);
+  begun_.push_back(last);
 }
 
 void VertexJoiner::End() {

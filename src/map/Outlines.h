@@ -35,6 +35,10 @@ class VertexJoiner {
   void End();
 
  private:
+  /// Whether all of the points, between which no mark stands, belong to the stroke begun.
+  bool GoesOn(std::span<const Point> points) const;
+  /// Ends the strokes that end among such points; returns what goes on.
+  std::span<const Point> Join(std::span<Point> points);
   void EndStroke(std::span<const Point> rest);
 
   DrawStroke draw_;
