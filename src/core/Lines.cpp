@@ -31,10 +31,10 @@ std::string_view Cut(std::string_view line) {
   return line.substr(0, length);
 }
 
-/// Whether a CR stands anywhere without an LF behind it. Without an early end, likewise.
+/// Whether a CR stands anywhere without an LF behind it. Without an early end, likewise, from the first on.
 bool HasLoneReturn(std::string_view bytes) {
   unsigned char lone = bytes.ends_with('\r');
-  for (std::size_t i = 1; i < bytes.size(); ++i)
+  for (std::size_t i = Find(bytes, '\r', 0) + 1; i < bytes.size(); ++i)
     lone |= static_cast<unsigned char>(int{bytes[i - 1] == '\r'} & int{bytes[i] != '\n'});
   return lone != 0;
 }

@@ -1,5 +1,6 @@
 #include "data/VertexLayout.h"
 
+#include <bit>
 #include <cstring>
 
 #include "core/EightCharacters.h"
@@ -40,19 +41,13 @@ inline float VertexLayout::Fraction::Read(const char* line) const {
   return static_cast<float>(static_cast<std::int32_t>(digits)) / divisor;
 }
 
-inline VertexLayout::Window VertexLayout::Others(const char* line) {
+inline bool VertexLayout::IsOf(const char* line) const {
   Window characters;
   std::memcpy(&characters, line, sizeof characters);
-  for (Half& half : characters) half &= ~(half - '0' < 10);
-  return characters;
-}
-
-inline bool VertexLayout::IsOf(const char* line) const {
-  const Window others = Others(line);
-  const Half off = ((others[0] ^ others_[0]) & inLine_[0]) | ((others[1] ^ others_[1]) & inLine_[1]);
+  const auto fits = (characters[0] - least_[0] <= range_[0]) & (characters[1] - least_[1] <= range_[1]);
   std::uint64_t words[2];
-  std::memcpy(words, &off, sizeof words);
-  return (words[0] | words[1]) == 0;
+  std::memcpy(words, &fits, sizeof words);
+  return (words[0] & words[1]) == ~std::uint64_t{0};
 }
 
 std::optional<VertexLayout> VertexLayout::Of(std::string_view bytes) {
@@ -69,8 +64,15 @@ std::optional<VertexLayout> VertexLayout::Of(std::string_view bytes) {
   layout.latitude_ = *latitude;
   layout.longitude_ = *longitude;
   layout.lineLength_ = at + 1;
-  layout.others_ = Others(line);
-  std::memset(&layout.inLine_, 0xFF, layout.lineLength_);
+  std::array<std::uint8_t, kWindow> least = {}, range;
+  range.fill(255);
+  for (std::size_t i = 0; i < layout.lineLength_; ++i) {
+    const bool digit = IsDigit(line[i]);
+    least[i] = static_cast<std::uint8_t>(digit ? '0' : line[i]);
+    range[i] = digit ? 9 : 0;
+  }
+  layout.least_ = std::bit_cast<Window>(least);
+  layout.range_ = std::bit_cast<Window>(range);
   return layout;
 }
 

@@ -49,13 +49,12 @@ class VertexLayout {
     float Read(const char* line) const;
   };
 
-  static Window Others(const char* line);
   bool IsOf(const char* line) const;
 
   Fraction latitude_, longitude_;
   std::size_t lineLength_ = 0;
-  Window others_ = {};  // the line's characters that are no digits, 0 in place of those that are
-  Window inLine_ = {};  // all bits set within the line
+  Window least_ = {};  // of the characters that may stand in each place; any may behind the line
+  Window range_ = {};  // how far above
 };
 
 }  // namespace kestrel

@@ -23,6 +23,12 @@ std::uint64_t EightsFromTo(int first, int last) {
   return (~std::uint64_t{0} << first) & (~std::uint64_t{0} >> (63 - last));
 }
 
+/// Whether a point is a place that lines may end at.
+bool IsNear(Point point) {
+  constexpr float kFar = WideLine::Farthest - kBorder;
+  return std::abs(point.x) < kFar && std::abs(point.y) < kFar;
+}
+
 /// Adds a share of a pixel, in 256ths, up to the whole pixel.
 void AddInk(std::uint8_t* pixel, int share) {
   *pixel = static_cast<std::uint8_t>(std::min(*pixel + share, 255));
@@ -47,6 +53,10 @@ void InkMask::Reset(QSize size, int top) {
   fit(ink_, stride_);
   fit(touched_, words_);
   firstTouched_ = rows_;
+  const int lastRow = top_ + rows_ - 1;
+  std::uint8_t* const origin = ink_.data() - top_ * std::ptrdiff_t{stride_};
+  axes_[0] = {0, stride_ - 1, top_, lastRow, origin, 1, stride_};
+  axes_[1] = {top_, lastRow, 0, stride_ - 1, origin, stride_, 1};
 }
 
 void InkMask::Touch(int left, int top, int right, int bottom) {
@@ -62,62 +72,48 @@ void InkMask::Touch(int left, int top, int right, int bottom) {
 }
 
 void InkMask::Ink(const WideLine& line) {
-  const bool steep = line.IsSteep();
-  const int rowsAcross = line.RowsAcross();
-  const int lowestColumn = steep ? top_ : 0;
-  const int highestColumn = steep ? top_ + rows_ - 1 : stride_ - 1;
-  const int lowestRow = steep ? 0 : top_;
-  const int highestRow = (steep ? stride_ : top_ + rows_) - rowsAcross;
-  std::uint8_t* const origin = ink_.data() - top_ * std::ptrdiff_t{stride_};
-  const std::ptrdiff_t alongStep = steep ? stride_ : 1;
-  const std::ptrdiff_t acrossStep = steep ? 1 : stride_;
+  const Axes& axes = axes_[line.IsSteep() ? 1 : 0];
+  const int end = std::min(line.LastColumn(), axes.lastColumn);
+  for (int first = std::max(line.FirstColumn(), axes.firstColumn); first <= end; first += kPiece)
+    InkPiece(line, axes, first, std::min(first + kPiece - 1, end));
+}
 
-  const int endColumn = std::min(line.LastColumn(), highestColumn);
-  for (int piece = std::max(line.FirstColumn(), lowestColumn); piece <= endColumn; piece += kPiece) {
-    const int pieceEnd = std::min(piece + kPiece - 1, endColumn);
-    int low = highestRow + 1, high = -1;
-    for (int column = piece; column <= pieceEnd; ++column) {
-      const WideLine::Place place = line.At(column);
-      const int row = place.Row();
-      if (row < lowestRow || row > highestRow) continue;
-      low = std::min(low, row);
-      high = std::max(high, row);
-      std::uint8_t* pixel = origin + column * alongStep + row * acrossStep;
-      int room = 256 - place.InRow();
-      int left = line.Across();
-      // Pixels that the line does not reach are given nothing, which is quicker than to ask.
-      for (int k = 0; k < rowsAcross; ++k, pixel += acrossStep, room = 256) {
-        const int covered = std::min(room, left);
-        left -= covered;
-        AddInk(pixel, (covered * place.Share + 128) >> 8);
-      }
+void InkMask::InkPiece(const WideLine& line, const Axes& axes, int first, int last) {
+  const int rowsAcross = line.RowsAcross();
+  const int highestRow = axes.lastRow - rowsAcross + 1;
+  const int rowAtFirst = line.At(first).Row, rowAtLast = line.At(last).Row;
+  const int low = std::min(rowAtFirst, rowAtLast), high = std::max(rowAtFirst, rowAtLast);
+  if (high < axes.firstRow || low > highestRow) return;
+  const bool whole = low >= axes.firstRow && high <= highestRow;
+  std::uint8_t* column = axes.origin + first * axes.alongStep;
+  for (int i = first; i <= last; ++i, column += axes.alongStep) {
+    const WideLine::Place place = line.At(i);
+    if (!whole && (place.Row < axes.firstRow || place.Row > highestRow)) continue;
+    std::uint8_t* pixel = column + place.Row * axes.acrossStep;
+    int room = 256 - place.InRow;
+    int left = line.Across();
+    // Pixels that the line does not reach are given nothing, which is quicker than to ask.
+    for (int k = 0; k < rowsAcross; ++k, pixel += axes.acrossStep, room = 256) {
+      const int covered = std::min(room, left);
+      left -= covered;
+      AddInk(pixel, (covered * place.Share + 128) >> 8);
     }
-    if (high < 0) continue;
-    high += rowsAcross - 1;
-    if (steep)
-      Touch(low, piece - top_, high, pieceEnd - top_);
-    else
-      Touch(piece, low - top_, pieceEnd, high - top_);
   }
+  const int top = std::max(low, axes.firstRow), bottom = std::min(high, highestRow) + rowsAcross - 1;
+  if (line.IsSteep())
+    Touch(top, first - top_, bottom, last - top_);
+  else
+    Touch(first, top - top_, last, bottom - top_);
 }
 
 void InkMask::AddPolyline(std::span<const Point> points, float width) {
-  if (points.size() < 2) return;
-  const auto line = [&](std::size_t i) {
-    const Point from = points[i], to = points[i + 1];
-    return WideLine({from.x + kBorder, from.y + kBorder}, {to.x + kBorder, to.y + kBorder}, width);
-  };
-  const auto isBeside = [&](std::size_t i) {
-    const auto [upper, lower] = std::minmax(points[i].y, points[i + 1].y);
-    return lower < static_cast<float>(top_ - kBorder) || upper > static_cast<float>(top_ + height_ + kBorder);
-  };
-  // Each line is worked out before the one in front of it is inked, so that its divisions and root are done
-  // by the time they are needed.
-  WideLine next = line(0);
-  for (std::size_t i = 0; i + 1 < points.size(); ++i) {
-    const WideLine present = next;
-    if (i + 2 < points.size()) next = line(i + 1);
-    if (present.IsLine() && !isBeside(i)) Ink(present);
+  const auto upper = static_cast<float>(top_ - kBorder);
+  const auto lower = static_cast<float>(top_ + height_ + kBorder);
+  for (std::size_t i = 1; i < points.size(); ++i) {
+    const Point from = points[i - 1], to = points[i];
+    const bool beside = (from.y < upper && to.y < upper) || (from.y > lower && to.y > lower);
+    if (beside || from == to || !IsNear(from) || !IsNear(to)) continue;
+    Ink(WideLine({from.x + kBorder, from.y + kBorder}, {to.x + kBorder, to.y + kBorder}, width));
   }
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QImage>
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <vector>
@@ -46,7 +48,16 @@ class InkMask {
   void Lay(QRgb color, QImage& image);
 
  private:
+  /// The columns of a line that the mask holds, the rows of one, and how far in memory it is to the next.
+  struct Axes {
+    int firstColumn, lastColumn, firstRow, lastRow;
+    std::uint8_t* origin;  // of column and row 0
+    std::ptrdiff_t alongStep, acrossStep;
+  };
+
   void Ink(const WideLine& line);
+  /// The columns from one to another, both of which the mask holds.
+  void InkPiece(const WideLine& line, const Axes& axes, int first, int last);
   /// The marks of a word of a row.
   std::uint64_t& Touched(int row, int word) {
     return touched_[static_cast<std::size_t>(row) * static_cast<std::size_t>(words_) +
@@ -58,9 +69,10 @@ class InkMask {
   void LayWord(QRgb color, int row, int word, std::uint64_t eights, QRgb* line);
 
   int width_ = 0, height_ = 0, top_ = 0;
-  int rows_ = 0;    // held, those of the border included
-  int stride_ = 0;  // of the rows, in pixels
-  int words_ = 0;   // of touched_, for each row
+  int rows_ = 0;                   // held, those of the border included
+  int stride_ = 0;                 // of the rows, in pixels
+  int words_ = 0;                  // of touched_, for each row
+  std::array<Axes, 2> axes_ = {};  // of lines that are not steep and of those that are
   std::vector<std::uint8_t> ink_;
   std::vector<std::uint64_t> touched_;       // by row, a bit for each eight pixels
   int firstTouched_ = 0, lastTouched_ = -1;  // rows

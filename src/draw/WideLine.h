@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <cstdint>
 
@@ -10,100 +11,73 @@ namespace kestrel {
 
 /// A straight line of a width, in pixels, as InkMask inks it: column by column, or row by row when it is
 /// steep. What is said of columns and the rows of one holds for rows and the columns of one then.
+///
+/// Lines are short and run in any direction, so that hardly any choice about them can be foreseen; it is all
+/// reckoned without one.
 class WideLine {
  public:
   /// Wider lines are drawn so wide.
   static constexpr float Widest = 30;
+  /// No coordinate of a line is as large.
+  static constexpr float Farthest = 1 << 21;
 
-  /// Where the line lies in a column.
+  /// Where the line's lower edge lies in a column, and how much of the column the line reaches.
   struct Place {
-    /// Its lower edge, in parts of a pixel fine enough for the longest line.
-    std::int64_t Edge = 0;
-    /// How much of the column it reaches, in 256ths.
-    int Share = 0;
-
-    int Row() const { return static_cast<int>(Edge >> kEdgeBits); }
-    /// How far the edge lies in its row, in 256ths.
-    int InRow() const { return static_cast<int>(Edge >> (kEdgeBits - 8) & 255); }
+    int Row;
+    int InRow;  // 256ths
+    int Share;  // 256ths
   };
 
-  /// A line of no length, or one that is nowhere near or no number, is none.
+  /// REQUIRES: the ends differ and lie nearer than Farthest.
   WideLine(Point from, Point to, float width) {
-    const Ends ends(from, to);
-    if (!ends.AreNear() || !(ends.End > ends.Begin)) return;
-    const float slope = (ends.MinorEnd - ends.Minor) / (ends.End - ends.Begin);
+    steep_ = std::abs(to.y - from.y) > std::abs(to.x - from.x);
+    const Point a = Along(from), b = Along(to);
+    begin_ = In256ths(std::min(a.x, b.x));
+    end_ = In256ths(std::max(a.x, b.x));
+    const float slope = (b.y - a.y) / (b.x - a.x);
     // A line of one pixel is one pixel wide along the axis, whatever its slope: as crisp as can be.
     const float across = width <= 1 ? width : std::min(width, Widest) * std::sqrt(1 + slope * slope);
-    const auto edgeAt = [&](float place) {
-      return static_cast<std::int64_t>((ends.Minor + (double{place} - ends.Begin) * slope - across / 2) *
-                                       kEdgeUnit);
-    };
-    const auto placeAtEnd = [&](int column) -> Place {
-      const float left = std::max(ends.Begin, static_cast<float>(column));
-      const float right = std::min(ends.End, static_cast<float>(column + 1));
-      // NOLINTNEXTLINE(bugprone-incorrect-roundings): never negative, and run for both ends of every line.
-      return {edgeAt((left + right) / 2), static_cast<int>((right - left) * 256 + 0.5F)};
-    };
-    isLine_ = true;
-    steep_ = ends.Steep;
-    first_ = static_cast<int>(std::floor(ends.Begin));
-    last_ = static_cast<int>(std::floor(ends.End));
-    atFirst_ = placeAtEnd(first_);
-    atLast_ = placeAtEnd(last_);
-    inFirst_ = edgeAt(static_cast<float>(first_) + 0.5F);
-    step_ = static_cast<std::int64_t>(double{slope} * kEdgeUnit);
     across_ = static_cast<int>(across * 256);
+    slope_ = static_cast<std::int64_t>(double{slope} * kUnit / 512);
+    const double atBegin = a.y + (begin_ * (1.0 / 256) - a.x) * slope - across * 0.5;
+    edge_ = static_cast<std::int64_t>(atBegin * kUnit) - slope_ * 2 * begin_;
   }
 
-  bool IsLine() const { return isLine_; }
   bool IsSteep() const { return steep_; }
-  int FirstColumn() const { return first_; }
-  int LastColumn() const { return last_; }
+  int FirstColumn() const { return begin_ >> 8; }
+  /// Before the first for a line too short to be seen.
+  int LastColumn() const { return (end_ - 1) >> 8; }
   /// How much of a column's rows it covers, in 256ths of a pixel.
   int Across() const { return across_; }
   /// Rows that it may touch in a column.
   int RowsAcross() const { return (across_ + 255) / 256 + 1; }
 
   Place At(int column) const {
-    if (column == first_) return atFirst_;
-    return column == last_ ? atLast_ : Place{inFirst_ + step_ * (column - first_), 256};
+    const int from = std::max(256 * column, begin_);
+    const int to = std::min(256 * column + 256, end_);
+    const std::int64_t edge = edge_ + slope_ * (from + to);  // in the middle of what it reaches
+    return {static_cast<int>(edge >> kUnitBits), static_cast<int>(edge >> (kUnitBits - 8) & 255), to - from};
   }
 
  private:
-  static constexpr int kEdgeBits = 24;
-  static constexpr double kEdgeUnit = 1 << kEdgeBits;
-  static constexpr float kFarthest = 1 << 30;
+  // Parts of a pixel, fine enough for the longest line.
+  static constexpr int kUnitBits = 40;
+  static constexpr double kUnit = std::uint64_t{1} << kUnitBits;
 
-  /// Both ends along the columns and across them, in the order of the columns.
-  struct Ends {
-    bool Steep;
-    float Begin, End;
-    float Minor, MinorEnd;
+  /// The point along the columns and across them.
+  Point Along(Point point) const {
+    return std::bit_cast<Point>(std::rotl(std::bit_cast<std::uint64_t>(point), steep_ ? 32 : 0));
+  }
+  static int In256ths(float place) {
+    constexpr int kAbove = 1 << 29;  // where numbers are cut off downwards
+    return static_cast<int>(double{place} * 256 + (kAbove + 0.5)) - kAbove;
+  }
 
-    Ends(Point from, Point to) : Steep(std::abs(to.y - from.y) > std::abs(to.x - from.x)) {
-      const Point a = Steep ? Point{from.y, from.x} : from;
-      const Point b = Steep ? Point{to.y, to.x} : to;
-      const bool backwards = a.x > b.x;
-      Begin = backwards ? b.x : a.x;
-      End = backwards ? a.x : b.x;
-      Minor = backwards ? b.y : a.y;
-      MinorEnd = backwards ? a.y : b.y;
-    }
-
-    /// Written so that a place that is no number is far away.
-    bool AreNear() const {
-      return std::abs(Begin) < kFarthest && std::abs(End) < kFarthest && std::abs(Minor) < kFarthest &&
-             std::abs(MinorEnd) < kFarthest;
-    }
-  };
-
-  bool isLine_ = false;
-  bool steep_ = false;
-  int first_ = 0, last_ = 0;  // columns
-  Place atFirst_, atLast_;
-  std::int64_t inFirst_ = 0;  // the edge in the middle of the first column, where the line goes on beyond it
-  std::int64_t step_ = 0;     // of the edge, from a column to the next
-  int across_ = 0;
+  bool steep_;
+  int begin_, end_;  // 256ths of a column
+  int across_;
+  std::int64_t edge_;   // where the line goes on to column 0
+  std::int64_t slope_;  // of the edge, for a 512th of a column
 };
 
 }  // namespace kestrel
