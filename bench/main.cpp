@@ -2,9 +2,11 @@
 
 #include "Rows.h"
 #include "Table.h"
+#include "core/FreedMemory.h"
 
 int main(int argc, char** argv) {
   using namespace kestrel::bench;
+  kestrel::KeepFreedMemory();  // as the program does
   qputenv("QT_QPA_PLATFORM", "offscreen");
   int qtArguments = 1;
   const QGuiApplication app(qtArguments, argv);

@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <memory>
 
+#include "core/FreedMemory.h"
 #include "forms/CommandIcons.h"
 #include "forms/frmOpening.h"
 #include "forms/frmPlot.h"
@@ -8,6 +9,7 @@
 
 int main(int argc, char** argv) {
   using namespace kestrel;
+  KeepFreedMemory();
   QApplication app(argc, argv);
   QApplication::setOrganizationName("kestrel");
   QApplication::setApplicationName("kestrel");
