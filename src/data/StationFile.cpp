@@ -24,6 +24,10 @@ bool ReadPlainTower(std::string_view line, std::size_t i, StationRecord& record)
        {&record.Fields[i], &record.Heights[i], &record.Phases[i], &record.Spacings[i], &record.Bearings[i]}) {
     if (at == end || *at != ',') return false;
     if (++at != end && *at == ' ') ++at;
+    if (at != end && IsDigit(*at) && (at + 1 == end || at[1] == ',')) {  // as most are
+      *number = static_cast<float>(*at++ - '0');
+      continue;
+    }
     double value = 0;
     at = ReadPlainNumber(at, end, value);
     if (!at) return false;
@@ -38,6 +42,7 @@ double StationLine::Number(std::string_view field) const {
   const char* begin = field.data();
   const char* const end = begin + field.size();
   if (begin != end && *begin == ' ') ++begin;
+  if (end - begin == 1 && IsDigit(*begin)) return *begin - '0';  // as nearly all tower counts are
   double plain = 0;
   // Nearly all end with their field; where the line goes on behind it, no care need be taken of its end.
   return begin != end && ReadPlainNumber(begin, LineEnd, plain) == end ? plain : LeadingNumber(field);
