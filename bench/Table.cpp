@@ -97,7 +97,7 @@ void AddNote(const std::string& text) {
 
 void MeasureAndPrint(int argc, char** argv) {
   std::vector<char*> arguments(argv, argv + argc);
-  static char repetitions[] = "--benchmark_repetitions=9";
+  static char repetitions[] = "--benchmark_repetitions=31";
   static char interleaving[] = "--benchmark_enable_random_interleaving=true";
   static char minimum[] = "--benchmark_min_time=0.03";
   arguments.insert(arguments.begin() + 1, {repetitions, interleaving, minimum});

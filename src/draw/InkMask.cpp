@@ -107,8 +107,9 @@ void InkMask::InkPiece(const WideLine& line, const Axes& axes, int first, int la
 }
 
 void InkMask::AddPolyline(std::span<const Point> points, float width) {
-  const auto upper = static_cast<float>(top_ - kBorder);
-  const auto lower = static_cast<float>(top_ + height_ + kBorder);
+  const float reach = std::min(width, WideLine::Widest) + 1;  // of its ink, slanting lines' too
+  const float upper = static_cast<float>(top_) - reach;
+  const float lower = static_cast<float>(top_ + height_) + reach;
   for (std::size_t i = 1; i < points.size(); ++i) {
     const Point from = points[i - 1], to = points[i];
     const bool beside = (from.y < upper && to.y < upper) || (from.y > lower && to.y > lower);

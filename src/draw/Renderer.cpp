@@ -2,6 +2,7 @@
 
 #include <QThreadPool>
 #include <algorithm>
+#include <atomic>
 #include <functional>
 #include <future>
 #include <memory>
@@ -13,12 +14,12 @@
 namespace kestrel {
 namespace {
 
-constexpr std::size_t kLittleToDraw = 100;    // figures, quicker drawn than handed out
+constexpr int kStripsForEach = 2;           // processor; more of them cost more than a better balance brings
+constexpr std::size_t kLittleToDraw = 100;  // figures, quicker drawn than handed out
 constexpr qsizetype kLittleToShow = 500'000;  // pixels, likewise
 
-int StripsFor(const QImage& image, std::size_t figures, int processors) {
-  const bool little = figures < kLittleToDraw || qsizetype{image.width()} * image.height() < kLittleToShow;
-  return little ? 1 : processors;
+bool IsLittle(const QImage& image, std::size_t figures) {
+  return figures < kLittleToDraw || qsizetype{image.width()} * image.height() < kLittleToShow;
 }
 
 /// What of the sheet may leave ink on an image that holds the rows from `top` on.
@@ -59,26 +60,35 @@ class Underway {
 
 Renderer::Renderer(int processors) : processors_(processors > 0 ? processors : ProcessorsToUse()) {}
 
-/// Calls `drawRows(rows, canvas, box)` for each strip, at the same time; lines that do not touch the box do
-/// not show in the strip.
+/// Calls `drawRows(rows, canvas, box)` for each strip, whichever processor is free taking the next; lines
+/// that do not touch the box do not show in the strip.
 template <typename DrawRows>
 void Renderer::DrawStrips(QImage& image, int top, std::size_t figures, const SurfaceRules& rules,
                           DrawRows drawRows) {
-  const int strips = StripsFor(image, figures, processors_);
-  if (tools_.size() < static_cast<std::size_t>(strips)) tools_.resize(static_cast<std::size_t>(strips));
+  const bool little = IsLittle(image, figures);
+  const int processors = little ? 1 : processors_;
+  const int strips = little ? 1 : kStripsForEach * processors;
+  if (tools_.size() < static_cast<std::size_t>(processors))
+    tools_.resize(static_cast<std::size_t>(processors));
   uchar* const pixels = image.bits();
-  const auto drawStrip = [&](int strip) {
+  const auto drawStrip = [&](int strip, DrawingTools& tools) {
     const int first = image.height() * strip / strips;
     const int behind = image.height() * (strip + 1) / strips;
     QImage rows(pixels + first * image.bytesPerLine(), image.width(), behind - first, image.bytesPerLine(),
                 image.format());
-    RasterCanvas canvas(rows, rules, tools_[static_cast<std::size_t>(strip)], top + first);
+    RasterCanvas canvas(rows, rules, tools, top + first);
     drawRows(rows, canvas, BoxOf(rows, top + first, rules.Fit));
     canvas.Finish();
   };
+  std::atomic<int> next = 0;
+  const auto drawStrips = [&](int processor) {
+    DrawingTools& tools = tools_[static_cast<std::size_t>(processor)];
+    for (int strip = next++; strip < strips; strip = next++) drawStrip(strip, tools);
+  };
   Underway others;
-  for (int strip = 1; strip < strips; ++strip) others.Start([&drawStrip, strip] { drawStrip(strip); });
-  drawStrip(0);
+  for (int processor = 1; processor < processors; ++processor)
+    others.Start([&drawStrips, processor] { drawStrips(processor); });
+  drawStrips(0);
   others.Finish();
 }
 

@@ -9,8 +9,8 @@
 
 namespace kestrel {
 
-/// Draws display lists onto images in memory. A large image is drawn in strips, each by a processor of its
-/// own, which come out the same as the whole does. Whoever draws again and again keeps his renderer, and with
+/// Draws display lists onto images in memory. A large image is drawn in strips by several processors,
+/// which come out the same as the whole does. Whoever draws again and again keeps his renderer, and with
 /// it the tools.
 class Renderer {
  public:
@@ -29,7 +29,7 @@ class Renderer {
   void DrawStrips(QImage& image, int top, std::size_t figures, const SurfaceRules& rules, DrawRows drawRows);
 
   const int processors_;
-  std::vector<DrawingTools> tools_;  // of each strip
+  std::vector<DrawingTools> tools_;  // of each processor
 };
 
 }  // namespace kestrel
