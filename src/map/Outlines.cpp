@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <future>
+#include <optional>
 #include <vector>
 
 namespace kestrel {
@@ -86,14 +87,41 @@ std::size_t WhereToCut(std::string_view bytes) {
   return HasShortLines(bytes.substr(cut)) ? bytes.size() : cut;
 }
 
-void DrawFile(Canvas& canvas, const Result<QByteArray>& bytes, ColorValue color,
-              const MapProjection& projection, std::vector<std::string>& notes) {
-  if (!bytes) {
-    if (bytes.error().kind != Error::Kind::NotFound) notes.push_back(bytes.error().Message());
-    return;
+/// An outline whose second half, when it is long, is read by another thread from now on.
+class OutlineInHalves {
+ public:
+  /// The bytes and the projection must outlive it.
+  OutlineInHalves(std::string_view bytes, const MapProjection& projection)
+      : front_(bytes.substr(0, WhereToCut(bytes))), projection_(projection) {
+    if (front_.size() == bytes.size()) return;
+    readingBack_ = std::async([&projection, back = bytes.substr(front_.size())] {
+      KeptStrokes strokes;
+      JoinOutline(back, projection, [&strokes](std::span<const Point> stroke) { strokes.Keep(stroke); });
+      return strokes;
+    });
   }
-  canvas.SetColor(color);
-  DrawOutline(canvas, {bytes->constData(), static_cast<std::size_t>(bytes->size())}, projection);
+
+  void Draw(Canvas& canvas) {
+    const auto draw = [&canvas](std::span<const Point> stroke) { canvas.Polyline(stroke); };
+    const bool ended = JoinOutline(front_, projection_, draw);
+    if (!readingBack_.valid()) return;
+    const KeptStrokes strokes = readingBack_.get();
+    if (!ended) strokes.Draw(canvas);
+  }
+
+ private:
+  std::string_view front_;
+  const MapProjection& projection_;
+  std::future<KeptStrokes> readingBack_;
+};
+
+std::string_view View(const QByteArray& bytes) {
+  return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
+}
+
+/// Adds why a file that is there cannot be read.
+void AddNote(const Result<QByteArray>& file, std::vector<std::string>& notes) {
+  if (!file && file.error().kind != Error::Kind::NotFound) notes.push_back(file.error().Message());
 }
 
 }  // namespace
@@ -155,30 +183,29 @@ void VertexJoiner::End() {
 }
 
 void DrawOutline(Canvas& canvas, std::string_view bytes, const MapProjection& projection) {
-  const std::size_t cut = WhereToCut(bytes);
-  const auto draw = [&canvas](std::span<const Point> stroke) { canvas.Polyline(stroke); };
-  if (cut == bytes.size()) {
-    JoinOutline(bytes, projection, draw);
-    return;
-  }
-  auto readingBack = std::async([&projection, back = bytes.substr(cut)] {
-    KeptStrokes strokes;
-    JoinOutline(back, projection, [&strokes](std::span<const Point> stroke) { strokes.Keep(stroke); });
-    return strokes;
-  });
-  const bool ended = JoinOutline(bytes.substr(0, cut), projection, draw);
-  const KeptStrokes strokes = readingBack.get();
-  if (!ended) strokes.Draw(canvas);
+  OutlineInHalves(bytes, projection).Draw(canvas);
 }
 
 std::vector<std::string> DrawOutlineFiles(Canvas& canvas, const DataFolder& folder,
                                           const MapProjection& projection) {
-  std::vector<std::string> notes;
-  auto readingRegion = std::async([&folder] { return folder.Read("REGION2.dat"); });  // the longer one
+  // The longer one first, so that its second half is read while the states are drawn.
+  const Result<QByteArray> region = folder.Read("REGION2.dat");
+  std::optional<OutlineInHalves> regionOutline;
+  if (region) regionOutline.emplace(View(*region), projection);
+  const Result<QByteArray> states = folder.Read("STATES.dat");
   canvas.SetLineWidth(1);
-  DrawFile(canvas, folder.Read("STATES.dat"), StatesOutlineColor, projection, notes);
+  if (states) {
+    canvas.SetColor(StatesOutlineColor);
+    DrawOutline(canvas, View(*states), projection);
+  }
   DrawHomeMark(canvas);
-  DrawFile(canvas, readingRegion.get(), RegionOutlineColor, projection, notes);
+  if (regionOutline) {
+    canvas.SetColor(RegionOutlineColor);
+    regionOutline->Draw(canvas);
+  }
+  std::vector<std::string> notes;
+  AddNote(states, notes);
+  AddNote(region, notes);
   return notes;
 }
 
