@@ -14,16 +14,16 @@ namespace kestrel {
 /// one blank between them and a line end behind them.
 ///
 /// A coast runs on in short steps, so that nearly every line is laid out as the one before. A comparison of
-/// all that is not a digit finds that out for many lines at once; then nothing in them need be looked for,
-/// and no number waits for the one in front of it. Pen-up and end marks have no layout.
+/// its characters with those that may stand there finds that out; then nothing in it need be looked for, and
+/// no number waits for the one in front of it. Pen-up and end marks have no layout.
 class VertexLayout {
  public:
-  /// The layout of the line at the front of `bytes`; nothing when it is any other line, or so near their end
-  /// that fewer than 32 follow.
+  /// The layout of the line at the front of `bytes`; nothing for any other line, and when the bytes are
+  /// fewer than 32.
   static std::optional<VertexLayout> Of(std::string_view bytes);
 
-  /// How many lines at the front of `bytes` have this layout; at most `most` are counted, and none near the
-  /// end of the bytes, as above.
+  /// How many lines at the front of `bytes` have this layout; at most `most` are counted, and none within
+  /// 32 bytes of their end.
   std::size_t CountLines(std::string_view bytes, std::size_t most) const;
 
   /// The numbers of as many lines as there is room for, degrees. REQUIRES: the lines have this layout.
@@ -44,7 +44,7 @@ class VertexLayout {
     std::uint64_t back = 0;  // its digits behind the point, when those bits have been shifted out
     float divisor = 1;       // a power of ten with the number's sign
 
-    /// Passes over the fraction at `at`, of which no more than ten characters are looked at.
+    /// Passes over the fraction at `at`, of which no more than eleven characters are looked at.
     static std::optional<Fraction> Of(const char* line, std::size_t& at);
     float Read(const char* line) const;
   };

@@ -25,8 +25,7 @@ std::uint64_t EightsFromTo(int first, int last) {
 
 /// Whether a point is a place that lines may end at.
 bool IsNear(Point point) {
-  constexpr float kFar = WideLine::Farthest - kBorder;
-  return std::abs(point.x) < kFar && std::abs(point.y) < kFar;
+  return std::abs(point.x) < WideLine::Farthest && std::abs(point.y) < WideLine::Farthest;
 }
 
 /// Adds a share of a pixel, in 256ths, up to the whole pixel.
@@ -108,13 +107,13 @@ void InkMask::InkPiece(const WideLine& line, const Axes& axes, int first, int la
 
 void InkMask::AddPolyline(std::span<const Point> points, float width) {
   const float reach = std::min(width, WideLine::Widest) + 1;  // of its ink, slanting lines' too
-  const float upper = static_cast<float>(top_) - reach;
-  const float lower = static_cast<float>(top_ + height_) + reach;
+  const float upper = static_cast<float>(top_ + kBorder) - reach;
+  const float lower = static_cast<float>(top_ + kBorder + height_) + reach;
+  const auto inMask = [&](std::size_t i) { return Point{points[i].x + kBorder, points[i].y + kBorder}; };
   for (std::size_t i = 1; i < points.size(); ++i) {
-    const Point from = points[i - 1], to = points[i];
+    const Point from = inMask(i - 1), to = inMask(i);
     const bool beside = (from.y < upper && to.y < upper) || (from.y > lower && to.y > lower);
-    if (beside || from == to || !IsNear(from) || !IsNear(to)) continue;
-    Ink(WideLine({from.x + kBorder, from.y + kBorder}, {to.x + kBorder, to.y + kBorder}, width));
+    if (!beside && from != to && IsNear(from) && IsNear(to)) Ink(WideLine(from, to, width));
   }
 }
 

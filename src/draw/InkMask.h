@@ -28,7 +28,8 @@ namespace kestrel {
 /// nothing else is looked at when the colour is laid.
 ///
 /// Coordinates are those of the whole picture; the mask holds the rows from `top` on, and each pixel comes
-/// out the same whichever rows are held. Any coordinates may be given, also such as are no number.
+/// out the same whichever rows are held. Any coordinates may be given; a line with an end that is no number,
+/// or two million pixels away (WideLine::Farthest), is left out.
 class InkMask {
  public:
   /// Lines farther than so many pixels from the picture leave no ink on it.

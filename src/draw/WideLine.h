@@ -12,8 +12,13 @@ namespace kestrel {
 /// A straight line of a width, in pixels, as InkMask inks it: column by column, or row by row when it is
 /// steep. What is said of columns and the rows of one holds for rows and the columns of one then.
 ///
-/// Lines are short and run in any direction, so that hardly any choice about them can be foreseen; it is all
-/// reckoned without one.
+/// The edge of a line from (x, y) on, of slope m and w wide across the columns, lies at
+///
+///     y + (p - x) m - w / 2
+///
+/// at place p along the columns: in whole numbers, edge_ + 2 p slope_. Lines are short and run in any
+/// direction, so that hardly any choice about them can be foreseen: this holds for the first and the last
+/// column, too, p being the middle of what the line reaches of a column.
 class WideLine {
  public:
   /// Wider lines are drawn so wide.
@@ -45,7 +50,7 @@ class WideLine {
 
   bool IsSteep() const { return steep_; }
   int FirstColumn() const { return begin_ >> 8; }
-  /// Before the first for a line too short to be seen.
+  /// The first or the one before it for a line too short to be seen, which reaches nothing of either.
   int LastColumn() const { return (end_ - 1) >> 8; }
   /// How much of a column's rows it covers, in 256ths of a pixel.
   int Across() const { return across_; }

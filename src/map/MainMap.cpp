@@ -40,16 +40,20 @@ ChannelOutcome PlotChannels(Canvas& canvas, const DataFolder& folder, const Sess
 std::vector<std::string> DrawMainMap(Canvas& canvas, const DataFolder& folder, const SessionState& state,
                                      MapGround ground) {
   const MapProjection projection(state.HomeLatitude, state.HomeLongitude, state.ScaleFactor);
-  // The channels' antennas are reckoned while the outlines, which come first, are read.
-  const NoMeasure measure;
-  DisplayList channels(measure);
-  auto plotting = std::async([&] { return PlotChannels(channels, folder, state, projection); });
   std::vector<std::string> notes;
-  if (ground == MapGround::Empty) notes = DrawOutlineFiles(canvas, folder, projection);
-  const ChannelOutcome outcome = plotting.get();
+  ChannelOutcome outcome;
+  if (ground == MapGround::AsDrawn) {
+    outcome = PlotChannels(canvas, folder, state, projection);
+  } else {
+    // The channels' antennas are reckoned while the outlines, which come first, are read.
+    const NoMeasure measure;
+    DisplayList channels(measure);
+    auto plotting = std::async([&] { return PlotChannels(channels, folder, state, projection); });
+    notes = DrawOutlineFiles(canvas, folder, projection);
+    outcome = plotting.get();
+    channels.Play(canvas);
+  }
   notes.insert(notes.end(), outcome.Notes.begin(), outcome.Notes.end());
-
-  channels.Play(canvas);
   DrawLegend(canvas, state);
   DrawHoursBanner(canvas, state.HoursFilter);
   if (outcome.FileMissing) DrawMissingFileNotice(canvas, state.CurrentFrequency);

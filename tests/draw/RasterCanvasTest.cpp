@@ -209,6 +209,8 @@ TEST(RasterCanvasTest, NothingIsDrawnOutsideThePictureWhateverTheCoordinates) {
                            1e38F,
                            -3.4e38F,
                            6000.5F,
+                           1e-6F,
+                           2e-6F,
                            std::numeric_limits<float>::quiet_NaN(),
                            std::numeric_limits<float>::infinity()};
   std::mt19937 random(11);
