@@ -1,5 +1,6 @@
 #include "map/MainMap.h"
 
+#include <algorithm>
 #include <future>
 
 #include "data/StationFile.h"
@@ -19,17 +20,28 @@ class NoMeasure final : public TextMeasure {
   float TextHeight(const Font&) const override { return 0; }
 };
 
-/// Draws the current channel and its neighbours when they are shown; returns what the current one met, with
-/// the notes of all.
+/// The current channel and its neighbours, when they are shown.
+std::vector<float> ShownChannels(const SessionState& state) {
+  const float current = state.CurrentFrequency;
+  if (state.AdjacentsShown != 1) return {current};
+  return {current, current - ChannelStep, current + ChannelStep};
+}
+
+/// Whether the files are about as long as those of real channels, the longest of which has 50 KB.
+bool AreOrdinary(const std::vector<float>& channels, const DataFolder& folder) {
+  constexpr qint64 kLong = 200'000;
+  return std::all_of(channels.begin(), channels.end(),
+                     [&](float channel) { return folder.Size(StationFileName(channel)) <= kLong; });
+}
+
+/// Returns what the first channel met, with the notes of all.
 ChannelOutcome PlotChannels(Canvas& canvas, const DataFolder& folder, const SessionState& state,
-                            const MapProjection& projection) {
-  ChannelOutcome outcome = PlotChannel(canvas, folder, state, projection, state.CurrentFrequency);
-  if (state.AdjacentsShown != 1) return outcome;
-  for (const float step : {-ChannelStep, ChannelStep}) {
-    const float channel = state.CurrentFrequency + step;
-    const ChannelOutcome adjacent = PlotChannel(canvas, folder, state, projection, channel);
+                            const MapProjection& projection, const std::vector<float>& channels) {
+  ChannelOutcome outcome = PlotChannel(canvas, folder, state, projection, channels.front());
+  for (std::size_t i = 1; i < channels.size(); ++i) {
+    const ChannelOutcome adjacent = PlotChannel(canvas, folder, state, projection, channels[i]);
     // A neighbour without a file is nothing to speak of, one whose file cannot be read is.
-    if (!adjacent.FileMissing || folder.Has(StationFileName(channel)))
+    if (!adjacent.FileMissing || folder.Has(StationFileName(channels[i])))
       outcome.Notes.insert(outcome.Notes.end(), adjacent.Notes.begin(), adjacent.Notes.end());
   }
   return outcome;
@@ -40,18 +52,22 @@ ChannelOutcome PlotChannels(Canvas& canvas, const DataFolder& folder, const Sess
 std::vector<std::string> DrawMainMap(Canvas& canvas, const DataFolder& folder, const SessionState& state,
                                      MapGround ground) {
   const MapProjection projection(state.HomeLatitude, state.HomeLongitude, state.ScaleFactor);
+  const std::vector<float> channels = ShownChannels(state);
+  const auto plot = [&](Canvas& on) { return PlotChannels(on, folder, state, projection, channels); };
   std::vector<std::string> notes;
   ChannelOutcome outcome;
-  if (ground == MapGround::AsDrawn) {
-    outcome = PlotChannels(canvas, folder, state, projection);
-  } else {
-    // The channels' antennas are reckoned while the outlines, which come first, are read.
+  if (ground == MapGround::Empty && AreOrdinary(channels, folder)) {
+    // The channels' antennas are reckoned while the outlines, which come first, are read. For a moment the
+    // channels are in memory twice.
     const NoMeasure measure;
-    DisplayList channels(measure);
-    auto plotting = std::async([&] { return PlotChannels(channels, folder, state, projection); });
+    DisplayList plotted(measure);
+    auto plotting = std::async([&] { return plot(plotted); });
     notes = DrawOutlineFiles(canvas, folder, projection);
     outcome = plotting.get();
-    channels.Play(canvas);
+    plotted.Play(canvas);
+  } else {
+    if (ground == MapGround::Empty) notes = DrawOutlineFiles(canvas, folder, projection);
+    outcome = plot(canvas);
   }
   notes.insert(notes.end(), outcome.Notes.begin(), outcome.Notes.end());
   DrawLegend(canvas, state);
