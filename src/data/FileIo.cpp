@@ -33,22 +33,6 @@ ssize_t ReadAll(int file, ssize_t size, char* bytes) {
   return length;
 }
 
-Result<QByteArray> ReadOpened(int file, const QString& path, qint64 largest) {
-  struct stat status = {};
-  if (fstat(file, &status) != 0) return Failure(path, Error::Kind::Refused, qt_error_string(errno));
-  if (!S_ISREG(status.st_mode)) return NotAFile(path);
-  if (status.st_size > largest)
-    return Failure(path, Error::Kind::TooLarge,
-                   QString("is larger than %1 MB, the most that is read").arg(largest >> 20));
-  QByteArray bytes(status.st_size + 1, Qt::Uninitialized);
-  const ssize_t length = ReadAll(file, status.st_size, bytes.data());
-  if (length < 0) return Failure(path, Error::Kind::Refused, qt_error_string(errno));
-  if (length != status.st_size)
-    return Failure(path, Error::Kind::Refused, "changed while it was read; try again when it is complete");
-  bytes.truncate(length);
-  return bytes;
-}
-
 /// Writes all and waits until it is on the disk, where the system can do so; else false and errno.
 bool WriteThrough(int file, std::string_view bytes) {
   while (!bytes.empty()) {
@@ -61,16 +45,39 @@ bool WriteThrough(int file, std::string_view bytes) {
 
 }  // namespace
 
-Result<QByteArray> ReadFile(const QString& path, qint64 largest) {
+PlainFile::~PlainFile() {
+  if (descriptor_ >= 0) close(descriptor_);
+}
+
+Result<PlainFile> PlainFile::Open(const QString& path, qint64 largest) {
   // Without waiting at a pipe, and without a terminal becoming the program's.
-  const int file = open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
-  if (file < 0) {
+  const int descriptor =
+      open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+  if (descriptor < 0) {
     if (errno == ENOENT || errno == ENOTDIR)
       return Failure(path, Error::Kind::NotFound, "there is no such file");
     return errno == ENXIO ? NotAFile(path) : Failure(path, Error::Kind::Refused, qt_error_string(errno));
   }
-  Result<QByteArray> bytes = ReadOpened(file, path, largest);
-  close(file);
+  struct stat status = {};
+  PlainFile file(descriptor, 0);
+  if (fstat(descriptor, &status) != 0) return Failure(path, Error::Kind::Refused, qt_error_string(errno));
+  if (!S_ISREG(status.st_mode)) return NotAFile(path);
+  if (status.st_size > largest)
+    return Failure(path, Error::Kind::TooLarge,
+                   QString("is larger than %1 MB, the most that is read").arg(largest >> 20));
+  file.size_ = status.st_size;
+  return file;
+}
+
+Result<QByteArray> ReadFile(const QString& path, qint64 largest) {
+  const Result<PlainFile> file = PlainFile::Open(path, largest);
+  if (!file) return file.error();
+  QByteArray bytes(file->Size() + 1, Qt::Uninitialized);
+  const ssize_t length = ReadAll(file->Descriptor(), file->Size(), bytes.data());
+  if (length < 0) return Failure(path, Error::Kind::Refused, qt_error_string(errno));
+  if (length != file->Size())
+    return Failure(path, Error::Kind::Refused, "changed while it was read; try again when it is complete");
+  bytes.truncate(length);
   return bytes;
 }
 

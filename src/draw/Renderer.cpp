@@ -1,14 +1,11 @@
 #include "draw/Renderer.h"
 
-#include <QThreadPool>
-#include <algorithm>
 #include <atomic>
-#include <functional>
-#include <future>
-#include <memory>
-#include <utility>
+#include <exception>
+#include <system_error>
 
 #include "core/Processors.h"
+#include "draw/Helper.h"
 #include "draw/RasterCanvas.h"
 
 namespace kestrel {
@@ -31,32 +28,9 @@ SheetBox BoxOf(const QImage& image, int top, const SheetFit& fit) {
           fit.ToSheet({static_cast<float>(image.width()) + kReach, lower + kReach})};
 }
 
-/// Work under way, waited for however its owner is left.
-class Underway {
- public:
-  ~Underway() {
-    for (const std::future<void>& piece : pieces_) piece.wait();
-  }
-
-  void Start(std::function<void()> work) {
-    // Shared, since the pool copies what it is given.
-    const auto piece = std::make_shared<std::packaged_task<void()>>(std::move(work));
-    pieces_.push_back(piece->get_future());
-    QThreadPool* const processors = QThreadPool::globalInstance();
-    processors->setExpiryTimeout(-1);  // each has made its fonts, which would be made anew
-    processors->start([piece] { (*piece)(); });
-  }
-
-  void Finish() {
-    for (const std::future<void>& piece : pieces_) piece.wait();
-    for (std::future<void>& piece : std::exchange(pieces_, {})) piece.get();
-  }
-
- private:
-  std::vector<std::future<void>> pieces_;
-};
-
 }  // namespace
+
+Renderer::~Renderer() = default;
 
 Renderer::Renderer(int processors) : processors_(processors > 0 ? processors : ProcessorsToUse()) {}
 
@@ -81,15 +55,32 @@ void Renderer::DrawStrips(QImage& image, int top, std::size_t figures, const Sur
     canvas.Finish();
   };
   std::atomic<int> next = 0;
-  const auto drawStrips = [&](int processor) {
-    DrawingTools& tools = tools_[static_cast<std::size_t>(processor)];
+  const auto drawStrips = [&](std::size_t processor) {
+    DrawingTools& tools = tools_[processor];
     for (int strip = next++; strip < strips; strip = next++) drawStrip(strip, tools);
   };
-  Underway others;
-  for (int processor = 1; processor < processors; ++processor)
-    others.Start([&drawStrips, processor] { drawStrips(processor); });
-  drawStrips(0);
-  others.Finish();
+  EngageHelpers(processors - 1);
+  for (std::size_t i = 0; i < helpers_.size() && i + 1 < static_cast<std::size_t>(processors); ++i)
+    helpers_[i]->Begin([&drawStrips, i] { drawStrips(i + 1); });
+  std::exception_ptr thrown;
+  const auto keepThrown = [&thrown](const auto& step) {
+    try {
+      step();
+    } catch (...) {
+      thrown = std::current_exception();
+    }
+  };
+  keepThrown([&] { drawStrips(0); });
+  for (const auto& helper : helpers_) keepThrown([&] { helper->Finish(); });
+  if (thrown) std::rethrow_exception(thrown);
+}
+
+void Renderer::EngageHelpers(int count) {
+  try {
+    while (helpers_.size() < static_cast<std::size_t>(count)) helpers_.push_back(std::make_unique<Helper>());
+  } catch (const std::system_error&) {
+    // The system has no more threads; those there are, and the caller, draw all strips.
+  }
 }
 
 void Renderer::Draw(const DisplayList& list, const SurfaceRules& rules, QImage& image, int top) {

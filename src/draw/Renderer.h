@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QImage>
+#include <memory>
 #include <vector>
 
 #include "draw/DrawingTools.h"
@@ -9,6 +10,8 @@
 
 namespace kestrel {
 
+class Helper;
+
 /// Draws display lists onto images in memory. A large image is drawn in strips by several processors,
 /// which come out the same as the whole does. Whoever draws again and again keeps his renderer, and with
 /// it the tools.
@@ -16,6 +19,7 @@ class Renderer {
  public:
   /// Draws with so many processors; 0: with those of the machine, at most four.
   explicit Renderer(int processors = 0);
+  ~Renderer();
 
   /// Draws the list on white paper. The image, which must be RGB32, holds the rows from `top` on of the
   /// picture that the rules are for.
@@ -28,8 +32,12 @@ class Renderer {
   template <typename DrawRows>
   void DrawStrips(QImage& image, int top, std::size_t figures, const SurfaceRules& rules, DrawRows drawRows);
 
+  /// Has so many threads that help, as far as the system gives them.
+  void EngageHelpers(int count);
+
   const int processors_;
   std::vector<DrawingTools> tools_;  // of each processor
+  std::vector<std::unique_ptr<Helper>> helpers_;
 };
 
 }  // namespace kestrel

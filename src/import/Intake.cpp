@@ -1,9 +1,13 @@
 #include "import/Intake.h"
 
+#include <unistd.h>
+
 #include <QFile>
 #include <QFileInfo>
 #include <algorithm>
+#include <string_view>
 
+#include "data/FileIo.h"
 #include "import/ZipIntake.h"
 
 namespace kestrel {
@@ -11,14 +15,14 @@ namespace {
 
 class FileStream : public ByteStream {
  public:
-  FileStream(const QString& path, std::uint64_t size) : file_(path), left_(size) {}
-
-  bool Open() { return file_.open(QIODevice::ReadOnly | QIODevice::Unbuffered); }
-  std::string SystemsWord() const { return file_.errorString().toStdString(); }
+  /// The file should still be of that size.
+  FileStream(PlainFile file, std::uint64_t size) : left_(size) {
+    file_.open(file.Release(), QIODevice::ReadOnly | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle);
+  }
 
   std::size_t Read(char* to, std::size_t most) override {
     const qint64 count = file_.read(to, static_cast<qint64>(most));
-    if (count < 0) problem_ = "cannot be read to its end: " + SystemsWord();
+    if (count < 0) problem_ = "cannot be read to its end: " + file_.errorString().toStdString();
     const auto got = static_cast<std::uint64_t>(std::max<qint64>(count, 0));
     if (count >= 0 && (got > left_ || (got == 0 && left_ > 0))) problem_ = "changed while it was read";
     left_ -= std::min(got, left_);
@@ -40,32 +44,30 @@ class PlainIntake : public Intake {
   }
 
   Result<std::unique_ptr<ByteStream>> Open(std::size_t) override {
-    auto stream = std::make_unique<FileStream>(path_, parts_.front().size);
-    if (!stream->Open()) return Error{Error::Kind::Refused, parts_.front().name, 0, stream->SystemsWord()};
-    return std::unique_ptr<ByteStream>(std::move(stream));
+    Result<PlainFile> file = PlainFile::Open(path_, LargestImportFile);
+    if (!file) return file.error();
+    return std::unique_ptr<ByteStream>(std::make_unique<FileStream>(std::move(*file), parts_.front().size));
   }
 
  private:
   QString path_;
 };
 
+bool IsZip(const PlainFile& file) {
+  char front[4] = {};
+  if (pread(file.Descriptor(), front, sizeof front, 0) != sizeof front) return false;
+  const std::string_view signature(front, sizeof front);
+  return signature == "PK\x03\x04" || signature == "PK\x05\x06";
+}
+
 }  // namespace
 
 Result<std::unique_ptr<Intake>> OpenIntake(const QString& path, std::uint64_t largest) {
-  const QFileInfo info(path);
-  const std::string name = info.fileName().toStdString();
-  if (!info.exists()) return Error{Error::Kind::NotFound, name, 0, "there is no such file"};
-  if (!info.isFile()) return Error{Error::Kind::NotAFile, name, 0, "is a folder or a device, not a file"};
-  const auto size = static_cast<std::uint64_t>(info.size());
-  if (size > largest)
-    return Error{Error::Kind::TooLarge, name, 0,
-                 "is larger than " + std::to_string(largest >> 20) + " MB, the most that is read"};
-
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly))
-    return Error{Error::Kind::Refused, name, 0, file.errorString().toStdString()};
-  const QByteArray front = file.read(4);
-  if (front == "PK\x03\x04" || front == "PK\x05\x06") return OpenZip(path, name, largest);
+  Result<PlainFile> file = PlainFile::Open(path, static_cast<qint64>(largest));
+  if (!file) return file.error();
+  const std::string name = QFileInfo(path).fileName().toStdString();
+  if (IsZip(*file)) return OpenZip(std::move(*file), name, largest);
+  const auto size = static_cast<std::uint64_t>(file->Size());
   return std::unique_ptr<Intake>(std::make_unique<PlainIntake>(path, name, size));
 }
 

@@ -1,6 +1,5 @@
 #include "import/ZipIntake.h"
 
-#include <QFile>
 #include <algorithm>
 #include <string_view>
 #include <utility>
@@ -108,9 +107,9 @@ Result<std::unique_ptr<ByteStream>> ZipIntake::Open(std::size_t part) {
 
 }  // namespace
 
-Result<std::unique_ptr<Intake>> OpenZip(const QString& path, const std::string& name, std::uint64_t largest) {
+Result<std::unique_ptr<Intake>> OpenZip(PlainFile file, const std::string& name, std::uint64_t largest) {
   int code = 0;
-  Archive archive(zip_open(QFile::encodeName(path).constData(), ZIP_RDONLY, &code));
+  Archive archive(zip_fdopen(file.Descriptor(), 0, &code));
   if (!archive) {
     zip_error_t error;
     zip_error_init_with_code(&error, code);
@@ -118,6 +117,7 @@ Result<std::unique_ptr<Intake>> OpenZip(const QString& path, const std::string& 
     zip_error_fini(&error);
     return Error{Error::Kind::Malformed, name, 0, "a damaged zip: " + problem};
   }
+  file.Release();  // the archive's
   auto intake = std::make_unique<ZipIntake>(std::move(archive));
   if (const Result<Done> listed = intake->List(name, largest); !listed) return listed.error();
   return std::unique_ptr<Intake>(std::move(intake));

@@ -2,9 +2,17 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
+#include <sys/resource.h>
 
+#include <atomic>
+#include <new>
+#include <random>
+#include <system_error>
+#include <thread>
+
+#include "WithoutRights.h"
 #include "draw/Fonts.h"
+#include "draw/Helper.h"
 #include "draw/RasterCanvas.h"
 
 namespace kestrel {
@@ -71,6 +79,37 @@ TEST(RendererTest, APictureInStripsIsTheSameAsTheWhole) {
         EXPECT_EQ(lower, whole.copy(0, kLarge.height() - rows, kLarge.width(), rows)) << rows;
       }
     }
+  }
+}
+
+TEST(RendererTest, ThePictureIsDrawnWithoutThreadsToo) {
+  const PlatformTextMeasure measure;
+  DisplayList list(measure);
+  Scribble(list);
+  QImage alone = Paper(kLarge.height()), image = Paper(kLarge.height());
+  Renderer(1).Draw(list, Rules(1), alone);
+  EXPECT_TRUE(HoldsWithoutRights([&] {
+    const uid_t nobody = geteuid();
+    const rlimit none = {1, 1};
+    if (setresuid(nobody, nobody, nobody) != 0 || setrlimit(RLIMIT_NPROC, &none) != 0) return false;
+    EXPECT_THROW(Helper(), std::system_error);
+    Renderer(4).Draw(list, Rules(1), image);
+    return image == alone && !testing::Test::HasFailure();
+  }));
+}
+
+TEST(RendererTest, WhatAThreadThrowsReachesTheCaller) {
+  Helper helper;
+  for (int round = 0; round < 3; ++round) {
+    std::atomic<bool> begun = false;
+    helper.Begin([&begun] {
+      begun = true;
+      throw std::bad_alloc();
+    });
+    while (!begun) std::this_thread::yield();
+    EXPECT_THROW(helper.Finish(), std::bad_alloc);
+    helper.Begin([] {});
+    helper.Finish();
   }
 }
 

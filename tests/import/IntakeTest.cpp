@@ -119,6 +119,14 @@ TEST_F(IntakeTest, WhatIsNoPlainFileIsRefusedAtOnce) {
     ASSERT_FALSE(intake) << path.toStdString();
     EXPECT_EQ(intake.error().text, words) << path.toStdString();
   }
+  // Nor does a file that has become a pipe since it was looked at.
+  const QString path = Plain("list.txt", ListRow{}.Text());
+  const auto intake = OpenIntake(path);
+  ASSERT_TRUE(intake);
+  ASSERT_TRUE(QFile::remove(path) && QFile::rename(folder_.Path("pipe"), path));
+  const auto stream = (*intake)->Open(0);
+  ASSERT_FALSE(stream);
+  EXPECT_EQ(stream.error().text, noFile);
 }
 
 TEST_F(IntakeTest, AFileWithoutPermissionIsRefusedInWords) {
