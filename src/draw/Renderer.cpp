@@ -1,5 +1,6 @@
 #include "draw/Renderer.h"
 
+#include <algorithm>
 #include <atomic>
 #include <exception>
 #include <system_error>
@@ -60,8 +61,7 @@ void Renderer::DrawStrips(QImage& image, int top, std::size_t figures, const Sur
     for (int strip = next++; strip < strips; strip = next++) drawStrip(strip, tools);
   };
   EngageHelpers(processors - 1);
-  for (std::size_t i = 0; i < helpers_.size() && i + 1 < static_cast<std::size_t>(processors); ++i)
-    helpers_[i]->Begin([&drawStrips, i] { drawStrips(i + 1); });
+  const std::size_t helping = std::min(helpers_.size(), static_cast<std::size_t>(processors - 1));
   std::exception_ptr thrown;
   const auto keepThrown = [&thrown](const auto& step) {
     try {
@@ -70,7 +70,10 @@ void Renderer::DrawStrips(QImage& image, int top, std::size_t figures, const Sur
       thrown = std::current_exception();
     }
   };
-  keepThrown([&] { drawStrips(0); });
+  keepThrown([&] {
+    for (std::size_t i = 0; i < helping; ++i) helpers_[i]->Begin([&drawStrips, i] { drawStrips(i + 1); });
+    drawStrips(0);
+  });
   for (const auto& helper : helpers_) keepThrown([&] { helper->Finish(); });
   if (thrown) std::rethrow_exception(thrown);
 }

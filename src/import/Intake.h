@@ -32,7 +32,7 @@ class Intake {
 
   /// The content of a part, from its front; never more than its size. The intake must outlive the stream,
   /// which has a Problem when the part turns out to be damaged or of another size. Errors: Malformed for an
-  /// entry that is encrypted or cannot be unpacked; Refused.
+  /// entry that is encrypted or cannot be unpacked; OpenIntake's for a plain file that changed meanwhile.
   virtual Result<std::unique_ptr<ByteStream>> Open(std::size_t part) = 0;
 
  protected:
