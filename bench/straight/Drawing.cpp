@@ -56,7 +56,7 @@ class Plot {
     std::set<std::string> labelled;
     PatternValues values{};
     while (StationRecord* record = reader.Next()) {
-      if (!PassesHoursFilter(record->HoursCode, state_.HoursFilter)) continue;
+      if (!Passes(HoursOf(record->HoursCode), state_.HoursFilter)) continue;
       const Point at = Station(*record);
       const ColorValue color = Color(channel, record->HoursCode);
       const bool adjacent = state_.AdjacentsShown == 1 && channel != state_.SelectedFrequency;

@@ -13,7 +13,7 @@ namespace {
 struct View {
   bool Adjacents = false;
   bool Compass = false;
-  std::int16_t HoursFilter = 0;
+  kestrel::HoursFilter HoursFilter = kestrel::HoursFilter::All;
 };
 
 void DrawMap(const Request& request, const View& view) {
@@ -46,7 +46,9 @@ void AddMapCommand(CLI::App& app, Request& request) {
   const auto storeHours = [view](const std::string& given) {
     if (given != "all" && given != "day" && given != "night")
       throw WrongUse("--hours " + given + ": give all, day or night");
-    view->HoursFilter = given == "day" ? 1 : given == "night" ? 2 : 0;
+    view->HoursFilter = given == "day"     ? HoursFilter::Day
+                        : given == "night" ? HoursFilter::Night
+                                           : HoursFilter::All;
   };
   command.add_option_function<std::string>("--hours", storeHours, "all, day or night [all]")
       ->type_name("HOURS");

@@ -5,6 +5,7 @@
 #include "cli/Json.h"
 #include "cli/Options.h"
 #include "cli/Table.h"
+#include "core/Hours.h"
 #include "core/Numbers.h"
 #include "core/Text.h"
 #include "pattern/Pattern.h"
@@ -134,8 +135,7 @@ void AddPatternCommand(CLI::App& app, Request& request) {
   AddFrequency(command, request);
   AddText(command, "--call", sought->CallSign, "the station's call sign")->type_name("CALL")->required();
   const auto storeHours = [sought](const std::string& given) {
-    if (given != "D" && given != "N" && given != "C" && given != "U")
-      throw WrongUse("--hours " + given + ": give D, N, C or U");
+    if (HoursOf(given) == Hours::Other) throw WrongUse("--hours " + given + ": give D, N, C or U");
     sought->HoursCode = given;
   };
   command.add_option_function<std::string>("--hours", storeHours, "one hours code only: D, N, C or U")

@@ -35,7 +35,7 @@ void ForEachValue(const SessionState& state, Text text, Number number, Whole who
   number("PreviousFrequency", state.PreviousFrequency);
   number("SelectedFrequency", state.SelectedFrequency);
   whole("AdjacentsShown", state.AdjacentsShown);
-  whole("HoursFilter", state.HoursFilter);
+  whole("HoursFilter", static_cast<int>(state.HoursFilter));
   whole("CompassShown", state.CompassShown);
   whole("PlotAllStations", state.PlotAllStations);
 }

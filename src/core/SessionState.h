@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "core/Hours.h"
+
 namespace kestrel {
 
 /// A colour as 0x00BBGGRR: 255 is red, 16711680 blue, 16777215 white.
@@ -37,13 +39,13 @@ struct SessionState {
   std::string SessionFileName = "Kestrel.CFG";
   float PreviousFrequency = 0;  ///< kHz, what a bad entry falls back to
   float SelectedFrequency = 0;  ///< kHz, the channel drawn in the colours of its hours; 0: none chosen yet
-  std::int16_t AdjacentsShown = 0;    ///< 1 when the first adjacent channels are drawn too
-  std::int16_t HoursFilter = 0;       ///< 0 all, 1 day and critical, 2 night and critical
-  std::int16_t CompassShown = 0;      ///< 1 when the compass is drawn over the map
-  std::int16_t PlotAllStations = 0;   ///< 1 when the whole-band scan was chosen
-  bool StopRequested = true;          ///< false only while the whole-band scan runs
-  std::string LookupCallSign;         ///< what the station lookup searched for last
-  std::string RememberedCallSign;     ///< the last search text that was not empty; offered at the next opening
+  std::int16_t AdjacentsShown = 0;  ///< 1 when the first adjacent channels are drawn too
+  kestrel::HoursFilter HoursFilter = kestrel::HoursFilter::All;
+  std::int16_t CompassShown = 0;     ///< 1 when the compass is drawn over the map
+  std::int16_t PlotAllStations = 0;  ///< 1 when the whole-band scan was chosen
+  bool StopRequested = true;         ///< false only while the whole-band scan runs
+  std::string LookupCallSign;        ///< what the station lookup searched for last
+  std::string RememberedCallSign;    ///< the last search text that was not empty; offered at the next opening
   std::vector<std::string> CityList;  ///< lines of "Kestrel.lst"
   std::vector<std::string> CallList;  ///< lines of "StationsCall.DAT"
 };

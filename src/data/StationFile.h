@@ -27,7 +27,7 @@ struct StationRecord {
   std::string City;
   std::string State;
   std::string Country;
-  std::string HoursCode;  ///< "D", "N", "C" or "U", compared exactly
+  std::string HoursCode;  ///< what HoursOf reads
   float Latitude = 0;     ///< degrees, north positive
   float Longitude = 0;    ///< degrees, WEST positive
   float PowerKW = 0;

@@ -167,8 +167,7 @@ void frmPlot::AdjustAspect() {
 }
 
 void frmPlot::NextHoursFilter() {
-  std::int16_t& filter = workspace_.State.HoursFilter;
-  filter = static_cast<std::int16_t>(filter >= 2 ? 0 : filter + 1);
+  workspace_.State.HoursFilter = Next(workspace_.State.HoursFilter);
   Redraw();
 }
 

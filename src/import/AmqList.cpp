@@ -45,12 +45,13 @@ bool IsEnded(std::string_view status) {
   return status == "CNL" || status == "EXP" || status == "DEL";
 }
 
-std::optional<char> HoursCode(std::string_view period) {
-  if (period == "Daytime") return 'D';
-  if (period == "Nighttime") return 'N';
-  if (period == "Unlimited") return 'U';
-  if (period == "Critical Hours") return 'C';
-  return std::nullopt;
+/// By the words of the list, which are not the program's own.
+Hours HoursOfPeriod(std::string_view period) {
+  if (period == "Daytime") return Hours::Daytime;
+  if (period == "Nighttime") return Hours::Nighttime;
+  if (period == "Unlimited") return Hours::Unlimited;
+  if (period == "Critical Hours") return Hours::Critical;
+  return Hours::Other;
 }
 
 std::string Quoted(std::string_view text) {
@@ -103,12 +104,11 @@ std::optional<Fault> Reader::Add(std::string_view line, bool cut, RowPlace row) 
 std::optional<Fault> Reader::ReadStatus(Station& station) {
   const auto* const status = std::find(kStatuses.begin(), kStatuses.end(), fields_[kStatus]);
   if (status == kStatuses.end()) return Fault{Finding::BadField, "status " + Quoted(fields_[kStatus])};
-  const std::optional<char> hours = HoursCode(fields_[kPeriod]);
-  if (!hours) return Fault{Finding::BadField, "hours " + Quoted(fields_[kPeriod])};
+  station.hours = HoursOfPeriod(fields_[kPeriod]);
+  if (station.hours == Hours::Other) return Fault{Finding::BadField, "hours " + Quoted(fields_[kPeriod])};
   const std::optional<FacilityId> facility = ReadFacilityId(fields_[kFacility]);
   if (!facility) return Fault{Finding::BadField, "facility " + Quoted(fields_[kFacility])};
   station.facility = *facility;
-  station.hours = *hours;
   const std::string_view country = CountryCode(fields_[kCountry]);
   const std::string callSign = UpperCase(MendedName(fields_[kCall]));
   station.names = StationNames(callSign, MendedName(fields_[kCity]), MendedName(fields_[kState]), country);

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/Hours.h"
 #include "import/ImportOptions.h"
 #include "import/ImportReport.h"
 #include "import/LineStream.h"
@@ -15,7 +16,7 @@
 namespace kestrel {
 
 /// A facility and its hours of operation.
-using FacilityHours = std::pair<FacilityId, char>;
+using FacilityHours = std::pair<FacilityId, Hours>;
 
 /// What the lists said, all of them together, in the order read.
 struct AmqStations {

@@ -69,9 +69,9 @@ void ReadAntennaSystem(TableRow& row, bool current, AntennaTables& tables, Impor
     row.LeaveOut(Finding::OtherHours, "antenna system " + id + ", hours " + std::string(hours));
     return withdraw();
   }
-  if (hours.size() != 1 || std::string_view("UDNCR").find(hours) == std::string_view::npos)
-    row.Fail("hours_operation");
-  system.hours = hours == "R" ? 'C' : row.Letter("hours_operation");
+  // "R", restricted hours abroad, are critical ones here.
+  system.hours = hours == "R" ? Hours::Critical : HoursOf(hours);
+  if (system.hours == Hours::Other) row.Fail("hours_operation");
   system.domesticStatus = row.Letter("am_dom_status");
   system.directional = row.Letter("ant_dir_ind") == 'Y';
   system.towerCount = static_cast<std::int16_t>(row.Number("tower_count", 0, 1000).value_or(0));

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/Hours.h"
 #include "import/ImportReport.h"
 #include "import/KeyedRows.h"
 #include "import/LineStream.h"
@@ -30,10 +31,10 @@ struct AntennaSystem {
   SitePosition position;
   double powerKW = 0;           ///< 0 to 1e6; no more than 10000 is taken
   std::int16_t towerCount = 0;  ///< announced, 0 to 1000
-  char hours = 'U';             ///< D, N, C or U
-  char domesticStatus = 0;      ///< L licensed, C permit, ...; 0 abroad
-  bool directional = false;     ///< as the record says; its towers may tell more
-  bool current = false;         ///< of the current system: licensed unless its facility says otherwise
+  Hours hours = Hours::Unlimited;
+  char domesticStatus = 0;   ///< L licensed, C permit, ...; 0 abroad
+  bool directional = false;  ///< as the record says; its towers may tell more
+  bool current = false;      ///< of the current system: licensed unless its facility says otherwise
 };
 
 /// A row of am_towers.

@@ -51,8 +51,9 @@ void ForEachSite(const Stations& stations, Each each) {
     Site site{at->station};
     for (const auto key = at->Key(); at != antennas.end() && at->Key() == key; ++at) {
       site.powerKW = std::max(site.powerKW, at->station->powerKW);
-      const auto hours = std::find(site.hours.begin(), site.hours.end() - 1, at->station->hours);
-      if (hours == site.hours.end() - 1) *std::find(site.hours.begin(), hours, '\0') = at->station->hours;
+      const char letter = HoursLetter(at->station->hours);
+      const auto hours = std::find(site.hours.begin(), site.hours.end() - 1, letter);
+      if (hours == site.hours.end() - 1) *std::find(site.hours.begin(), hours, '\0') = letter;
     }
     each(site);
   }

@@ -16,7 +16,8 @@ namespace kestrel {
 namespace {
 
 std::string Named(const Station& station) {
-  return std::string(station.names.CallSign()) + ' ' + std::to_string(station.channel) + ' ' + station.hours;
+  return std::string(station.names.CallSign()) + ' ' + std::to_string(station.channel) + ' ' +
+         HoursLetter(station.hours);
 }
 
 /// Whether row `a` counts rather than row `b` of the same station and hours.
@@ -26,8 +27,9 @@ bool IsPreferred(const Station& a, const Station& b) {
 }
 
 /// Hours that cannot both be: unlimited holds day and night.
-bool Overlap(char a, char b) {
-  return (a == 'U' && (b == 'D' || b == 'N')) || (b == 'U' && (a == 'D' || a == 'N'));
+bool Overlap(Hours a, Hours b) {
+  const auto half = [](Hours hours) { return hours == Hours::Daytime || hours == Hours::Nighttime; };
+  return (a == Hours::Unlimited && half(b)) || (b == Hours::Unlimited && half(a));
 }
 
 /// The stations by their places in the deque, in the order of `less`.
@@ -214,13 +216,12 @@ class TableOnly {
 /// A station's records stand together, by day, by night, in critical hours: those of a facility whatever
 /// their towns, those without a facility by their towns.
 bool InOrder(const Station& a, const Station& b) {
-  constexpr std::string_view kHours = "DNCU";
   const auto station = [](const Station& s) {
     return std::tuple(s.channel, s.names.CallSign(), s.names.Country(), s.facility);
   };
   const auto town = [](const Station& s) { return std::tuple(s.names.State(), s.names.City()); };
   const auto record = [&](const Station& s) {
-    return std::tuple(kHours.find(s.hours), s.position.latitude, s.position.longitude);
+    return std::tuple(s.hours, s.position.latitude, s.position.longitude);
   };
   if (station(a) != station(b)) return station(a) < station(b);
   if (a.facility == 0 && town(a) != town(b)) return town(a) < town(b);

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/Hours.h"
 #include "import/ImportReport.h"
 #include "import/PackedTexts.h"
 #include "import/SitePosition.h"
@@ -55,8 +56,8 @@ struct Station {
   StationNames names;
   RowPlace row;  ///< that it comes from
   FacilityId facility = 0;
-  std::int16_t channel = 0;         ///< kHz, on the raster of the Americas
-  char hours = 'U';                 ///< D, N, C or U
+  std::int16_t channel = 0;  ///< kHz, on the raster of the Americas
+  Hours hours = Hours::Unlimited;
   std::uint8_t preference : 6 = 0;  ///< of the status: the lower, the better
   bool permit : 1 = false;          ///< not yet licensed (US)
   bool directional : 1 = false;

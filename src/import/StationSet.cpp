@@ -23,7 +23,7 @@ StationRecord ToRecord(const Station& station) {
   record.State = station.names.State();
   record.Country = CountryName(station.names.Country());
   if (record.Country.empty()) record.Country = station.names.Country();
-  record.HoursCode = station.hours;
+  record.HoursCode = HoursLetter(station.hours);
   record.Latitude = static_cast<float>(station.position.latitude);
   record.Longitude = static_cast<float>(station.position.longitude);
   record.PowerKW = static_cast<float>(station.powerKW);

@@ -20,7 +20,8 @@ std::string Named(const AntennaSystem& system) {
 
 /// "WAAA D", or with a fault "WAAA D, 2 of 3 towers".
 std::string Named(const Station& station, const std::string& fault) {
-  return std::string(station.names.CallSign()) + ' ' + station.hours + (fault.empty() ? "" : ", " + fault);
+  return std::string(station.names.CallSign()) + ' ' + HoursLetter(station.hours) +
+         (fault.empty() ? "" : ", " + fault);
 }
 
 }  // namespace
@@ -72,7 +73,7 @@ void TableStations::BuildIndexes() {
     if (systems_[i].station) byCall_.push_back(i);
   }
   std::stable_sort(byFacility_.begin(), byFacility_.end(),
-                   [this](auto a, auto b) { return systems_[a].Hours() < systems_[b].Hours(); });
+                   [this](auto a, auto b) { return systems_[a].Key() < systems_[b].Key(); });
   std::stable_sort(byCall_.begin(), byCall_.end(),
                    [this](auto a, auto b) { return systems_[a].Call() < systems_[b].Call(); });
 }
@@ -88,19 +89,20 @@ std::optional<TableStations::Standing> TableStations::StandingOf(const AntennaSy
   return std::nullopt;
 }
 
-std::optional<std::size_t> TableStations::Find(FacilityId facility, char hours, bool permit) const {
+std::optional<std::size_t> TableStations::Find(FacilityId facility, Hours hours, bool permit) const {
   const FacilityHours key(facility, hours);
   std::optional<std::size_t> found;
   auto at = std::lower_bound(byFacility_.begin(), byFacility_.end(), key,
-                             [this](auto i, const auto& wanted) { return systems_[i].Hours() < wanted; });
-  for (; at != byFacility_.end() && systems_[*at].Hours() == key; ++at)
+                             [this](auto i, const auto& wanted) { return systems_[i].Key() < wanted; });
+  for (; at != byFacility_.end() && systems_[*at].Key() == key; ++at)
     if ((systems_[*at].standing == Standing::Permit) == permit) found = *at;
   return found;
 }
 
 std::optional<std::size_t> TableStations::FindByCall(const Station& station,
                                                      const std::vector<FacilityId>& others) const {
-  const std::tuple<std::string_view, int, char> key(station.names.CallSign(), station.channel, station.hours);
+  const std::tuple<std::string_view, int, Hours> key(station.names.CallSign(), station.channel,
+                                                     station.hours);
   std::optional<std::size_t> found;
   auto at = std::lower_bound(byCall_.begin(), byCall_.end(), key,
                              [this](auto i, const auto& wanted) { return systems_[i].Call() < wanted; });

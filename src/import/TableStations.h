@@ -30,7 +30,7 @@ class TableStations {
   TableStations(const AntennaTables& tables, const ImportOptions& options, ImportReport& report);
 
   /// Index of the antenna record of this facility and these hours, licensed or permit as asked, or nothing.
-  std::optional<std::size_t> Find(FacilityId facility, char hours, bool permit) const;
+  std::optional<std::size_t> Find(FacilityId facility, Hours hours, bool permit) const;
   /// The same by call sign, channel and hours: only when one facility alone has them, and none of `others`,
   /// which are sorted.
   std::optional<std::size_t> FindByCall(const Station& station, const std::vector<FacilityId>& others) const;
@@ -63,8 +63,8 @@ class TableStations {
     bool used = false;
     bool hasTowers = false;  ///< its tower rows are accounted for
 
-    FacilityHours Hours() const { return {facility, row->hours}; }
-    std::tuple<std::string_view, int, char> Call() const {
+    FacilityHours Key() const { return {facility, row->hours}; }
+    std::tuple<std::string_view, int, Hours> Call() const {
       return {station->names.CallSign(), static_cast<int>(station->frequency), row->hours};
     }
   };

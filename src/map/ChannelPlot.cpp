@@ -5,6 +5,7 @@
 #include <unordered_set>
 
 #include "core/Geodesy.h"
+#include "core/Hours.h"
 #include "core/Numbers.h"
 #include "data/StationFile.h"
 
@@ -57,11 +58,12 @@ class ChannelPlotter {
   }
 
   void Draw(StationRecord& record) {
-    if (!PassesHoursFilter(record.HoursCode, state_.HoursFilter)) return;
+    const Hours hours = HoursOf(record.HoursCode);
+    if (!Passes(hours, state_.HoursFilter)) return;
     const std::optional<Point> at = projection_.Station(record.Latitude, record.Longitude);
     if (!at) return;
     const bool known = record.TowerCount > 0 && ComputePattern(record, values_);
-    ChooseStyle(record.HoursCode);
+    ChooseStyle(hours);
 
     canvas_.BeginStation({*at, static_cast<int>(plotFrequency_), record.CallSign, record.HoursCode});
     canvas_.SetColor(style_.Color);
@@ -77,18 +79,25 @@ class ChannelPlotter {
   }
 
  private:
-  /// An hours code that is none of the four keeps the colour of the record before it.
-  void ChooseStyle(const std::string& hoursCode) {
-    if (hoursCode == "N")
-      style_ = {state_.NightColor, 0.96F};
-    else if (hoursCode == "C")
-      style_ = {state_.CriticalColor, 0.98F};
-    else if (hoursCode == "D")
-      style_ = {state_.DayColor, 1.0F};
-    else if (hoursCode == "U")
-      style_ = {state_.UnlimitedColor, 1.02F};
-    else
-      style_.Factor = 0;
+  /// Hours that are none of the four keep the colour of the record before it.
+  void ChooseStyle(Hours hours) {
+    switch (hours) {
+      case Hours::Daytime:
+        style_ = {state_.DayColor, 1.0F};
+        break;
+      case Hours::Nighttime:
+        style_ = {state_.NightColor, 0.96F};
+        break;
+      case Hours::Critical:
+        style_ = {state_.CriticalColor, 0.98F};
+        break;
+      case Hours::Unlimited:
+        style_ = {state_.UnlimitedColor, 1.02F};
+        break;
+      case Hours::Other:
+        style_.Factor = 0;
+        break;
+    }
     if (adjacent_) style_.Color = state_.AdjacentColor;
   }
 
@@ -113,13 +122,6 @@ class ChannelPlotter {
 };
 
 }  // namespace
-
-bool PassesHoursFilter(const std::string& hoursCode, int hoursFilter) {
-  if (hoursCode == "U" || hoursFilter == 0) return true;
-  if (hoursFilter == 1) return hoursCode == "D" || hoursCode == "C";
-  if (hoursFilter == 2) return hoursCode == "N" || hoursCode == "C";
-  return false;
-}
 
 void DrawPattern(Canvas& canvas, const SessionState& state, Point station, const PatternStyle& style,
                  const PatternValues& values) {

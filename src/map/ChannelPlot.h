@@ -35,9 +35,6 @@ struct PatternStyle {
   float Factor = 0;  ///< size factor of the hours
 };
 
-/// Whether the hours filter (0 all, 1 day and critical, 2 night and critical) lets the hours code through.
-bool PassesHoursFilter(const std::string& hoursCode, int hoursFilter);
-
 /// Draws the outline of a pattern around a station: 180 vertices, each two degrees, the value of azimuth k at
 /// bearing k - 1.
 void DrawPattern(Canvas& canvas, const SessionState& state, Point station, const PatternStyle& style,

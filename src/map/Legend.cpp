@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 
+#include "core/Hours.h"
 #include "core/Numbers.h"
 #include "core/Text.h"
 
@@ -39,10 +40,9 @@ void DrawLines(Canvas& canvas, float top, float bottom, float right, std::span<c
 void DrawScales(Canvas& canvas, const SessionState& state) {
   constexpr float kTop = 8780;
   constexpr float kPatternLeft = 1700;
-  static constexpr std::array kSetNames = {"all", "day & crit", "night & crit"};
-  const auto filter = static_cast<std::size_t>(std::clamp<int>(state.HoursFilter, 0, 2));
   const std::string map = "Map:" + MapScaleText(state.ScaleFactor);
-  const std::string pattern = "Pattern:" + PatternScaleText(state.PatternSize) + "  " + kSetNames[filter];
+  const std::string pattern =
+      "Pattern:" + PatternScaleText(state.PatternSize) + "  " + std::string(FilterWord(state.HoursFilter));
   const float patternLeft = std::max(kPatternLeft, kTextLeft + canvas.TextWidth(map) + kMargin / 2);
 
   canvas.SetColor(kWhite);
@@ -90,10 +90,10 @@ void DrawLegend(Canvas& canvas, const SessionState& state) {
   canvas.EndPanel();
 }
 
-void DrawHoursBanner(Canvas& canvas, int hoursFilter) {
-  if (hoursFilter != 1 && hoursFilter != 2) return;
-  const std::string text =
-      hoursFilter == 1 ? "    Day, critical & unlimited only" : "    Night, critical & unlimited only";
+void DrawHoursBanner(Canvas& canvas, HoursFilter filter) {
+  if (filter != HoursFilter::Day && filter != HoursFilter::Night) return;
+  const std::string text = filter == HoursFilter::Day ? "    Day, critical & unlimited only"
+                                                      : "    Night, critical & unlimited only";
   canvas.BeginPanel({1230, 30}, kLegendFont);
   canvas.SetFont(kLegendFont);
   canvas.SetColor(kBannerColor);

@@ -14,7 +14,7 @@ namespace kestrel {
 void DrawLegend(Canvas& canvas, const SessionState& state);
 
 /// The banner that names the hours shown; nothing when all are.
-void DrawHoursBanner(Canvas& canvas, int hoursFilter);
+void DrawHoursBanner(Canvas& canvas, HoursFilter filter);
 
 /// "No station file for 1230 kHz", under the banner's place.
 void DrawMissingFileNotice(Canvas& canvas, float frequency);

@@ -41,10 +41,10 @@ Point OnPlot(double bearing, double radius, double aspectRatio) {
           static_cast<float>(PolarPlotCenter.y - radius * std::cos(angle))};
 }
 
-ColorValue TraceColor(const std::string& hoursCode) {
-  if (hoursCode == "N") return kNightTrace;
-  if (hoursCode == "C") return kCriticalTrace;
-  if (hoursCode == "D") return kDayTrace;
+ColorValue TraceColor(Hours hours) {
+  if (hours == Hours::Nighttime) return kNightTrace;
+  if (hours == Hours::Critical) return kCriticalTrace;
+  if (hours == Hours::Daytime) return kDayTrace;
   return kUnlimitedTrace;
 }
 
@@ -113,14 +113,13 @@ void DrawBearings(Canvas& canvas, float aspectRatio) {
 
 }  // namespace
 
-bool DrawPolarPlot(Canvas& canvas, float aspectRatio, const std::string& hoursCode,
-                   const PatternValues& values) {
+bool DrawPolarPlot(Canvas& canvas, float aspectRatio, Hours hours, const PatternValues& values) {
   if (!(Extent(values) > 0)) {
     DrawUnknownPattern(canvas, aspectRatio);
     return false;
   }
   DrawSpokes(canvas, aspectRatio);
-  canvas.SetColor(TraceColor(hoursCode));
+  canvas.SetColor(TraceColor(hours));
   canvas.Polyline(TracePoints(values, kTraceRadius, aspectRatio));
   DrawEnlarged(canvas, TracePoints(values, kEnlargedRadius, aspectRatio));
   DrawBearings(canvas, aspectRatio);

@@ -4,6 +4,7 @@
 #include <array>
 #include <set>
 
+#include "core/Hours.h"
 #include "core/Numbers.h"
 #include "data/TowerTable.h"
 #include "map/MapProjection.h"

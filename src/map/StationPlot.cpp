@@ -13,7 +13,8 @@ void DrawStationPlot(Canvas& canvas, float aspectRatio, std::vector<StationRecor
     PatternValues values{};
     const bool computed = ComputePattern(record, values);
     if (!computed && !broken) DrawUnknownPattern(canvas, aspectRatio);
-    const bool known = computed && (broken || DrawPolarPlot(canvas, aspectRatio, record.HoursCode, values));
+    const bool known =
+        computed && (broken || DrawPolarPlot(canvas, aspectRatio, HoursOf(record.HoursCode), values));
     placed = known ? &record : nullptr;
   }
   if (placed != nullptr)

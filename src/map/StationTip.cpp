@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "core/Distance.h"
+#include "core/Hours.h"
 #include "core/Numbers.h"
 #include "core/Text.h"
 #include "data/StationFile.h"
@@ -45,7 +46,7 @@ std::optional<std::string> StationTip(const DataFolder& folder, const SessionSta
   while (const std::optional<StationLine> line = reader.Next()) {
     StoreStationLine(*line, record);
     const bool shown =
-        record.HoursCode == mark.HoursCode || PassesHoursFilter(record.HoursCode, state.HoursFilter);
+        record.HoursCode == mark.HoursCode || Passes(HoursOf(record.HoursCode), state.HoursFilter);
     if (record.CallSign != mark.CallSign || !shown) continue;
     if (projection.Station(record.Latitude, record.Longitude) != mark.At) continue;
     if (head.empty()) {
@@ -66,14 +67,6 @@ bool OpensLookup(const StationMark& mark, const SessionState& state) {
 std::string PowerText(float powerKW) {
   if (powerKW < 1) return NumberText(powerKW * 1000) + " watts";
   return NumberText(powerKW) + " kW";
-}
-
-std::string HoursWord(const std::string& hoursCode) {
-  if (hoursCode == "D") return "daytime";
-  if (hoursCode == "N") return "nighttime";
-  if (hoursCode == "C") return "critical hours";
-  if (hoursCode == "U") return "unlimited";
-  return hoursCode;
 }
 
 std::string FromHomeText(const SessionState& state, float latitude, float longitudeWest) {

@@ -35,9 +35,6 @@ bool OpensLookup(const StationMark& mark, const SessionState& state);
 /// "5 kW", "250 watts".
 std::string PowerText(float powerKW);
 
-/// "daytime", "nighttime", "critical hours", "unlimited"; another code as it stands.
-std::string HoursWord(const std::string& hoursCode);
-
 /// "412.3 km, 88.4 deg": distance in the session's unit and true bearing from home, one decimal, truncated.
 std::string FromHomeText(const SessionState& state, float latitude, float longitudeWest);
 

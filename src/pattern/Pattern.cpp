@@ -5,6 +5,7 @@
 #include <span>
 
 #include "core/Geodesy.h"
+#include "core/Hours.h"
 #include "pattern/PatternSweep.h"
 
 namespace kestrel {
@@ -12,9 +13,9 @@ namespace {
 
 constexpr double kPowerExponent = 0.31622;
 
-double HoursNudge(const std::string& hoursCode) {
-  if (hoursCode == "U") return 1.01;
-  if (hoursCode == "D") return 0.99;
+double HoursNudge(Hours hours) {
+  if (hours == Hours::Unlimited) return 1.01;
+  if (hours == Hours::Daytime) return 0.99;
   return 1;
 }
 
@@ -37,7 +38,7 @@ bool ScaleFields(StationRecord& record) {
   double squares = 0;
   for (const float field : fields) squares += double{field} * field;
   Divide(fields, std::sqrt(squares));
-  Scale(fields, HoursNudge(record.HoursCode));
+  Scale(fields, HoursNudge(HoursOf(record.HoursCode)));
   Scale(fields, std::pow(record.PowerKW, kPowerExponent));
   Scale(fields, 2);
   return std::all_of(fields.begin(), fields.end(), [](float field) { return std::isfinite(field); });

@@ -265,7 +265,8 @@ TEST(AntennaTables, AnArrayThatIsNotWholeIsTakenWithoutItsPattern) {
 }
 
 TEST(AntennaTables, CodesAndHeights) {
-  EXPECT_EQ(ImportChanged("am_ant_sys", "|D|40|N|", "|R|40|N|").stations[1].hours, 'C');  // behind N
+  EXPECT_EQ(ImportChanged("am_ant_sys", "|D|40|N|", "|R|40|N|").stations[1].hours,
+            Hours::Critical);  // after N
   EXPECT_EQ(ImportChanged("facility", "BRAVO", "A\\|B").stations.front().names.City(), "A|B");
   const auto height = [](const char* to) {
     return ImportChanged("am_towers", "|1|80|10|||", to).stations.back().towers->front().height;

@@ -101,7 +101,7 @@ std::string TextImport::Hours(std::string_view call) const {
   std::string text;
   for (const Station& station : stations)
     if (call.empty() || station.names.CallSign() == call)
-      text += station.hours + std::to_string(station.towers ? station.towers->size() : 0);
+      text += HoursLetter(station.hours) + std::to_string(station.towers ? station.towers->size() : 0);
   return text;
 }
 

@@ -70,7 +70,7 @@ TEST_F(ChannelPlotTest, HoursFilterAndColours) {
               {3, unlimited},
               {-1, unlimited}};
   for (const auto& row : rows) {
-    state_.HoursFilter = row.filter;
+    state_.HoursFilter = HoursFilter{row.filter};
     EXPECT_EQ(Stations(), row.stations) << row.filter;
   }
 }
@@ -80,7 +80,7 @@ TEST_F(ChannelPlotTest, AnHoursCodeOfNoKindIsAPointInTheFormerColour) {
                               Station("G", "N"));
   EXPECT_EQ(Stations(),
             "1230 A d Dot 0\n1230 B C Polygon C\n1230 E d Dot C\n1230 F UU Dot C\n1230 G N Polygon 4\n");
-  state_.HoursFilter = 2;
+  state_.HoursFilter = HoursFilter::Night;
   EXPECT_EQ(Stations(), "1230 B C Polygon C\n1230 G N Polygon 4\n");
 }
 
@@ -117,7 +117,7 @@ TEST_F(ChannelPlotTest, OneLabelForACallSignAndPlace) {
   EXPECT_EQ(canvas_.All("EndStation").size(), 4U);
   EXPECT_EQ(canvas_.List.back().Face.Points, 10) << "the font is set back";
 
-  state_.HoursFilter = 2;  // the label does not hang on the record that is filtered out
+  state_.HoursFilter = HoursFilter::Night;  // the label does not hang on the record that is filtered out
   Plot();
   EXPECT_EQ(canvas_.Texts().size(), 3U);
 }

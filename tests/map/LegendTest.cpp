@@ -63,7 +63,7 @@ TEST(LegendTest, ThePanelAsDrawn) {
 TEST(LegendTest, BoxesWidenToTheirText) {
   SessionState state;
   state.HomeName = std::string(60, 'x');
-  state.HoursFilter = 2;
+  state.HoursFilter = HoursFilter::Night;
   state.ScaleFactor = 282.842712F;
   RecordingCanvas canvas;
   DrawLegend(canvas, state);

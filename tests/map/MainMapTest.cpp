@@ -44,7 +44,7 @@ class MainMapTest : public testing::Test {
 
 TEST_F(MainMapTest, DrawsFromTheGroundUp) {
   files_.Put("1230x.dat", kStation);
-  state_.HoursFilter = 1;
+  state_.HoursFilter = HoursFilter::Day;
   state_.CompassShown = 1;
   Draw();
   const std::string drawn = canvas_.Readable();

@@ -64,7 +64,7 @@ TEST(StationTipTest, ATipTellsOfTheStationThatWasDrawn) {
 
   state.DistanceUnit = 1;
   EXPECT_NE(tip(0).find("265.1 mi, 271.6 deg"), std::string::npos) << tip(0);
-  state.HoursFilter = 2;
+  state.HoursFilter = HoursFilter::Night;
   EXPECT_NE(tip(1).find("\n250 watts nighttime\n"), std::string::npos) << "the day is not shown: " << tip(1);
   data.Put("1230x.dat", "");
   EXPECT_EQ(tip(0), "nothing") << "the file is read when the mouse rests";
