@@ -4,6 +4,7 @@
 #include <QTemporaryDir>
 #include <cmath>
 
+#include "core/Band.h"
 #include "core/Numbers.h"
 #include "straight/Reading.h"
 

@@ -10,6 +10,7 @@
 #include "core/Numbers.h"
 #include "core/SessionFile.h"
 #include "core/Text.h"
+#include "core/ViewLimits.h"
 
 namespace kestrel::fuzz {
 namespace {
@@ -76,8 +77,9 @@ bool SessionFile(std::string_view bytes) {
                             state.PatternSize, state.ScaleFactor, state.AspectRatio})
     HoldFinite(value);
   const std::string written = WriteSession(state, "1/2/2026");
-  Hold(state.PatternSize >= 0.02F && state.PatternSize <= 1, "the pattern size is saved within its limits");
-  Hold(state.ScaleFactor >= 100 && state.ScaleFactor <= 10000, "the scale is saved within its limits");
+  Hold(state.PatternSize == SavedPatternSizeLimits.Hold(state.PatternSize),
+       "the pattern size is saved within its limits");
+  Hold(state.ScaleFactor == SavedScaleLimits.Hold(state.ScaleFactor), "the scale is saved within its limits");
   Hold(IsUtf8(written), "text is UTF-8");
   Hold(std::count(written.begin(), written.end(), '\n') == 17, "seventeen lines");
 

@@ -6,6 +6,7 @@
 #include <optional>
 #include <set>
 
+#include "core/Band.h"
 #include "core/Geodesy.h"
 #include "core/Numbers.h"
 #include "draw/PainterCanvas.h"

@@ -41,7 +41,8 @@ void AddMapCommand(CLI::App& app, Request& request) {
   AddHome(command, request);
   AddText(command, "--home-name", request.HomeName, "home's name in the legend");
   AddScale(command, request);
-  AddNumber(command, "--pattern-size", 0.02F, 2, request.PatternSize, "the relative size of the patterns");
+  AddNumber(command, "--pattern-size", PatternSizeLimits, request.PatternSize,
+            "the relative size of the patterns");
   AddAspect(command, request);
   const auto storeHours = [view](const std::string& given) {
     if (given != "all" && given != "day" && given != "night")

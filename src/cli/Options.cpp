@@ -6,8 +6,9 @@
 
 #include "cli/Console.h"
 #include "cli/Json.h"
+#include "core/Band.h"
 #include "core/Text.h"
-#include "data/StationFile.h"
+#include "core/ViewLimits.h"
 
 namespace kestrel::cli {
 namespace {
@@ -58,12 +59,13 @@ bool NamesPicture(const std::string& path) {
 
 }  // namespace
 
-void AddNumber(CLI::App& command, const std::string& name, float low, float high,
-               std::optional<float>& number, const std::string& help) {
+void AddNumber(CLI::App& command, const std::string& name, const Limits& limits, std::optional<float>& number,
+               const std::string& help) {
   const auto store = [=, &number](const std::string& given) {
     number = WholeNumber(given);
-    if (!number || !(*number >= low && *number <= high))
-      Refuse(name, given, "a number from " + NumberWithZero(low) + " to " + NumberWithZero(high));
+    if (!number || !(*number >= limits.Lowest && *number <= limits.Highest))
+      Refuse(name, given,
+             "a number from " + NumberWithZero(limits.Lowest) + " to " + NumberWithZero(limits.Highest));
   };
   command.add_option_function<std::string>(name, store, help)->type_name("NUMBER");
 }
@@ -96,7 +98,7 @@ CLI::Option* AddText(CLI::App& command, const std::string& name, std::optional<s
 }
 
 void AddFrequency(CLI::App& command, Request& request) {
-  AddNumber(command, "--frequency", LowestChannel, HighestChannel, request.Frequency, "the channel in kHz");
+  AddNumber(command, "--frequency", {LowestChannel, HighestChannel}, request.Frequency, "the channel in kHz");
 }
 
 void AddHome(CLI::App& command, Request& request) {
@@ -104,14 +106,14 @@ void AddHome(CLI::App& command, Request& request) {
 }
 
 void AddScale(CLI::App& command, Request& request) {
-  AddNumber(command, "--scale", 50, 10000, request.Scale, "the map's scale, twips for 75 km");
+  AddNumber(command, "--scale", ScaleLimits, request.Scale, "the map's scale, twips for 75 km");
 }
 
 void AddAspect(CLI::App& command, Request& request) {
   const auto store = [&request](const std::string& given) {
     request.Aspect = WholeNumber(given);
-    if (!request.Aspect || !(*request.Aspect > 0 && *request.Aspect <= 10))
-      Refuse("--aspect", given, "a number above 0, at most 10");
+    if (!request.Aspect || !(*request.Aspect > 0 && *request.Aspect <= LargestAspect))
+      Refuse("--aspect", given, "a number above 0, at most " + NumberWithZero(LargestAspect));
   };
   command.add_option_function<std::string>("--aspect", store, "widens the patterns; 1 keeps circles round")
       ->type_name("NUMBER");

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "cli/Request.h"
+#include "core/ViewLimits.h"
 
 // The options that several commands share. Each stores what was given in the request, which must outlive the
 // parsing; a value outside its range throws WrongUse.
@@ -18,8 +19,8 @@ void AddPicture(CLI::App& command, Request& request);  ///< --size and -o
 void AddJson(CLI::App& command, Request& request);
 
 /// A number option of its own that must lie within `low` to `high`.
-void AddNumber(CLI::App& command, const std::string& name, float low, float high,
-               std::optional<float>& number, const std::string& help);
+void AddNumber(CLI::App& command, const std::string& name, const Limits& limits, std::optional<float>& number,
+               const std::string& help);
 
 /// "33.24278,96.54139", latitude north and longitude WEST positive, a negative one east.
 CLI::Option* AddPosition(CLI::App& command, const std::string& name, std::optional<Position>& position,

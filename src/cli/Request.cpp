@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 
 #include "cli/Console.h"
+#include "core/Band.h"
 #include "core/Numbers.h"
 #include "core/SessionFile.h"
 #include "data/FileIo.h"
@@ -63,9 +64,10 @@ std::string StationsLineOf(const DataFolder& folder) {
 }
 
 QByteArray ReadChannel(const DataFolder& folder, float frequency) {
-  if (!(frequency >= LowestChannel && frequency <= HighestChannel))
-    throw Failure("the session's channel is " + NumberText(frequency) +
-                  " kHz, and station files run from 530 to 1700; choose one with --frequency");
+  if (!IsInBand(frequency))
+    throw Failure("the session's channel is " + NumberText(frequency) + " kHz, and station files run from " +
+                  NumberText(LowestChannel) + " to " + NumberText(HighestChannel) +
+                  "; choose one with --frequency");
   const QString name = StationFileName(frequency);
   Result<QByteArray> bytes = folder.Read(name);
   if (!bytes)

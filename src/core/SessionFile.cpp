@@ -6,6 +6,7 @@
 #include "core/Lines.h"
 #include "core/Numbers.h"
 #include "core/Text.h"
+#include "core/ViewLimits.h"
 
 namespace kestrel {
 namespace {
@@ -69,8 +70,8 @@ Outcome ReadValues(ValueReader& values, SessionState& state) {
 }
 
 void LimitView(SessionState& state) {
-  state.PatternSize = std::clamp(state.PatternSize, 0.02F, 1.0F);
-  state.ScaleFactor = std::clamp(state.ScaleFactor, 100.0F, 10000.0F);
+  state.PatternSize = SavedPatternSizeLimits.Hold(state.PatternSize);
+  state.ScaleFactor = SavedScaleLimits.Hold(state.ScaleFactor);
 }
 
 void FillUnsetColors(SessionState& state) {
@@ -91,7 +92,7 @@ void ApplyLimits(SessionState& state) {
   LimitView(state);
   FillUnsetColors(state);
   if (state.AspectRatio == 0) state.AspectRatio = 0.75F;
-  state.AspectRatio = std::clamp(state.AspectRatio, 0.6F, 1.5F);
+  state.AspectRatio = SavedAspectLimits.Hold(state.AspectRatio);
 }
 
 void ResetHome(SessionState& state) {

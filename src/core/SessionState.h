@@ -20,8 +20,8 @@ struct SessionState {
   std::string HomeName = "Plano   TX";
   float HomeLatitude = 33.24278F;   ///< degrees, north positive
   float HomeLongitude = 96.54139F;  ///< degrees, west positive
-  float PatternSize = 0.5F;         ///< relative size of the drawn patterns, 0.02 to 2 (saved: to 1)
-  float ScaleFactor = 200;          ///< twips per 75 km of ground, 50 to 10000 (saved: from 100)
+  float PatternSize = 0.5F;         ///< relative size of the drawn patterns, within PatternSizeLimits
+  float ScaleFactor = 200;          ///< twips per 75 km of ground, within ScaleLimits
   std::int16_t DistanceUnit = 0;    ///< 0 kilometres, 1 statute miles
   ColorValue DayColor = 65280;
   ColorValue NightColor = 0;

@@ -14,11 +14,8 @@
 namespace kestrel {
 
 inline constexpr int MaxTowers = 12;
-inline constexpr int MaxRecords = 10000;       ///< of a channel; the busiest one has some hundreds
-inline constexpr int MaxNotes = 100;           ///< of a file; what is left out beyond is not reported
-inline constexpr float LowestChannel = 530;    ///< kHz
-inline constexpr float HighestChannel = 1700;  ///< kHz
-inline constexpr float ChannelStep = 10;       ///< kHz
+inline constexpr int MaxRecords = 10000;  ///< of a channel; the busiest one has some hundreds
+inline constexpr int MaxNotes = 100;      ///< of a file; what is left out beyond is not reported
 
 /// One antenna of one station: its position, power and towers for its hours of operation. Tower arrays are
 /// indexed 1 to TowerCount; index 0 stays 0.

@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <QShortcut>
 
+#include "core/Band.h"
 #include "core/ChannelChoice.h"
 #include "data/StationFile.h"
 #include "forms/CommandIcons.h"

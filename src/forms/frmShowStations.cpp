@@ -4,7 +4,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "map/View.h"
+#include "core/ViewLimits.h"
 #include "ui/Controls.h"
 
 namespace kestrel {
@@ -29,8 +29,8 @@ frmShowStations::frmShowStations(const Workspace& workspace, QWidget* parent) : 
   };
   addButton("cmdAlterYes", "&Zoom in for local view", "The largest scale with the smallest patterns",
             [&state] {
-              state.ScaleFactor = LargestScale;
-              state.PatternSize = SmallestPattern;
+              state.ScaleFactor = ScaleLimits.Highest;
+              state.PatternSize = PatternSizeLimits.Lowest;
               state.PlotAllStations = 1;
             });
   addButton("cmdAlterNo", "&Leave mapsize intact", "Plots at the map's present scale", [&state] {

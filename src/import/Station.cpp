@@ -5,6 +5,7 @@
 #include <cmath>
 #include <tuple>
 
+#include "core/Band.h"
 #include "core/Text.h"
 #include "data/StationFile.h"
 #include "data/StationLineText.h"

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "core/Band.h"
 #include "data/StationFile.h"
 #include "data/StationLineText.h"
 #include "import/Countries.h"

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <unordered_set>
 
+#include "core/Band.h"
 #include "core/Numbers.h"
 #include "core/Processors.h"
 #include "core/Text.h"

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <unordered_set>
 
+#include "core/Band.h"
 #include "core/Geodesy.h"
 #include "core/Hours.h"
 #include "core/Numbers.h"
@@ -140,7 +141,7 @@ void DrawPattern(Canvas& canvas, const SessionState& state, Point station, const
 
 ChannelOutcome PlotChannel(Canvas& canvas, const DataFolder& folder, const SessionState& state,
                            const MapProjection& projection, float plotFrequency) {
-  if (!(plotFrequency >= LowestChannel && plotFrequency <= HighestChannel)) return {};
+  if (!IsInBand(plotFrequency)) return {};
   const QString name = StationFileName(plotFrequency);
   const Result<QByteArray> bytes = folder.Read(name);
   if (!bytes) return {true, {bytes.error().Message()}};

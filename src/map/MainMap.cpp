@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <future>
 
+#include "core/Band.h"
 #include "data/StationFile.h"
 #include "map/ChannelPlot.h"
 #include "map/Compass.h"

@@ -2,14 +2,9 @@
 
 #include "core/SessionState.h"
 
-// The zoom and pattern size commands of the main map: steps of the square root of 2 within limits.
+// The zoom and pattern size commands of the main map: steps of the square root of 2 within ViewLimits.h.
 
 namespace kestrel {
-
-inline constexpr float SmallestScale = 50;
-inline constexpr float LargestScale = 10000;
-inline constexpr float SmallestPattern = 0.02F;
-inline constexpr float LargestPattern = 2;
 
 void ZoomIn(SessionState& state);
 void ZoomOut(SessionState& state);

@@ -1,3 +1,4 @@
+#include "core/Band.h"
 #include "data/StationLookup.h"
 
 #include <gtest/gtest.h>
