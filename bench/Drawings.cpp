@@ -64,7 +64,7 @@ void Scan(const Band& band, const SessionState& state) {
   Surface& surface = TheSurface();
   surface.List.Clear();
   const DataFolder folder(QString::fromStdString(band.Folder));
-  const MapProjection projection(state.HomeLatitude, state.HomeLongitude, state.ScaleFactor);
+  const MapProjection projection(state.Home(), state.ScaleFactor);
   DrawOutlineFiles(surface.List, folder, projection);
   for (BandScan scan(folder, projection); !scan.AtEnd();) static_cast<void>(scan.DrawNext(surface.List));
   surface.Show();

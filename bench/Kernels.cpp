@@ -77,7 +77,7 @@ class ProjPlot {
 
   void Run() {
     for (std::size_t i = 0; i < coordinates_.size(); ++i)
-      coordinates_[i] = proj_coord(proj_torad(BringIntoRange(outline_.Longitude[i])),
+      coordinates_[i] = proj_coord(proj_torad(LongitudeInRange(outline_.Longitude[i])),
                                    proj_torad(outline_.Latitude[i]), 0, 0);
     proj_trans_array(projection_, PJ_FWD, coordinates_.size(), coordinates_.data());
     Keep(coordinates_.data());
@@ -141,7 +141,7 @@ void AddSweepRow(const Band& band) {
 
 void AddProjectionRows() {
   const auto place = [](const Outline& outline, std::vector<Point>& points) {
-    MapProjection(kHomeLatitude, kHomeLongitude, kScale)
+    MapProjection({kHomeLatitude, kHomeLongitude}, kScale)
         .Vertices(outline.Latitude, outline.Longitude, points);
   };
   AddProjectionRows("projection of REGION2.dat", true, place);

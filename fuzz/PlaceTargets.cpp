@@ -5,6 +5,7 @@
 #include "ByTheRules.h"
 #include "Targets.h"
 #include "WholeOutline.h"
+#include "core/Position.h"
 #include "core/Text.h"
 #include "data/OutlineFile.h"
 #include "data/PlaceLists.h"
@@ -50,7 +51,7 @@ void HoldColumns(const std::string& entry) {
 }
 
 void UsePlace(const Place& place) {
-  const HomePosition home = ReadHomePosition(place.LatitudeText, place.LongitudeText);
+  const Position home = ReadHomePosition(place.LatitudeText, place.LongitudeText);
   Hold(home.Latitude >= -88 && home.Latitude <= 88, "home lies within 88 degrees");
   Hold(home.Longitude >= 30 && home.Longitude <= 170, "home lies in the west");
   const auto [town, state] = SplitPlaceName(place.Name);

@@ -68,7 +68,7 @@ void PlaceByGreatCircle(float homeLatitude, float homeLongitude, float scaleFact
                         std::span<Point> points) {
   for (std::size_t i = 0; i < points.size(); ++i) {
     const GreatCircleResult course =
-        GreatCircle(homeLatitude, homeLongitude, BringIntoRange(longitudes[i]), latitudes[i]);
+        GreatCircle({homeLatitude, homeLongitude}, {latitudes[i], -LongitudeInRange(longitudes[i])});
     const double radius = double{course.Distance} * scaleFactor / 75;
     const double bearing = course.Bearing / 57.29578;
     points[i] = {Single(6000 + radius * std::sin(bearing)), Single(4500 - radius * std::cos(bearing))};
@@ -79,7 +79,7 @@ Point Place(float homeLatitude, float homeLongitude, float scaleFactor, float la
   constexpr double kRadian = std::numbers::pi / 180;
   const double phi0 = homeLatitude * kRadian;
   const double phi = latitude * kRadian;
-  const double lambda = (double{BringIntoRange(longitudeEast)} + homeLongitude) * kRadian;
+  const double lambda = (double{LongitudeInRange(longitudeEast)} + homeLongitude) * kRadian;
   const double east = std::cos(phi) * std::sin(lambda);
   const double north = std::sin(phi) * std::cos(phi0) - std::cos(phi) * std::sin(phi0) * std::cos(lambda);
   const double up = std::sin(phi) * std::sin(phi0) + std::cos(phi) * std::cos(phi0) * std::cos(lambda);

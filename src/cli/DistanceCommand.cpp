@@ -26,7 +26,7 @@ std::string Json(const DistanceReadout& readout) {
 
 void ShowDistance(const Request& request, const Leg& leg) {
   const SessionState state = SessionFor(request);
-  const Position home{state.HomeLatitude, state.HomeLongitude};
+  const Position home = state.Home();
   const DistanceReadout readout =
       MeasureDistance(leg.From.value_or(home), leg.To.value_or(home), leg.Miles ? 1 : state.DistanceUnit);
   if (request.Json) return Print(Json(readout));

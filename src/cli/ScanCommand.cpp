@@ -53,7 +53,7 @@ void Scan(const Request& request) {
   const auto platform = StartPlatform(Platform::Pictures);
   const SessionState state = SessionFor(request);
   const DataFolder folder = DataFor(request);
-  const MapProjection projection(state.HomeLatitude, state.HomeLongitude, state.ScaleFactor);
+  const MapProjection projection(state.Home(), state.ScaleFactor);
 
   const PlatformTextMeasure measure;
   DisplayList drawing(measure);

@@ -66,14 +66,12 @@ void ListStations(const Request& request) {
   const auto platform = StartPlatform(Platform::Files);
   const SessionState state = SessionFor(request);
   const QByteArray bytes = ReadChannel(DataFor(request), state.CurrentFrequency);
-  const MapProjection projection(state.HomeLatitude, state.HomeLongitude, state.ScaleFactor);
+  const MapProjection projection(state.Home(), state.ScaleFactor);
   StationFileReader reader(StationFileName(state.CurrentFrequency).toStdString(),
                            {bytes.constData(), static_cast<std::size_t>(bytes.size())});
   std::vector<ListedStation> stations;
   while (const StationRecord* record = reader.Next())
-    stations.push_back(
-        {*record, GreatCircle(state.HomeLatitude, state.HomeLongitude, -record->Longitude, record->Latitude),
-         projection.Station(record->Latitude, record->Longitude)});
+    stations.push_back({*record, GreatCircle(state.Home(), record->At()), projection.Station(record->At())});
   Say(reader.Notes());
   Print(request.Json ? Json(stations) : ForPeople(stations));
 }

@@ -1,20 +1,13 @@
 #include "core/Distance.h"
 
-#include <cmath>
-
 #include "core/Geodesy.h"
 #include "core/Numbers.h"
 #include "core/Text.h"
 
 namespace kestrel {
 
-Position TypedTarget(float latitude, float longitude) {
-  return {latitude, std::abs(longitude)};
-}
-
 DistanceReadout MeasureDistance(const Position& from, const Position& to, int unit) {
-  // Home's longitude west positive, the target's east positive: the course comes out clockwise.
-  const GreatCircleResult course = GreatCircle(from.Latitude, from.Longitude, -to.Longitude, to.Latitude);
+  const GreatCircleResult course = GreatCircle(from, to);
   DistanceReadout readout;
   readout.Unit = unit == 1 ? 1 : 0;
   readout.Bearing = TruncateToTenth(course.Bearing);
@@ -24,10 +17,6 @@ DistanceReadout MeasureDistance(const Position& from, const Position& to, int un
   readout.BearingText = NumberText(readout.Bearing) + " deg";
   readout.DistanceText = NumberText(readout.Distance) + (readout.Unit == 1 ? " mi " : " km ");
   return readout;
-}
-
-std::string PositionText(const Position& position) {
-  return NumberText(position.Latitude) + "N, " + NumberText(position.Longitude) + "W";
 }
 
 std::string DistanceInstruction(const std::string& homeName, const Position& home) {

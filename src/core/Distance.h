@@ -2,19 +2,11 @@
 
 #include <string>
 
+#include "core/Position.h"
+
 // The readout of distance and bearing from home to a target.
 
 namespace kestrel {
-
-/// A position in degrees, latitude north and longitude WEST positive.
-struct Position {
-  float Latitude = 0;
-  float Longitude = 0;
-  bool operator==(const Position&) const = default;
-};
-
-/// A target whose longitude was typed or picked from a list: west of Greenwich, whatever its sign.
-Position TypedTarget(float latitude, float longitude);
 
 /// Distance and initial course, both cut to one decimal toward minus infinity.
 struct DistanceReadout {
@@ -28,9 +20,6 @@ struct DistanceReadout {
 /// By GreatCircle, so distances below some 3 km are coarse. `unit` as `SessionState::DistanceUnit`; any value
 /// but 1 gives kilometres. REQUIRES: all coordinates are finite.
 DistanceReadout MeasureDistance(const Position& from, const Position& to, int unit);
-
-/// "33.24278N, 96.54139W": a position in words, as the listener's lines name a home without a name.
-std::string PositionText(const Position& position);
 
 /// The line above the target boxes: "Get distance from Plano   TX to:". Without a name home's position, or
 /// "home" when a coordinate is 0, stands in its place; a name of three characters or fewer gives an empty

@@ -19,12 +19,12 @@ double ArcCosine(double x) {
   return 1.5707963267949 - std::atan(x / std::sqrt(1 - x * x));
 }
 
-GreatCircleResult GreatCircle(float lat1, float lon1, float lon2, float lat2) {
+GreatCircleResult GreatCircle(const Position& from, const Position& to) {
   const double perRadian = DegreesPerRadian;
-  const double phi1 = Single(lat1 / perRadian);
-  const double phi2 = Single(lat2 / perRadian);
-  const double lambda1 = Single(lon1 / perRadian);
-  const double lambda2 = Single(-lon2 / perRadian);
+  const double phi1 = Single(from.Latitude / perRadian);
+  const double phi2 = Single(to.Latitude / perRadian);
+  const double lambda1 = Single(from.Longitude / perRadian);
+  const double lambda2 = Single(to.Longitude / perRadian);
 
   const double cosArc =
       Single(std::sin(phi1) * std::sin(phi2) + std::cos(phi2) * std::cos(phi1) * std::cos(lambda2 - lambda1));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/Position.h"
+
 // Spherical geometry of distance, bearing and map placement, and the plane sums of tower positions.
 
 namespace kestrel {
@@ -18,21 +20,14 @@ double ArcCosine(double x);
 
 /// A course and a distance over the ground.
 struct GreatCircleResult {
-  float Bearing = 0;   ///< degrees from north, 0 to 360; see GreatCircle for the direction it is counted in
+  float Bearing = 0;   ///< degrees clockwise from north, 0 to 360
   float Distance = 0;  ///< kilometres
 };
 
-/// Initial course and distance from point 1 to point 2 on the sphere, by the law of cosines. All arguments in
-/// degrees, latitudes north positive. Intermediate steps are stored as singles, so readouts are steady but
-/// distances below some 3 km are coarse; MapProjection is the precise way for drawings.
-///
-/// `lon2` is negated inside and `lon1` is not, so the two are given in opposite conventions:
-/// - `lon1` = minus the west-positive home, `lon2` = a station's west-positive longitude: the bearing is
-///   counted from north towards the WEST;
-/// - `lon1` = the west-positive home, `lon2` = an east-positive longitude: the bearing is the ordinary
-///   clockwise course.
-/// The same point twice gives distance 0 and bearing 90.
-GreatCircleResult GreatCircle(float lat1, float lon1, float lon2, float lat2);
+/// Initial course and distance on the sphere, by the law of cosines. Intermediate steps are stored as
+/// singles, so readouts are steady but distances below some 3 km are coarse; MapProjection is the precise way
+/// for drawings. The same point twice gives distance 0 and bearing 90.
+GreatCircleResult GreatCircle(const Position& from, const Position& to);
 
 /// A plane offset: distance (any unit) and bearing in degrees clockwise from north.
 struct PolarOffset {

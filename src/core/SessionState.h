@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/Hours.h"
+#include "core/Position.h"
 
 namespace kestrel {
 
@@ -48,6 +49,8 @@ struct SessionState {
   std::string RememberedCallSign;    ///< the last search text that was not empty; offered at the next opening
   std::vector<std::string> CityList;  ///< lines of "Kestrel.lst"
   std::vector<std::string> CallList;  ///< lines of "StationsCall.DAT"
+
+  Position Home() const { return {HomeLatitude, HomeLongitude}; }
 };
 
 }  // namespace kestrel

@@ -45,9 +45,4 @@ std::pair<std::string, std::string> SplitPlaceName(const std::string& name) {
   return {std::string(Trim(trimmed.substr(0, gap))), std::string(trimmed.substr(gap + 2))};
 }
 
-HomePosition ReadHomePosition(std::string_view latitude, std::string_view longitude) {
-  return {std::clamp(ParseNumber(latitude), -88.0F, 88.0F),
-          std::clamp(std::abs(ParseNumber(longitude)), 30.0F, 170.0F)};
-}
-
 }  // namespace kestrel

@@ -35,13 +35,4 @@ Place TakeCity(std::string_view line);
 /// blanks the second part is empty.
 std::pair<std::string, std::string> SplitPlaceName(const std::string& name);
 
-/// A position as home takes it.
-struct HomePosition {
-  float Latitude = 0;   ///< -88 to 88 degrees
-  float Longitude = 0;  ///< 30 to 170 degrees, west positive
-};
-
-/// Reads both texts as typed numbers, drops the longitude's sign and applies the limits.
-HomePosition ReadHomePosition(std::string_view latitude, std::string_view longitude);
-
 }  // namespace kestrel

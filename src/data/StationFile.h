@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/Lines.h"
+#include "core/Position.h"
 
 // The station files, one for each channel. docs/formats/station-files.md describes them.
 
@@ -28,6 +29,7 @@ struct StationRecord {
   float Latitude = 0;     ///< degrees, north positive
   float Longitude = 0;    ///< degrees, WEST positive
   float PowerKW = 0;
+  Position At() const { return {Latitude, Longitude}; }
   std::int16_t TowerCount = 0;  ///< 0 to MaxTowers; 0: the antenna is not known
 
   std::array<std::string, MaxTowers + 1>
@@ -47,6 +49,10 @@ struct StationLine {
 
   /// What LeadingNumber reads in one of the fields.
   double Number(std::string_view field) const;
+
+  Position At() const {
+    return {static_cast<float>(Number(Latitude)), static_cast<float>(Number(Longitude))};
+  }
 };
 
 /// Whether the line begins with a digit 1 to 9, as station lines do and tower lines must not.

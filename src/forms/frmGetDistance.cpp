@@ -56,9 +56,7 @@ frmGetDistance::frmGetDistance(const Workspace& workspace, QWidget* parent)
   buttons->addWidget(exit);
 
   auto* layout = new QVBoxLayout(this);
-  layout->addWidget(
-      MakeLabel("lblInstructions",
-                Text(DistanceInstruction(state.HomeName, {state.HomeLatitude, state.HomeLongitude}))));
+  layout->addWidget(MakeLabel("lblInstructions", Text(DistanceInstruction(state.HomeName, state.Home()))));
   layout->addLayout(grid);
   layout->addWidget(MakeLabel("Label1", "&Select a city:", cities->SearchBox()));
   layout->addWidget(cities, 1);
@@ -144,8 +142,7 @@ void frmGetDistance::Compute() {
   SessionState& state = workspace_.State;
   state.DistanceUnit = unit_;
   const DistanceReadout readout =
-      MeasureDistance({state.HomeLatitude, state.HomeLongitude},
-                      TypedTarget(ParseNumber(latitude), ParseNumber(longitude)), unit_);
+      MeasureDistance(state.Home(), TypedTarget(ParseNumber(latitude), ParseNumber(longitude)), unit_);
   bearing_.Box->setText(Text(readout.BearingText));
   distance_.Box->setText(Text(readout.DistanceText));
   for (const Entry& answer : {bearing_, distance_}) {

@@ -7,6 +7,7 @@
 
 #include "core/EntryHints.h"
 #include "core/Numbers.h"
+#include "core/Position.h"
 #include "forms/frmPlotStates.h"
 #include "ui/Controls.h"
 #include "ui/PlacePicker.h"
@@ -99,7 +100,7 @@ void frmGetHome::ShowHint(QLineEdit* box, QLabel* label, std::string_view (*hint
 
 void frmGetHome::Take(const Place& place) {
   ShowCoordinates(place.LatitudeText, place.LongitudeText);
-  const HomePosition home = ReadHomePosition(place.LatitudeText, place.LongitudeText);
+  const Position home = ReadHomePosition(place.LatitudeText, place.LongitudeText);
   workspace_.State.HomeLatitude = home.Latitude;
   workspace_.State.HomeLongitude = home.Longitude;
   workspace_.State.HomeName = takenName_ = place.Name;
@@ -107,7 +108,7 @@ void frmGetHome::Take(const Place& place) {
 
 void frmGetHome::TakeTyped() {
   // The boxes show rounded text: one that nobody changed is not read back.
-  const HomePosition typed = ReadHomePosition(TypedNumber(*latitude_), TypedNumber(*longitude_));
+  const Position typed = ReadHomePosition(TypedNumber(*latitude_), TypedNumber(*longitude_));
   const bool latitudeTyped = latitude_->text() != shownLatitude_;
   const bool longitudeTyped = longitude_->text() != shownLongitude_;
   if (latitudeTyped) workspace_.State.HomeLatitude = typed.Latitude;

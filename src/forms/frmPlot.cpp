@@ -217,7 +217,7 @@ void frmPlot::ScanOnce() {
   state.StopRequested = false;
   surface_->Drawing().Clear();
   scanned_ = true;
-  const MapProjection projection(state.HomeLatitude, state.HomeLongitude, state.ScaleFactor);
+  const MapProjection projection(state.Home(), state.ScaleFactor);
   DrawOutlineFiles(surface_->Drawing(), workspace_.Folder, projection);
   surface_->ShowDrawing();
   for (BandScan scan(workspace_.Folder, projection); !scan.AtEnd() && !state.StopRequested;) {

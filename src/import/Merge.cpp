@@ -194,7 +194,7 @@ class TableOnly {
     const bool isEnded = EndedIn(ended_, station) >= 0;
     if (!contains(amq_.facilities, station.facility)) return isEnded ? std::optional(offAir) : std::nullopt;
     const auto begin =
-        std::lower_bound(listed_.begin(), listed_.end(), FacilityHours(station.facility, '\0'));
+        std::lower_bound(listed_.begin(), listed_.end(), FacilityHours(station.facility, Hours{}));
     const auto end = std::find_if(
         begin, listed_.end(), [&](const FacilityHours& other) { return other.first != station.facility; });
     const bool takesItsPlace = std::any_of(begin, end, [&](const FacilityHours& other) {

@@ -127,7 +127,7 @@ void DrawMapPicture(Canvas& canvas, const DataFolder& folder) {
     canvas.FilledCircle(HomeOnSheet, kSeaRadius * std::sqrt(1 - share));
   }
 
-  const MapProjection projection(14, 86, 36);
+  const MapProjection projection({14, 86}, 36);
   const auto drawOutline = [&](const QString& name, ColorValue color) {
     if (const Result<QByteArray> bytes = folder.Read(name)) {
       canvas.SetColor(color);
@@ -145,8 +145,7 @@ void DrawMapPicture(Canvas& canvas, const DataFolder& folder) {
     if (!bytes) continue;
     StationLineReader stations(View(*bytes));
     while (const auto station = stations.Next()) {
-      const auto at = projection.Station(static_cast<float>(station->Number(station->Latitude)),
-                                         static_cast<float>(station->Number(station->Longitude)));
+      const auto at = projection.Station(station->At());
       if (at) canvas.FilledCircle(*at, 26);
     }
   }

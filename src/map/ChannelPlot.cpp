@@ -61,7 +61,7 @@ class ChannelPlotter {
   void Draw(StationRecord& record) {
     const Hours hours = HoursOf(record.HoursCode);
     if (!Passes(hours, state_.HoursFilter)) return;
-    const std::optional<Point> at = projection_.Station(record.Latitude, record.Longitude);
+    const std::optional<Point> at = projection_.Station(record.At());
     if (!at) return;
     const bool known = record.TowerCount > 0 && ComputePattern(record, values_);
     ChooseStyle(hours);

@@ -108,7 +108,7 @@ void DrawNotices(Canvas& canvas, const std::vector<std::string>& unreadable) {
 }  // namespace
 
 void DrawContextMap(Canvas& canvas, const DataFolder& folder, float latitude, float longitude, float zoom) {
-  const MapProjection projection(latitude, longitude, kTwipsPer75Km * zoom);
+  const MapProjection projection({latitude, longitude}, kTwipsPer75Km * zoom);
   canvas.SetColor(kWhite);
   canvas.FilledBox(kFrameCorner, kFrameOpposite);
   canvas.SetLineWidth(1);

@@ -52,7 +52,7 @@ ChannelOutcome PlotChannels(Canvas& canvas, const DataFolder& folder, const Sess
 
 std::vector<std::string> DrawMainMap(Canvas& canvas, const DataFolder& folder, const SessionState& state,
                                      MapGround ground) {
-  const MapProjection projection(state.HomeLatitude, state.HomeLongitude, state.ScaleFactor);
+  const MapProjection projection(state.Home(), state.ScaleFactor);
   const std::vector<float> channels = ShownChannels(state);
   const auto plot = [&](Canvas& on) { return PlotChannels(on, folder, state, projection, channels); };
   std::vector<std::string> notes;

@@ -14,14 +14,14 @@ constexpr double kKilometresPerScale = 75;
 
 }  // namespace
 
-MapProjection::MapProjection(float homeLatitude, float homeLongitude, float scaleFactor) {
-  const auto [sine, cosine] = VertexAngle(homeLatitude);
-  center_ = {sine, cosine, -double{homeLongitude},
+MapProjection::MapProjection(const Position& home, float scaleFactor) {
+  const auto [sine, cosine] = VertexAngle(home.Latitude);
+  center_ = {sine, cosine, -double{home.Longitude},
              KilometresPerDegree / kRadian * scaleFactor / kKilometresPerScale};
-  onEarth_ = std::abs(homeLatitude) <= 90 && std::abs(homeLongitude) <= 360;
+  onEarth_ = std::abs(home.Latitude) <= 90 && std::abs(home.Longitude) <= 360;
   if (onEarth_) return;
-  center_.SinLatitude = std::sin(homeLatitude * kRadian);
-  center_.CosLatitude = std::cos(homeLatitude * kRadian);
+  center_.SinLatitude = std::sin(home.Latitude * kRadian);
+  center_.CosLatitude = std::cos(home.Latitude * kRadian);
 }
 
 Point MapProjection::StraightPlace(double latitude, double longitudeEast) const {
@@ -42,10 +42,10 @@ Point MapProjection::StraightPlace(double latitude, double longitudeEast) const 
           static_cast<float>(HomeOnSheet.y - radius * northShare)};
 }
 
-std::optional<Point> MapProjection::Station(float latitude, float longitude) const {
-  const float longitudeEast = -longitude;
+std::optional<Point> MapProjection::Station(const Position& position) const {
+  const float longitudeEast = -position.Longitude;
   Point place;
-  Vertices({&latitude, 1}, {&longitudeEast, 1}, {&place, 1});
+  Vertices({&position.Latitude, 1}, {&longitudeEast, 1}, {&place, 1});
   if (!std::isfinite(place.x) || !std::isfinite(place.y)) return std::nullopt;
   return Clamped(place);
 }
@@ -57,11 +57,7 @@ void MapProjection::Vertices(std::span<const float> latitudes, std::span<const f
   if (onEarth_) PlaceVertices(center_, latitudes.data(), longitudes.data(), &points[0].x, points.size());
   for (std::size_t i = 0; i < points.size(); ++i)
     if (!onEarth_ || std::isnan(points[i].x))
-      points[i] = StraightPlace(latitudes[i], BringIntoRange(longitudes[i]));
-}
-
-float BringIntoRange(float longitudeEast) {
-  return LongitudeInRange(longitudeEast);
+      points[i] = StraightPlace(latitudes[i], LongitudeInRange(longitudes[i]));
 }
 
 }  // namespace kestrel

@@ -3,6 +3,7 @@
 #include <optional>
 #include <span>
 
+#include "core/Position.h"
 #include "map/Sheet.h"
 #include "map/VertexPlaces.h"
 
@@ -17,12 +18,11 @@ namespace kestrel {
 /// (J. P. Snyder, Map Projections: A Working Manual, USGS 1987, section 25, in vector form.)
 class MapProjection {
  public:
-  /// Home in degrees, north and WEST positive; scale in twips per 75 km.
-  MapProjection(float homeLatitude, float homeLongitude, float scaleFactor);
+  /// Scale in twips per 75 km.
+  MapProjection(const Position& home, float scaleFactor);
 
-  /// A place given as the station files do, longitude WEST positive, limited to the coordinate range. Nothing
-  /// when the position is no finite number.
-  std::optional<Point> Station(float latitude, float longitude) const;
+  /// The place of a station, limited to the coordinate range. Nothing when the position is no finite number.
+  std::optional<Point> Station(const Position& position) const;
 
   /// Vertices given as the outline files do, longitude EAST, not limited. A vertex whose position is no
   /// finite number comes out as NaN. REQUIRES: the spans are of one length.
@@ -35,9 +35,5 @@ class MapProjection {
   ProjectionCenter center_;
   bool onEarth_ = false;  // whether home is a place that PlaceVertices knows
 };
-
-/// An outline file's longitude in -180 to 180: above 180, 360 is taken off, at most twice; then below -180,
-/// 360 is added. Exactly 180 stays.
-float BringIntoRange(float longitudeEast);
 
 }  // namespace kestrel

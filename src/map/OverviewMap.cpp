@@ -30,8 +30,7 @@ void DrawStations(Canvas& canvas, const DataFolder& folder, float channel, const
   if (!bytes) return;
   StationLineReader reader(View(*bytes));
   while (const auto station = reader.Next()) {
-    const auto at = projection.Station(static_cast<float>(station->Number(station->Latitude)),
-                                       static_cast<float>(station->Number(station->Longitude)));
+    const auto at = projection.Station(station->At());
     if (at) canvas.FilledCircle(*at, kStationRadius);
   }
 }
@@ -44,7 +43,7 @@ ColorValue OpeningBackground(double y, double height) {
 }
 
 void DrawOverviewMap(Canvas& canvas, const DataFolder& folder) {
-  const MapProjection projection(39, 97, 160);
+  const MapProjection projection({39, 97}, 160);
   canvas.SetLineWidth(2);
   canvas.SetColor(kRegionColor);
   DrawFile(canvas, folder, "REGION2.dat", projection);

@@ -180,7 +180,7 @@ PrintedPage MapPage(const SessionState& state, const DataFolder& folder, const S
 }
 
 PrintedPage OutlinePage(const SessionState& state, const DataFolder& folder) {
-  const MapProjection projection(state.HomeLatitude, state.HomeLongitude, state.ScaleFactor);
+  const MapProjection projection(state.Home(), state.ScaleFactor);
   const auto layout = [projection, &folder, title = "Region 2    Home: " + HomePlace(state)](PageSize page) {
     return TitledMap(page, title, {}, {},
                      [projection, &folder](Canvas& canvas) { DrawOutlineFiles(canvas, folder, projection); });

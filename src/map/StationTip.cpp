@@ -37,7 +37,7 @@ std::optional<std::string> StationTip(const DataFolder& folder, const SessionSta
   const QString name = StationFileName(static_cast<float>(mark.Channel));
   const Result<QByteArray> bytes = folder.Read(name);
   if (!bytes) return std::nullopt;
-  const MapProjection projection(state.HomeLatitude, state.HomeLongitude, state.ScaleFactor);
+  const MapProjection projection(state.Home(), state.ScaleFactor);
   StationLineReader reader({bytes->constData(), static_cast<std::size_t>(bytes->size())});
   std::string head;
   std::string powers;
@@ -48,7 +48,7 @@ std::optional<std::string> StationTip(const DataFolder& folder, const SessionSta
     const bool shown =
         record.HoursCode == mark.HoursCode || Passes(HoursOf(record.HoursCode), state.HoursFilter);
     if (record.CallSign != mark.CallSign || !shown) continue;
-    if (projection.Station(record.Latitude, record.Longitude) != mark.At) continue;
+    if (projection.Station(record.At()) != mark.At) continue;
     if (head.empty()) {
       head = std::to_string(mark.Channel) + " kHz " + record.CallSign + "  " + PlaceText(record);
       place = FromHomeText(state, record.Latitude, record.Longitude);
@@ -70,8 +70,8 @@ std::string PowerText(float powerKW) {
 }
 
 std::string FromHomeText(const SessionState& state, float latitude, float longitudeWest) {
-  const DistanceReadout readout = MeasureDistance({state.HomeLatitude, state.HomeLongitude},
-                                                  {latitude, longitudeWest}, state.DistanceUnit);
+  const DistanceReadout readout =
+      MeasureDistance(state.Home(), {latitude, longitudeWest}, state.DistanceUnit);
   return std::string(Trim(readout.DistanceText)) + ", " + readout.BearingText;
 }
 

@@ -1,3 +1,4 @@
+#include "core/Position.h"
 #include "data/PlaceLists.h"
 
 #include <gtest/gtest.h>
@@ -58,7 +59,7 @@ TEST(PlaceListsTest, HomeStaysWithinItsLimits) {
   };
   // clang-format on
   for (const auto& row : rows) {
-    const HomePosition home = ReadHomePosition(row.latitude, row.longitude);
+    const Position home = ReadHomePosition(row.latitude, row.longitude);
     EXPECT_EQ(home.Latitude, row.north) << row.latitude;
     EXPECT_EQ(home.Longitude, row.west) << row.longitude;
   }

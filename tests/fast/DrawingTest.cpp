@@ -73,7 +73,7 @@ TEST(DrawingTest, TheWholeBand) {
   const SessionState state;
   QImage straight(kSize, QImage::Format_RGB32);
   straight::DrawScan(straight, KESTREL_SHARE_DIR, state);
-  const MapProjection projection(state.HomeLatitude, state.HomeLongitude, state.ScaleFactor);
+  const MapProjection projection(state.Home(), state.ScaleFactor);
   ExpectSameInk(Quick([&](DisplayList& list) {
                   DrawOutlineFiles(list, folder, projection);
                   for (BandScan scan(folder, projection); !scan.AtEnd();) EXPECT_TRUE(scan.DrawNext(list));

@@ -29,7 +29,7 @@ void ExpectSamePlace(float fast, float straight) {
 }
 
 void ExpectSamePlaces(const Home& home, float scale, const SampleVertices& vertices) {
-  const std::vector<Point> fast = Places(MapProjection(home.Latitude, home.Longitude, scale), vertices);
+  const std::vector<Point> fast = Places(MapProjection({home.Latitude, home.Longitude}, scale), vertices);
   for (std::size_t i = 0; i < fast.size(); ++i) {
     const Point straight =
         straight::Place(home.Latitude, home.Longitude, scale, vertices.Latitudes[i], vertices.Longitudes[i]);
@@ -70,9 +70,9 @@ TEST(ProjectionTest, OutlinesLieWhereTheStraightFormulaPutsThem) {
 }
 
 TEST(ProjectionTest, HomeIsExactAndHostileAnglesKeepTheirPlace) {
-  const MapProjection projection(33.24278F, 96.54139F, 10000);
-  EXPECT_EQ(projection.Station(33.24278F, 96.54139F), HomeOnSheet);
-  EXPECT_EQ(MapProjection(40, 75, 1000).Station(40.5F, 75)->x, 6000);
+  const MapProjection projection({33.24278F, 96.54139F}, 10000);
+  EXPECT_EQ(projection.Station({33.24278F, 96.54139F}), HomeOnSheet);
+  EXPECT_EQ(MapProjection({40, 75}, 1000).Station({40.5F, 75})->x, 6000);
   const SampleVertices hostile = {{1e7F, 3.4e38F, -1e20F, 1, 1}, {1, 1, 1, 2e6F, -3.4e38F}};
   const std::vector<Point> fast = Places(projection, hostile);
   for (std::size_t i = 0; i < fast.size(); ++i) {
@@ -81,9 +81,9 @@ TEST(ProjectionTest, HomeIsExactAndHostileAnglesKeepTheirPlace) {
     ExpectSamePlace(fast[i].x, straight.x);
     ExpectSamePlace(fast[i].y, straight.y);
   }
-  EXPECT_FALSE(projection.Station(std::nanf(""), 0));
-  EXPECT_FALSE(projection.Station(0, std::nanf("")));
-  EXPECT_TRUE(MapProjection(3e38F, -3e38F, 200).Station(10, 20));
+  EXPECT_FALSE(projection.Station({std::nanf(""), 0}));
+  EXPECT_FALSE(projection.Station({0, std::nanf("")}));
+  EXPECT_TRUE(MapProjection({3e38F, -3e38F}, 200).Station({10, 20}));
 }
 
 }  // namespace

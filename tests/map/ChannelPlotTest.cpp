@@ -33,7 +33,8 @@ class ChannelPlotTest : public testing::Test {
 
   ChannelOutcome Plot(float channel = 1230) {
     canvas_.Clear();
-    return PlotChannel(canvas_, files_.Folder(), state_, MapProjection(40, 75, state_.ScaleFactor), channel);
+    return PlotChannel(canvas_, files_.Folder(), state_, MapProjection({40, 75}, state_.ScaleFactor),
+                       channel);
   }
 
   /// Channel, call sign, hours code, figure and colour of each station drawn.

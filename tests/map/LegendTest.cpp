@@ -81,10 +81,11 @@ TEST(LegendTest, BoxesWidenToTheirText) {
 
 TEST(LegendTest, BannerAndNotice) {
   RecordingCanvas canvas;
-  for (const int filter : {0, 3, -1}) DrawHoursBanner(canvas, filter);
+  for (const auto filter : {HoursFilter::All, HoursFilter{3}, HoursFilter{-1}})
+    DrawHoursBanner(canvas, filter);
   EXPECT_EQ(canvas.Readable(), "");
-  DrawHoursBanner(canvas, 1);
-  DrawHoursBanner(canvas, 2);
+  DrawHoursBanner(canvas, HoursFilter::Day);
+  DrawHoursBanner(canvas, HoursFilter::Night);
   DrawMissingFileNotice(canvas, 1230);
   EXPECT_EQ(canvas.Texts(), (std::vector<std::string>{"    Day, critical & unlimited only",
                                                       "    Night, critical & unlimited only",

@@ -96,7 +96,7 @@ TEST_F(MainMapTest, AMissingFileLeavesItsNotice) {
 
 TEST_F(MainMapTest, TheScanMarksStationsWithoutPatterns) {
   files_.Put("1230x.dat", kStation + kStation + "1230,WABC,City,ST,US,N,-60,75,1,-,-,0\n");
-  const MapProjection projection(40, 75, 1000);
+  const MapProjection projection({40, 75}, 1000);
   RecordingCanvas canvas;
   BandScan scan(files_.Folder(), projection);
   while (scan.Channel() < 1230) EXPECT_EQ(scan.DrawNext(canvas).error().kind, Error::Kind::NotFound);

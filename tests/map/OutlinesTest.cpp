@@ -15,7 +15,7 @@ namespace {
 /// An outline drawn around 0 N, 75 W at 1114.4 twips to a degree, so that vertices read easily.
 std::string Draw(std::string_view bytes) {
   RecordingCanvas canvas;
-  DrawOutline(canvas, bytes, MapProjection(0, 75, 750));
+  DrawOutline(canvas, bytes, MapProjection({0, 75}, 750));
   return canvas.Readable();
 }
 
@@ -86,7 +86,7 @@ TEST(OutlinesTest, StrokesGoOnFromPieceToPiece) {
 
 /// A long file is read in two halves.
 TEST(OutlinesTest, ALongFileIsDrawnAsItsVerticesAre) {
-  const MapProjection projection(0, 75, 750);
+  const MapProjection projection({0, 75}, 750);
   const auto strokes = [](int count, const char* lift) {
     std::string bytes;
     for (int i = 0; i < count; ++i)
@@ -123,7 +123,7 @@ TEST(OutlinesTest, FilesInTheirColoursWithTheHomeMarkBetween) {
   files.Put("states.DAT", "0 285\n1 285\n-2000\n");
   files.Put("REGION2.dat", "0 285\n0 286\n");
   RecordingCanvas canvas;
-  EXPECT_TRUE(DrawOutlineFiles(canvas, files.Folder(), MapProjection(0, 75, 750)).empty());
+  EXPECT_TRUE(DrawOutlineFiles(canvas, files.Folder(), MapProjection({0, 75}, 750)).empty());
   const std::string home =
       "Circle 0000FF (6000,4500) r50\n"
       "Line 0000FF (5950,4500) (6050,4500)\n"
@@ -133,10 +133,10 @@ TEST(OutlinesTest, FilesInTheirColoursWithTheHomeMarkBetween) {
 
   const TestFolder empty;
   canvas.Clear();
-  EXPECT_TRUE(DrawOutlineFiles(canvas, empty.Folder(), MapProjection(0, 75, 750)).empty());
+  EXPECT_TRUE(DrawOutlineFiles(canvas, empty.Folder(), MapProjection({0, 75}, 750)).empty());
   EXPECT_EQ(canvas.Readable(), home);
   QDir(empty.Folder().Path()).mkdir("region2.dat");
-  EXPECT_EQ(DrawOutlineFiles(canvas, empty.Folder(), MapProjection(0, 75, 750)),
+  EXPECT_EQ(DrawOutlineFiles(canvas, empty.Folder(), MapProjection({0, 75}, 750)),
             std::vector<std::string>{"region2.dat: is a folder or a device, not a file"});
 }
 
