@@ -8,13 +8,13 @@
 
 #include "Targets.h"
 #include "data/StationFile.h"
+#include "data/SwapJournal.h"
 #include "import/AmqList.h"
 #include "import/Intake.h"
 #include "import/LineStream.h"
 #include "import/Merge.h"
 #include "import/ReadFiles.h"
 #include "import/StationSet.h"
-#include "import/SwapJournal.h"
 
 namespace kestrel::fuzz {
 namespace {

@@ -2,10 +2,10 @@
 #include <memory>
 
 #include "core/FreedMemory.h"
+#include "data/DataSwap.h"
 #include "forms/CommandIcons.h"
 #include "forms/frmOpening.h"
 #include "forms/frmPlot.h"
-#include "import/DataSwap.h"
 
 int main(int argc, char** argv) {
   using namespace kestrel;

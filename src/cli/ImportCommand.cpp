@@ -9,9 +9,9 @@
 #include "cli/Json.h"
 #include "cli/Options.h"
 #include "core/Text.h"
+#include "data/DataSwap.h"
 #include "data/FileIo.h"
 #include "import/Countries.h"
-#include "import/DataSwap.h"
 #include "import/Import.h"
 
 namespace kestrel::cli {

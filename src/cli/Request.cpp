@@ -6,9 +6,9 @@
 #include "core/Band.h"
 #include "core/Numbers.h"
 #include "core/SessionFile.h"
+#include "data/DataSwap.h"
 #include "data/FileIo.h"
 #include "data/StationFile.h"
-#include "import/DataSwap.h"
 
 namespace kestrel::cli {
 namespace {

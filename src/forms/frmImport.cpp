@@ -16,9 +16,9 @@
 #include <QTableView>
 #include <QUrl>
 
+#include "data/DataSwap.h"
 #include "data/FileIo.h"
 #include "import/Countries.h"
-#include "import/DataSwap.h"
 #include "ui/Controls.h"
 #include "ui/RowsModel.h"
 

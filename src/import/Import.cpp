@@ -8,9 +8,9 @@
 #include <new>
 #include <utility>
 
+#include "data/DataSwap.h"
 #include "data/FileIo.h"
 #include "data/StationFile.h"
-#include "import/DataSwap.h"
 #include "import/Intake.h"
 #include "import/Merge.h"
 #include "import/ReadFiles.h"

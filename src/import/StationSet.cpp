@@ -81,17 +81,6 @@ void ForEachChannel(Each each) {
 
 }  // namespace
 
-const std::vector<std::string>& StationSetNames() {
-  static const std::vector<std::string> names = [] {
-    std::vector<std::string> all;
-    ForEachChannel([&](int channel) { all.push_back(FileName(channel)); });
-    all.emplace_back(kCallIndex);
-    all.emplace_back(kStationsLine);
-    return all;
-  }();
-  return names;
-}
-
 void MakeStationFiles(Stations stations, std::string_view stationsLine, ImportReport& report,
                       const TakeFile& take) {
   take(std::string(kCallIndex), CallIndexText(stations, report));

@@ -1,25 +1,17 @@
 #pragma once
 
-#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
-#include <vector>
 
+#include "data/StationSet.h"
 #include "import/ImportReport.h"
 #include "import/Station.h"
 
 namespace kestrel {
 
-/// The files that an import replaces, and no others, by name: 118 station files, "StationsCall.DAT" and
-/// "Stations.txt".
+/// The files that an import replaces, by name.
 using StationSet = std::map<std::string, std::string>;
-
-/// The names of those files.
-const std::vector<std::string>& StationSetNames();
-
-/// Takes one of the files, whole.
-using TakeFile = std::function<void(const std::string& name, std::string bytes)>;
 
 /// Makes the files for these stations, which are sorted by channel, and hands out one after the other, so
 /// that no more than one need be held; the stations go as they are written. `stationsLine` is the line of

@@ -4,7 +4,7 @@
 
 #include "core/Result.h"
 #include "data/DataFolder.h"
-#include "import/StationSet.h"
+#include "data/StationSet.h"
 
 // Replacing the station files of a data folder all at once. docs/formats/import-journal.md describes what
 // stands in the folder meanwhile.
@@ -22,9 +22,9 @@ using FileSource = std::function<void(const TakeFile&)>;
 /// touched. The new files are written beside the old ones first; interrupted before all are whole, the old
 /// set stays, later the new one is completed by RecoverImport. A failure brings the old set back; there is
 /// none once all files are exchanged. Errors: Refused, with the file that made the trouble, or the folder
-/// when it cannot be written to or another import is at work in it (a lock file that names no process and that
-/// none holds is passed over once it is ten seconds old); NotAFile when something that is no lock file, a link
-/// or a long file among them, stands in the lock file's place; nothing is waited for.
+/// when it cannot be written to or another import is at work in it (a lock file that names no process and
+/// that none holds is passed over once it is ten seconds old); NotAFile when something that is no lock file,
+/// a link or a long file among them, stands in the lock file's place; nothing is waited for.
 Result<Done> SwapInStations(const DataFolder& folder, const FileSource& source, const SwapStep& step = {});
 
 /// Brings the set back that the last import replaced, and keeps the present one in its turn: done twice, all

@@ -1,4 +1,4 @@
-#include "import/DataSwap.h"
+#include "data/DataSwap.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -11,7 +11,7 @@
 #include <optional>
 
 #include "data/FileIo.h"
-#include "import/SwapJournal.h"
+#include "data/SwapJournal.h"
 
 namespace kestrel {
 namespace {

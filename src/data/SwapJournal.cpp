@@ -1,4 +1,4 @@
-#include "import/SwapJournal.h"
+#include "data/SwapJournal.h"
 
 #include "core/Lines.h"
 

@@ -1,4 +1,4 @@
-#include "import/DataSwap.h"
+#include "data/DataSwap.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -15,7 +15,7 @@
 #include <QTemporaryDir>
 
 #include "data/FileIo.h"
-#include "import/SwapJournal.h"
+#include "data/SwapJournal.h"
 
 namespace kestrel {
 namespace {
@@ -211,7 +211,8 @@ TEST_F(DataSwapTest, TwoImportsDoNotMeet) {
   QLockFile other(folder.Path() + "/.import-lock");
   ASSERT_TRUE(other.tryLock(0));
   QDir(folder.Path()).mkdir(".import-new");
-  EXPECT_EQ(SwapInStations(folder, Set("new")).error().text, "another import is at work in it (if none is, remove .import-lock there)");
+  EXPECT_EQ(SwapInStations(folder, Set("new")).error().text,
+            "another import is at work in it (if none is, remove .import-lock there)");
   EXPECT_FALSE(UndoImport(folder));
   EXPECT_TRUE(RecoverImport(folder));
   EXPECT_TRUE(QFileInfo::exists(folder.Path() + "/.import-new"));  // the other one's
@@ -285,11 +286,13 @@ TEST_F(DataSwapTest, ALockFileThatNamesNobodyLocksNobodyOut) {
   EXPECT_EQ(Holds(folder), "new");
 
   put("", 0);  // another import may be making it
-  EXPECT_EQ(SwapInStations(folder, Set("newer")).error().text, "another import is at work in it (if none is, remove .import-lock there)");
+  EXPECT_EQ(SwapInStations(folder, Set("newer")).error().text,
+            "another import is at work in it (if none is, remove .import-lock there)");
   put("", 60);
   const int held = open(QFile::encodeName(lock).constData(), O_RDWR);
   ASSERT_EQ(flock(held, LOCK_EX), 0);
-  EXPECT_EQ(SwapInStations(folder, Set("newer")).error().text, "another import is at work in it (if none is, remove .import-lock there)");
+  EXPECT_EQ(SwapInStations(folder, Set("newer")).error().text,
+            "another import is at work in it (if none is, remove .import-lock there)");
   close(held);
   EXPECT_TRUE(SwapInStations(folder, Set("newer")));
 }
