@@ -1,7 +1,7 @@
 #include "data/StationSet.h"
 
+#include "core/Band.h"
 #include "data/DataFolder.h"
-#include "data/StationFile.h"
 
 namespace kestrel {
 
