@@ -6,12 +6,10 @@
 #include <vector>
 
 #include "core/Hours.h"
+#include "core/Palette.h"
 #include "core/Position.h"
 
 namespace kestrel {
-
-/// A colour as 0x00BBGGRR: 255 is red, 16711680 blue, 16777215 white.
-using ColorValue = std::int32_t;
 
 /// The settings of the running program. `main` owns the one instance and hands it to every window; part of it
 /// is kept between runs in the last-session file. The member values here are those of a first start.

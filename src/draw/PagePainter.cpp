@@ -44,14 +44,8 @@ void PaintPage(QPainter& painter, const PrintedPage& page, QSizeF paintable, dou
     const double hair = rules.PixelSize;
     painter.save();
     painter.setClipRect(rules.Area.adjusted(-hair, -hair, hair, hair));
-    PainterCanvas canvas(painter, rules);
-    if (inColor) {
-      pane.Draw(canvas);
-    } else {
-      RecoloredCanvas greys(canvas, page.Greys);
-      greys.SetColor(0);
-      pane.Draw(greys);
-    }
+    PainterCanvas canvas(painter, rules, inColor ? Recoloring() : page.Greys);
+    pane.Draw(canvas);
     painter.restore();
   }
 }

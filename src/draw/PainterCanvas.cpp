@@ -1,6 +1,7 @@
 #include "draw/PainterCanvas.h"
 
 #include <array>
+#include <utility>
 #include <vector>
 
 namespace kestrel {
@@ -9,14 +10,16 @@ QColor PlatformColor(ColorValue color) {
   return QColor(color & 0xFF, color >> 8 & 0xFF, color >> 16 & 0xFF);
 }
 
-PainterCanvas::PainterCanvas(QPainter& painter, const SurfaceRules& rules) : painter_(painter), view_(rules) {
+PainterCanvas::PainterCanvas(QPainter& painter, const SurfaceRules& rules, Recoloring recoloring)
+    : painter_(painter), view_(rules), recoloring_(std::move(recoloring)) {
   painter_.setRenderHint(QPainter::Antialiasing);
   painter_.setBrush(Qt::NoBrush);
-  UsePen();
+  SetColor(Palette::Black);
 }
 
 void PainterCanvas::UsePen() {
-  painter_.setPen(QPen(color_, lineWidth_ * view_.PixelSize(), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  const double width = lineWidth_ * widthFactor_ * view_.PixelSize();
+  painter_.setPen(QPen(color_, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
 }
 
 void PainterCanvas::UseFont() {
@@ -26,7 +29,9 @@ void PainterCanvas::UseFont() {
 }
 
 void PainterCanvas::SetColor(ColorValue color) {
-  color_ = PlatformColor(color);
+  const Ink ink = recoloring_ ? recoloring_(color) : Ink{color};
+  color_ = PlatformColor(ink.Color);
+  widthFactor_ = ink.WidthFactor;
   UsePen();
 }
 

@@ -4,14 +4,16 @@
 
 #include "draw/Fonts.h"
 #include "draw/SurfaceView.h"
+#include "map/Greys.h"
 
 namespace kestrel {
 
 /// A canvas on whatever a QPainter paints on: a window, an image, a PDF page, a printer.
 class PainterCanvas final : public Canvas {
  public:
-  /// The painter must be active and outlive the canvas; it works in the surface's units.
-  PainterCanvas(QPainter& painter, const SurfaceRules& rules);
+  /// The painter must be active and outlive the canvas; it works in the surface's units. Colours come out as
+  /// the recoloring has them; without one, as they are.
+  PainterCanvas(QPainter& painter, const SurfaceRules& rules, Recoloring recoloring = {});
 
   void SetColor(ColorValue color) override;
   void SetLineWidth(float width) override;
@@ -41,8 +43,10 @@ class PainterCanvas final : public Canvas {
   PlatformTextMeasure measure_;
   Font font_;
   bool fontStale_ = true;
-  QColor color_ = Qt::black;
-  double lineWidth_ = 1;
+  QColor color_;
+  const Recoloring recoloring_;
+  float lineWidth_ = 1;
+  float widthFactor_ = 1;  // of the present ink
 };
 
 /// The platform's colour for one of ours.

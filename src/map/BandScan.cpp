@@ -21,8 +21,6 @@ constexpr float kLabelAbove = 210;
 constexpr float kCrossArm = 16;  // half a line of the cross
 constexpr Font kLabelFont = {FontFace::Sans, 8};
 constexpr Font kMapFont = {FontFace::Sans, 10};
-constexpr ColorValue kTextColor = 0x202020;
-constexpr ColorValue kCrossColor = 255;
 
 float ChannelOf(std::size_t index) {
   return LowestChannel + ChannelStep * static_cast<float>(index);
@@ -68,10 +66,10 @@ void DrawChannel(Canvas& canvas, float channel, const std::vector<StationMark>& 
     const auto [x, y] = mark.At;
     canvas.BeginStation(mark);
     if (labelled.insert(Spot(mark.At)).second) {
-      canvas.SetColor(kTextColor);
+      canvas.SetColor(Palette::Text);
       canvas.Text({x - kLabelLeft, y - kLabelAbove}, label);
     }
-    canvas.SetColor(kCrossColor);
+    canvas.SetColor(Palette::ScanCross);
     canvas.Line({x - kCrossArm, y}, {x + kCrossArm, y});
     canvas.Line({x, y - kCrossArm}, {x, y + kCrossArm});
     canvas.EndStation();

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/SessionState.h"
+#include "core/Palette.h"
 
 namespace kestrel {
 

@@ -10,9 +10,6 @@ namespace {
 
 constexpr float kOuterRadius = 4000;
 constexpr float kInnerRadius = 800;
-constexpr ColorValue kSpokeColor = 0xFF8888;
-constexpr ColorValue kBoxColor = 0xFFEEDD;
-constexpr ColorValue kBorderColor = 0xFF1111;
 constexpr Font kBearingFont = {FontFace::Sans, 8};
 constexpr double kDegreesPerRadian = 57.29578;
 
@@ -29,9 +26,9 @@ void DrawBearingBox(Canvas& canvas, int bearing, Point at) {
   const float halfWidth = canvas.TextWidth("000") / 2 + 30;
   const float halfHeight = height / 2 + 10;
   canvas.BeginPanel(at, kBearingFont);
-  canvas.SetColor(kBoxColor);
+  canvas.SetColor(Palette::CompassPaper);
   canvas.FilledBox({at.x - halfWidth, at.y - halfHeight}, {at.x + halfWidth, at.y + halfHeight});
-  canvas.SetColor(kBorderColor);
+  canvas.SetColor(Palette::CompassText);
   canvas.Box({at.x - halfWidth, at.y - halfHeight}, {at.x + halfWidth, at.y + halfHeight});
   canvas.Text({at.x - width / 2, at.y - height / 2}, text);
   canvas.EndPanel();
@@ -45,7 +42,7 @@ void DrawCompass(Canvas& canvas, float aspectRatio) {
   for (int bearing = 0; bearing <= 350; bearing += 10) {
     const Point outer = OnRose(bearing, kOuterRadius, aspectRatio);
     const Point inner = bearing % 90 == 0 ? HomeOnSheet : OnRose(bearing, kInnerRadius, aspectRatio);
-    canvas.SetColor(kSpokeColor);
+    canvas.SetColor(Palette::CompassSpoke);
     canvas.Line(inner, outer);
     DrawBearingBox(canvas, bearing, outer);
   }

@@ -24,13 +24,6 @@ constexpr std::size_t kLongStroke = 4096;  // vertices, drawn before there are m
 constexpr float kSmallestZoom = 0.25F;
 constexpr float kLargestZoom = 8;
 
-constexpr ColorValue kBackground = 16777198;
-constexpr ColorValue kWhite = 0xFFFFFF;
-constexpr ColorValue kBlack = 0;
-constexpr ColorValue kRed = 255;
-constexpr ColorValue kBlue = 16711680;
-constexpr ColorValue kTextColor = 0x202020;
-
 bool IsVisible(Point point) {
   // Written so that a vertex without a position (NaN) is none.
   return point.y >= kFrameCorner.y && point.y <= kLowestLine && point.x >= kFrameCorner.x &&
@@ -69,11 +62,11 @@ void DrawOutlineAround(Canvas& canvas, std::string_view bytes, const MapProjecti
 }
 
 void DrawStationMark(Canvas& canvas) {
-  canvas.SetColor(kWhite);
+  canvas.SetColor(Palette::White);
   canvas.SetLineWidth(10);
   canvas.Circle(kCenter, 10);
   canvas.SetLineWidth(1);
-  canvas.SetColor(kRed);
+  canvas.SetColor(Palette::ContextMark);
   canvas.Circle(kCenter, 75);
   canvas.Line({0.34F * W, kCenter.y}, {0.36F * W, kCenter.y});
   canvas.Line({kCenter.x, 0.315F * H}, {kCenter.x, 0.335F * H});
@@ -83,7 +76,7 @@ void DrawStationMark(Canvas& canvas) {
 /// beyond the drawing area.
 void DrawMasks(Canvas& canvas) {
   constexpr float kFar = CoordinateLimit;
-  canvas.SetColor(kBackground);
+  canvas.SetColor(Palette::ContextGround);
   canvas.FilledBox({-kFar, -kFar}, {kFrameCorner.x, kFar});
   canvas.FilledBox({kFrameOpposite.x, -kFar}, {kFar, kFar});
   canvas.FilledBox({-kFar, -kFar}, {kFar, kFrameCorner.y});
@@ -97,7 +90,7 @@ void DrawNotices(Canvas& canvas, const std::vector<std::string>& unreadable) {
   Point at = {kFrameCorner.x + kMargin, kFrameCorner.y + kMargin};
   canvas.BeginPanel(at, kFont);
   canvas.SetFont(kFont);
-  canvas.SetColor(kTextColor);
+  canvas.SetColor(Palette::Text);
   for (const std::string& name : unreadable) {
     canvas.Text(at, name + " cannot be read");
     at.y += canvas.TextHeight();
@@ -109,7 +102,7 @@ void DrawNotices(Canvas& canvas, const std::vector<std::string>& unreadable) {
 
 void DrawContextMap(Canvas& canvas, const DataFolder& folder, float latitude, float longitude, float zoom) {
   const MapProjection projection({latitude, longitude}, kTwipsPer75Km * zoom);
-  canvas.SetColor(kWhite);
+  canvas.SetColor(Palette::White);
   canvas.FilledBox(kFrameCorner, kFrameOpposite);
   canvas.SetLineWidth(1);
   std::vector<std::string> unreadable;
@@ -119,13 +112,13 @@ void DrawContextMap(Canvas& canvas, const DataFolder& folder, float latitude, fl
       unreadable.emplace_back(name);
       continue;
     }
-    canvas.SetColor(kBlack);
+    canvas.SetColor(Palette::ContextOutline);
     DrawOutlineAround(canvas, {bytes->constData(), static_cast<std::size_t>(bytes->size())}, projection);
   }
   DrawStationMark(canvas);
   DrawMasks(canvas);
   if (!unreadable.empty()) DrawNotices(canvas, unreadable);
-  canvas.SetColor(kBlue);
+  canvas.SetColor(Palette::ContextFrame);
   canvas.Box(kFrameCorner, kFrameOpposite);
 }
 

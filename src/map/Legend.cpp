@@ -12,9 +12,6 @@ namespace kestrel {
 namespace {
 
 constexpr Font kLegendFont = {FontFace::Sans, 10};
-constexpr ColorValue kWhite = 0xFFFFFF;
-constexpr ColorValue kBannerColor = 0xFFFFEE;
-constexpr ColorValue kTextColor = 0x202020;
 constexpr float kTextLeft = 500;
 constexpr float kBoxLeft = 200;
 constexpr float kMargin = 200;  // between a text's end and its box's
@@ -29,7 +26,7 @@ struct LegendLine {
 void DrawLines(Canvas& canvas, float top, float bottom, float right, std::span<const LegendLine> lines) {
   for (const LegendLine& line : lines)
     right = std::max(right, kTextLeft + canvas.TextWidth(line.Text) + kMargin);
-  canvas.SetColor(kWhite);
+  canvas.SetColor(Palette::White);
   canvas.FilledBox({kBoxLeft, top}, {right, bottom});
   for (const LegendLine& line : lines) {
     canvas.SetColor(line.Color);
@@ -45,10 +42,10 @@ void DrawScales(Canvas& canvas, const SessionState& state) {
       "Pattern:" + PatternScaleText(state.PatternSize) + "  " + std::string(FilterWord(state.HoursFilter));
   const float patternLeft = std::max(kPatternLeft, kTextLeft + canvas.TextWidth(map) + kMargin / 2);
 
-  canvas.SetColor(kWhite);
+  canvas.SetColor(Palette::White);
   canvas.FilledBox({kBoxLeft, 8800},
                    {std::max(3200.0F, patternLeft + canvas.TextWidth(pattern) + kMargin), 9400});
-  canvas.SetColor(kTextColor);
+  canvas.SetColor(Palette::Text);
   canvas.Text({kTextLeft, kTop}, map);
   canvas.Text({patternLeft, kTop}, pattern);
 }
@@ -76,11 +73,11 @@ void DrawLegend(Canvas& canvas, const SessionState& state) {
       LegendLine{6860, state.AdjacentColor, "Adjacents"}, LegendLine{7100, state.UnlimitedColor, "Unlimited"},
       LegendLine{7340, state.DayColor, "Daytime"}, LegendLine{7580, state.CriticalColor, "Critical"},
       LegendLine{7820, state.NightColor, "Nighttime"}};
-  const std::array places = {LegendLine{8060, kTextColor, "Frequency: " + NumberText(frequency) + " kHz"},
-                             LegendLine{8300, kTextColor,
+  const std::array places = {LegendLine{8060, Palette::Text, "Frequency: " + NumberText(frequency) + " kHz"},
+                             LegendLine{8300, Palette::Text,
                                         "Home Lat: " + NumberText(state.HomeLatitude) +
                                             "    Home Lon: " + NumberText(state.HomeLongitude)},
-                             LegendLine{8540, kTextColor, "Home:  " + state.HomeName}};
+                             LegendLine{8540, Palette::Text, "Home:  " + state.HomeName}};
 
   canvas.BeginPanel({kBoxLeft, 9400}, kLegendFont);
   canvas.SetFont(kLegendFont);
@@ -96,9 +93,9 @@ void DrawHoursBanner(Canvas& canvas, HoursFilter filter) {
                                                       : "    Night, critical & unlimited only";
   canvas.BeginPanel({1230, 30}, kLegendFont);
   canvas.SetFont(kLegendFont);
-  canvas.SetColor(kBannerColor);
+  canvas.SetColor(Palette::NoticePaper);
   canvas.FilledBox({1230, 30}, {std::max(4600.0F, 1230 + canvas.TextWidth(text) + kMargin), 360});
-  canvas.SetColor(kTextColor);
+  canvas.SetColor(Palette::Text);
   canvas.Text({1230, 60}, text);
   canvas.EndPanel();
 }
@@ -107,9 +104,9 @@ void DrawMissingFileNotice(Canvas& canvas, float frequency) {
   const std::string text = "    No station file for " + NumberText(frequency) + " kHz";
   canvas.BeginPanel({1230, 30}, kLegendFont);
   canvas.SetFont(kLegendFont);
-  canvas.SetColor(kBannerColor);
+  canvas.SetColor(Palette::NoticePaper);
   canvas.FilledBox({1230, 400}, {std::max(4600.0F, 1230 + canvas.TextWidth(text) + kMargin), 730});
-  canvas.SetColor(kTextColor);
+  canvas.SetColor(Palette::Text);
   canvas.Text({1230, 430}, text);
   canvas.EndPanel();
 }

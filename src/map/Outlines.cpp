@@ -10,7 +10,6 @@
 namespace kestrel {
 namespace {
 
-constexpr ColorValue kHomeColor = 255;
 constexpr float kLongestStep = 2000;  // twips, in x or in y
 constexpr float kHomeRadius = 50;
 constexpr std::size_t kLongStroke = 4096;  // vertices; no coast of the data given has as many
@@ -22,7 +21,7 @@ bool IsLongStep(Point from, Point to) {
 
 void DrawHomeMark(Canvas& canvas) {
   const auto [x, y] = HomeOnSheet;
-  canvas.SetColor(kHomeColor);
+  canvas.SetColor(Palette::Home);
   canvas.Circle(HomeOnSheet, kHomeRadius);
   canvas.Line({x - kHomeRadius, y}, {x + kHomeRadius, y});
   canvas.Line({x, y - kHomeRadius}, {x, y + kHomeRadius});
@@ -195,12 +194,12 @@ std::vector<std::string> DrawOutlineFiles(Canvas& canvas, const DataFolder& fold
   const Result<QByteArray> states = folder.Read("STATES.dat");
   canvas.SetLineWidth(1);
   if (states) {
-    canvas.SetColor(StatesOutlineColor);
+    canvas.SetColor(Palette::StatesOutline);
     DrawOutline(canvas, View(*states), projection);
   }
   DrawHomeMark(canvas);
   if (regionOutline) {
-    canvas.SetColor(RegionOutlineColor);
+    canvas.SetColor(Palette::RegionOutline);
     regionOutline->Draw(canvas);
   }
   std::vector<std::string> notes;

@@ -16,9 +16,6 @@
 
 namespace kestrel {
 
-inline constexpr ColorValue RegionOutlineColor = 0xCC8888;
-inline constexpr ColorValue StatesOutlineColor = 0xDD9999;
-
 /// Joins the vertices of an outline, which come piece by piece, to strokes. The pen is lifted at pen-up
 /// marks, where a vertex has no position, and where two vertices lie more than 2000 twips apart in x or y, so
 /// that a line which leaves the map or wraps is not drawn across it. A stroke of many thousand vertices comes

@@ -11,9 +11,6 @@
 namespace kestrel {
 namespace {
 
-constexpr ColorValue kRegionColor = 0xE8B890;
-constexpr ColorValue kStatesColor = 0xA06848;
-constexpr ColorValue kStationColor = 16750865;
 constexpr float kStationRadius = 7;
 
 std::string_view View(const QByteArray& bytes) {
@@ -45,12 +42,12 @@ ColorValue OpeningBackground(double y, double height) {
 void DrawOverviewMap(Canvas& canvas, const DataFolder& folder) {
   const MapProjection projection({39, 97}, 160);
   canvas.SetLineWidth(2);
-  canvas.SetColor(kRegionColor);
+  canvas.SetColor(Palette::OpeningRegion);
   DrawFile(canvas, folder, "REGION2.dat", projection);
   canvas.SetLineWidth(1);
-  canvas.SetColor(kStatesColor);
+  canvas.SetColor(Palette::OpeningStates);
   DrawFile(canvas, folder, "STATES.dat", projection);
-  canvas.SetColor(kStationColor);
+  canvas.SetColor(Palette::OpeningStation);
   for (const float channel : {1230.F, 1240.F, 1340.F, 1400.F, 1450.F, 1490.F})
     DrawStations(canvas, folder, channel, projection);
 }

@@ -10,18 +10,6 @@
 namespace kestrel {
 namespace {
 
-constexpr ColorValue kSpokeColor = 0xDDDDDD;
-constexpr ColorValue kMarkColor = 0x0000FF;
-constexpr ColorValue kNightTrace = 0;
-constexpr ColorValue kCriticalTrace = 0xCCCC11;
-constexpr ColorValue kDayTrace = 0x119911;
-constexpr ColorValue kUnlimitedTrace = 0x0000AA;
-constexpr ColorValue kUnlimitedLegend = 0x000099;  // a shade darker than its trace
-constexpr ColorValue kEnlargedTrace = 0xFF4444;
-constexpr ColorValue kBearingColor = 0x888888;
-constexpr ColorValue kWhite = 0xFFFFFF;
-constexpr ColorValue kTextColor = 0x202020;
-
 constexpr float kSpokeStart = 300;
 constexpr float kSpokeEnd = 2180;
 constexpr float kMarkRadius = 30;
@@ -42,10 +30,10 @@ Point OnPlot(double bearing, double radius, double aspectRatio) {
 }
 
 ColorValue TraceColor(Hours hours) {
-  if (hours == Hours::Nighttime) return kNightTrace;
-  if (hours == Hours::Critical) return kCriticalTrace;
-  if (hours == Hours::Daytime) return kDayTrace;
-  return kUnlimitedTrace;
+  if (hours == Hours::Nighttime) return Palette::NightTrace;
+  if (hours == Hours::Critical) return Palette::CriticalTrace;
+  if (hours == Hours::Daytime) return Palette::DayTrace;
+  return Palette::UnlimitedTrace;
 }
 
 /// The largest horizontal or vertical excursion, looked for at every second value.
@@ -77,7 +65,7 @@ void DrawEnlarged(Canvas& canvas, const std::vector<Point>& points) {
   std::vector<Point> stroke = {points.front()};
   bool inside = true;
   const auto endStroke = [&] {
-    canvas.SetColor(inside ? kEnlargedTrace : kWhite);
+    canvas.SetColor(inside ? Palette::EnlargedTrace : Palette::White);
     if (stroke.size() > 1) canvas.Polyline(stroke);
   };
   for (std::size_t i = 1; i < points.size(); ++i) {
@@ -93,16 +81,16 @@ void DrawEnlarged(Canvas& canvas, const std::vector<Point>& points) {
 
 void DrawSpokes(Canvas& canvas, float aspectRatio) {
   canvas.SetLineWidth(1);
-  canvas.SetColor(kSpokeColor);
+  canvas.SetColor(Palette::Spoke);
   for (int bearing = 0; bearing <= 350; bearing += 10)
     canvas.Line(OnPlot(bearing, kSpokeStart, aspectRatio), OnPlot(bearing, kSpokeEnd, aspectRatio));
-  canvas.SetColor(kMarkColor);
+  canvas.SetColor(Palette::PlotMark);
   canvas.Circle(PolarPlotCenter, kMarkRadius);
 }
 
 void DrawBearings(Canvas& canvas, float aspectRatio) {
   canvas.SetFont(kBearingFont);
-  canvas.SetColor(kBearingColor);
+  canvas.SetColor(Palette::Bearing);
   for (int bearing = 0; bearing <= 330; bearing += 30) {
     const std::string text = std::to_string(bearing);
     const Point at = OnPlot(bearing, kBearingRadius, aspectRatio);
@@ -135,10 +123,10 @@ void DrawUnknownPattern(Canvas& canvas, float aspectRatio) {
   const float halfWidth = canvas.TextWidth(kWords) / 2;
   const Point corner = {PolarPlotCenter.x - halfWidth, PolarPlotCenter.y + kBelowMark};
   canvas.BeginPanel(PolarPlotCenter, kPlotFont);
-  canvas.SetColor(kWhite);
+  canvas.SetColor(Palette::White);
   canvas.FilledBox({corner.x - kMargin, corner.y},
                    {corner.x + 2 * halfWidth + kMargin, corner.y + canvas.TextHeight()});
-  canvas.SetColor(kTextColor);
+  canvas.SetColor(Palette::Text);
   canvas.Text(corner, kWords);
   canvas.EndPanel();
 }
@@ -150,9 +138,9 @@ void DrawPlotLegend(Canvas& canvas) {
     std::string_view Text;
   };
   static constexpr std::array kEntries = {
-      Entry{6200, kUnlimitedLegend, "Unlimited"}, Entry{6450, kDayTrace, "Daytime"},
-      Entry{6700, kCriticalTrace, "Critical"}, Entry{6950, kNightTrace, "Nighttime"},
-      Entry{7200, kEnlargedTrace, "Enlarged 5x"}};
+      Entry{6200, Palette::UnlimitedLegend, "Unlimited"}, Entry{6450, Palette::DayTrace, "Daytime"},
+      Entry{6700, Palette::CriticalTrace, "Critical"}, Entry{6950, Palette::NightTrace, "Nighttime"},
+      Entry{7200, Palette::EnlargedTrace, "Enlarged 5x"}};
   constexpr float kLeft = 500;
   canvas.BeginPanel({kLeft, kEntries.front().Top}, kPlotFont);
   canvas.SetFont(kPlotFont);

@@ -15,7 +15,6 @@
 namespace kestrel {
 namespace {
 
-constexpr ColorValue kTextColor = 0x202020;
 constexpr Font kHeadFont = {FontFace::SansBold, 10};
 constexpr Font kTableFont = {FontFace::SansBold, 9};
 constexpr Font kTextFont = {FontFace::Sans, 9};
@@ -79,7 +78,7 @@ std::vector<PagePane> TitledMap(PageSize page, const std::string& title, const s
                             frame.Height - 4 * kHair};
   std::vector<PagePane> panes;
   panes.push_back(TextPane({0, 0, page.Width, kTitleHeight}, [title, source](Canvas& canvas) {
-    canvas.SetColor(kTextColor);
+    canvas.SetColor(Palette::Text);
     canvas.SetFont(kHeadFont);
     canvas.Text({0, 0}, title);
     canvas.SetFont(kSmallFont);
@@ -87,7 +86,7 @@ std::vector<PagePane> TitledMap(PageSize page, const std::string& title, const s
   }));
   panes.push_back({inside, MapIn(inside, shown), std::move(draw)});
   panes.push_back(TextPane(frame, [frame](Canvas& canvas) {
-    canvas.SetColor(kTextColor);
+    canvas.SetColor(Palette::Text);
     canvas.Box({kHair, kHair}, {frame.Width - kHair, frame.Height - kHair});
   }));
   return panes;
@@ -128,7 +127,7 @@ PagePane WordsPane(const SheetArea& place, const SessionState& state, const Stat
   return TextPane(place, [words = StationWords(state, selection), selection, source](Canvas& canvas) {
     constexpr float kValueLeft = 1300;
     float top = 1.5F * kLine;
-    canvas.SetColor(kTextColor);
+    canvas.SetColor(Palette::Text);
     canvas.SetFont(kHeadFont);
     canvas.Text({0, 0}, "Station data: " + selection.SelectedCallSign);
     canvas.SetFont(kTextFont);
@@ -148,7 +147,7 @@ PagePane TablePane(const SheetArea& place, std::vector<TowerRow> rows) {
                                                                      "degrees", "deg true", ""};
     constexpr float kNumberWidth = 660;
     constexpr float kColumn = 1120;
-    canvas.SetColor(kTextColor);
+    canvas.SetColor(Palette::Text);
     canvas.SetFont(kTableFont);
     canvas.Text({0, 0}, "Tower");
     const auto left = [](std::size_t column) {

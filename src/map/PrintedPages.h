@@ -8,7 +8,7 @@
 #include "data/DataFolder.h"
 #include "data/StationLookup.h"
 #include "map/DisplayList.h"
-#include "map/RecoloredCanvas.h"
+#include "map/Greys.h"
 #include "map/Sheet.h"
 
 // What stands where on a printed page. A page is a few panes, each a part of a sheet in a place of the page;
@@ -42,7 +42,7 @@ struct PrintedPage {
   PageSize Smallest;
   PageSize SmallestWide;  ///< on paper that IsWide
   std::function<std::vector<PagePane>(PageSize)> Layout;
-  RecoloredCanvas::Mapping Greys;  ///< its colours on a black-and-white printer
+  Recoloring Greys;  ///< its colours on a black-and-white printer
 };
 
 /// The main map as its window has it.

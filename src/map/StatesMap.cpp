@@ -17,13 +17,8 @@ constexpr int kWestEdge = 220;  // degrees east
 constexpr int kEastEdge = 310;
 constexpr int kSouthEdge = 10;
 constexpr int kNorthEdge = 80;
-constexpr ColorValue kGridColor = 0xDDDDDD;
-constexpr ColorValue kGridTextColor = 0x888888;
 constexpr Font kGridFont = {FontFace::Sans, 8};
 
-constexpr ColorValue kStripColor = 0xEFEFEF;
-constexpr ColorValue kHomeStripColor = 0x663322;  // dark, for the white text of home
-constexpr ColorValue kWhite = 0xFFFFFF;
 constexpr Font kStripFont = {FontFace::Sans, 7.5F};
 constexpr float kStripTextTop = 7700;
 
@@ -33,9 +28,9 @@ void DrawGrid(Canvas& canvas) {
   constexpr float kGap = 40;  // between a label and its line
   // The label stands so many lines above the point it belongs to, also when it has grown.
   const auto line = [&](Point from, Point to, Point named, float lines, const std::string& text) {
-    canvas.SetColor(kGridColor);
+    canvas.SetColor(Palette::Grid);
     canvas.Line(from, to);
-    canvas.SetColor(kGridTextColor);
+    canvas.SetColor(Palette::GridText);
     canvas.BeginPanel(named, kGridFont);
     canvas.Text({named.x + kGap, named.y - lines * canvas.TextHeight()}, text);
     canvas.EndPanel();
@@ -97,8 +92,8 @@ Position ClickedPosition(Point at) {
 
 void DrawStatesMap(Canvas& canvas, const DataFolder& folder) {
   DrawGrid(canvas);
-  DrawFile(canvas, folder, "REGION2.dat", RegionOutlineColor);
-  DrawFile(canvas, folder, "STATES.dat", StatesOutlineColor);
+  DrawFile(canvas, folder, "REGION2.dat", Palette::RegionOutline);
+  DrawFile(canvas, folder, "STATES.dat", Palette::StatesOutline);
 }
 
 void DrawStatesReadout(Canvas& canvas, std::optional<Point> mouse, const SessionState& state) {
@@ -110,9 +105,9 @@ void DrawStatesReadout(Canvas& canvas, std::optional<Point> mouse, const Session
   const auto beginPair = [&](float x) {
     canvas.BeginPanel({x, kStripTextTop + canvas.TextHeight() / 2}, kStripFont);
   };
-  canvas.SetColor(kStripColor);
+  canvas.SetColor(Palette::Strip);
   canvas.FilledBox({1, 7600}, {11999, 7999});
-  canvas.SetColor(kHomeStripColor);
+  canvas.SetColor(Palette::HomeStrip);
   canvas.FilledBox({4600, 7600}, {11999, 7999});
   if (mouse) {
     const Position pointed = PointedPosition(*mouse);
@@ -122,7 +117,7 @@ void DrawStatesReadout(Canvas& canvas, std::optional<Point> mouse, const Session
     print(2310, "Longitude: ", pointed.Longitude);
     canvas.EndPanel();
   }
-  canvas.SetColor(kWhite);
+  canvas.SetColor(Palette::White);
   beginPair(4700);
   print(4700, "Current home latitude: ", state.HomeLatitude);
   print(7400, "Longitude: ", state.HomeLongitude);

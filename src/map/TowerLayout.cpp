@@ -8,8 +8,6 @@
 namespace kestrel {
 namespace {
 
-constexpr ColorValue kRingColor = 0xCCCCCC;
-constexpr ColorValue kTowerColor = 0xFF0000;
 constexpr double kTwipsPerRadian = 120;  // of spacing
 constexpr int kRings = 4;
 constexpr double kRingStep = 90;  // electrical degrees
@@ -26,7 +24,7 @@ Point OnLayout(double bearing, double spacing, double aspectRatio) {
 
 void DrawSpacingRings(Canvas& canvas, float aspectRatio) {
   canvas.SetLineWidth(1);
-  canvas.SetColor(kRingColor);
+  canvas.SetColor(Palette::SpacingRing);
   std::vector<Point> ring(kRingPoints);
   for (int r = 1; r <= kRings; ++r) {
     for (int i = 0; i < kRingPoints; ++i)
@@ -37,7 +35,7 @@ void DrawSpacingRings(Canvas& canvas, float aspectRatio) {
 
 void DrawTowerLayout(Canvas& canvas, float aspectRatio, const StationRecord& record) {
   DrawSpacingRings(canvas, aspectRatio);
-  canvas.SetColor(kTowerColor);
+  canvas.SetColor(Palette::Tower);
   for (std::size_t i = 1; i <= static_cast<std::size_t>(record.TowerCount); ++i) {
     const Point at = OnLayout(record.Bearings[i], record.Spacings[i], aspectRatio);
     canvas.Circle(at, 30);

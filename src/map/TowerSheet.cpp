@@ -3,7 +3,6 @@
 namespace kestrel {
 namespace {
 
-constexpr ColorValue kTextColor = 0x202020;
 constexpr float kHeadTop = 0.015F;     // of the screen's height
 constexpr float kFirstRow = 0.03F;     // likewise
 constexpr float kRowStep = 0.025F;     // likewise
@@ -22,7 +21,7 @@ Font TowerSheetFont(const ScreenTwips& screen) {
 
 void DrawTowerSheet(Canvas& canvas, const ScreenTwips& screen, std::span<const TowerRow> rows) {
   canvas.SetFont(TowerSheetFont(screen));
-  canvas.SetColor(kTextColor);
+  canvas.SetColor(Palette::Text);
   for (std::size_t column = 0; column < TowerColumns; ++column) {
     const float left = screen.Width * kLefts[column];
     canvas.Text({left, screen.Height * kHeadTop}, TowerHeads[column]);

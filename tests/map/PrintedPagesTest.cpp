@@ -120,7 +120,7 @@ TEST(PrintedPagesTest, TheStationPageTellsTheRecordInWords) {
 
 /// Every two of the colours come out so that the eye tells them apart on paper: in greys well apart, or in
 /// lines of clearly other widths.
-void ExpectToldApart(const RecoloredCanvas::Mapping& greys, const std::vector<ColorValue>& colors) {
+void ExpectToldApart(const Recoloring& greys, const std::vector<ColorValue>& colors) {
   for (std::size_t i = 0; i < colors.size(); ++i) {
     const Ink ink = greys(colors[i]);
     const int level = ink.Color & 0xFF;
@@ -138,9 +138,9 @@ void ExpectToldApart(const RecoloredCanvas::Mapping& greys, const std::vector<Co
 TEST(PrintedPagesTest, GreysTellTheHoursAndTheOutlinesApart) {
   SessionState state;
   const auto colors = [&state] {
-    return std::vector<ColorValue>{
-        state.DayColor, state.NightColor, state.CriticalColor, state.UnlimitedColor, state.AdjacentColor,
-        0xCC8888,       0xDD9999};
+    return std::vector<ColorValue>{state.DayColor,        state.NightColor,    state.CriticalColor,
+                                   state.UnlimitedColor,  state.AdjacentColor, Palette::RegionOutline,
+                                   Palette::StatesOutline};
   };
   ExpectToldApart(GreysOf(state), colors());
   std::vector<int> words;  // the legend's have no width
@@ -153,29 +153,18 @@ TEST(PrintedPagesTest, GreysTellTheHoursAndTheOutlinesApart) {
   state.NightColor = 0x00FF00;
   state.AdjacentColor = 0;
   ExpectToldApart(GreysOf(state), colors());
-  const RecoloredCanvas::Mapping greys = GreysOf(state);
-  EXPECT_EQ(greys(0xFFFFFF).Color, 0xFFFFFF);
+  const Recoloring greys = GreysOf(state);
+  EXPECT_EQ(greys(Palette::White).Color, Palette::White);
   EXPECT_LE(greys(0x00FFFE).Color & 0xFF, 0xC0) << "bright yellow is still to be seen";
 
-  constexpr ColorValue kEnlarged = 0xFF4444;
-  const RecoloredCanvas::Mapping station = StationPlotGreys();
-  ExpectToldApart(station, {0x0000AA, 0x119911, 0xCCCC11, 0, kEnlarged});  // the traces
-  ExpectToldApart(station, {0x000099, 0x119911, 0xCCCC11, 0, kEnlarged});  // and their names in the legend
-  for (const ColorValue faint : {0xDDDDDD, 0xCCCCCC}) ExpectToldApart(station, {faint, kEnlarged});
-  EXPECT_LE(station(0xFF0000).Color & 0xFF, 0x40) << "the towers are dark";
-}
-
-TEST(PrintedPagesTest, AWiderInkKeepsTheWidthAskedFor) {
-  const SessionState state;
-  RecordingCanvas under;
-  RecoloredCanvas canvas(under, GreysOf(state));
-  canvas.SetLineWidth(2);
-  for (const ColorValue color : {state.UnlimitedColor, state.DayColor}) {
-    canvas.SetColor(color);
-    canvas.Line({0, 0}, {1, 1});
-  }
-  EXPECT_GT(under.List[0].LineWidth, 2);
-  EXPECT_EQ(under.List[1].LineWidth, 2);
+  constexpr ColorValue kEnlarged = Palette::EnlargedTrace;
+  const Recoloring station = StationPlotGreys();
+  ExpectToldApart(station, {Palette::UnlimitedTrace, Palette::DayTrace, Palette::CriticalTrace,
+                            Palette::NightTrace, kEnlarged});
+  ExpectToldApart(station, {Palette::UnlimitedLegend, kEnlarged});  // as the others are named in their own
+  for (const ColorValue faint : {Palette::Spoke, Palette::SpacingRing})
+    ExpectToldApart(station, {faint, kEnlarged});
+  EXPECT_LE(station(Palette::Tower).Color & 0xFF, 0x40) << "the towers are dark";
 }
 
 }  // namespace
