@@ -29,10 +29,10 @@ class FormTest : public ::testing::Test {
   Workspace Everything{State, Files.Folder(), System};
 };
 
-/// The control of that object name.
+/// The control of that object name. Our own classes have no meta-object, so Qt cannot search for them.
 template <typename Control>
 Control* Find(QWidget& form, const char* name) {
-  auto* control = form.findChild<Control*>(name);
+  auto* control = dynamic_cast<Control*>(form.findChild<QWidget*>(name));
   if (!control) ADD_FAILURE() << "no control " << name;
   return control;
 }

@@ -8,17 +8,13 @@
 #include <algorithm>
 #include <iostream>
 
+#include "AddressSanitizer.h"
 #include "core/SessionFile.h"
 #include "forms/Monkey.h"
 #include "forms/frmOpening.h"
 #include "forms/frmPlot.h"
 
-#if defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define __SANITIZE_ADDRESS__
-#endif
-#endif
-#if defined(__SANITIZE_ADDRESS__)
+#ifdef KESTREL_ADDRESS_SANITIZER
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #endif
 
@@ -35,7 +31,7 @@ int Asked(const char* variable, int otherwise) {
 
 /// Bytes that the process holds and has not given back.
 std::size_t BytesHeld() {
-#if defined(__SANITIZE_ADDRESS__)
+#ifdef KESTREL_ADDRESS_SANITIZER
   return __sanitizer_get_current_allocated_bytes();
 #else
   const struct mallinfo2 heap = mallinfo2();

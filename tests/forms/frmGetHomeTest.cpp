@@ -30,8 +30,7 @@ class HomeTest : public FormTest {
       auto* map = dynamic_cast<QDialog*>(QApplication::activeModalWidget());
       ASSERT_TRUE(map && map->objectName() == "frmPlotStates");
       ASSERT_TRUE(QTest::qWaitForWindowExposed(map));
-      auto* surface = dynamic_cast<MapSurface*>(map->findChild<QWidget*>("Map"));
-      use(*map, *surface);
+      use(*map, *Find<MapSurface>(*map, "Map"));
       used = true;
       if (map->isVisible()) map->reject();
     });

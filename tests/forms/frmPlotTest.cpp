@@ -6,7 +6,6 @@
 #include <set>
 
 #include "forms/FormFixture.h"
-#include "forms/frmAspect.h"
 #include "map/RecordingCanvas.h"
 #include "ui/MapSurface.h"
 
@@ -319,8 +318,9 @@ TEST_F(frmPlotTest, AspectWindowOpensOnceAndIsActive) {
   Open();
   for (int press = 0; press < 2; ++press) {
     PressInForm("cmdOptions", {"cmdAspect"});
-    ASSERT_EQ(plot_->findChildren<frmAspect*>().size(), 1);
-    EXPECT_TRUE(QTest::qWaitForWindowActive(plot_->findChild<frmAspect*>()));
+    const QList<QDialog*> windows = plot_->findChildren<QDialog*>("frmAspect");
+    ASSERT_EQ(windows.size(), 1);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(windows.first()));
   }
 }
 

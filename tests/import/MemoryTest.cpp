@@ -11,17 +11,13 @@
 #include <string>
 #include <vector>
 
+#include "AddressSanitizer.h"
 #include "ImportTesting.h"
 #include "data/FileIo.h"
 #include "import/Import.h"
 
 // The address sanitizer counts the memory; a build without it has no such test.
-#if !defined(__SANITIZE_ADDRESS__) && defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define __SANITIZE_ADDRESS__  // as GCC does
-#endif
-#endif
-#ifdef __SANITIZE_ADDRESS__
+#ifdef KESTREL_ADDRESS_SANITIZER
 
 extern "C" {
 int __sanitizer_install_malloc_and_free_hooks(void (*allocated)(const volatile void*, std::size_t),
