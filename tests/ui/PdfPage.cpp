@@ -31,8 +31,10 @@ void ReadContent(const QByteArray& content, PdfPage& page) {
   double scale = 1;
   double width = 1;
   PdfColor line{};
+  // A grey is a number or three, by the version of Qt.
   const auto color = [&numbers] {
     const std::size_t n = numbers.size();
+    if (n == 1) return PdfColor{numbers[0], numbers[0], numbers[0]};
     return n < 3 ? PdfColor{} : PdfColor{numbers[n - 3], numbers[n - 2], numbers[n - 1]};
   };
   for (const QByteArray& word : content.simplified().split(' ')) {
