@@ -1,11 +1,22 @@
 #include <QApplication>
+#include <QIcon>
 #include <memory>
 
 #include "core/FreedMemory.h"
 #include "data/DataSwap.h"
-#include "forms/CommandIcons.h"
 #include "forms/frmOpening.h"
 #include "forms/frmPlot.h"
+
+namespace {
+
+/// The icon that the desktop shows in its menu, for where the program is not installed.
+QIcon ProgramIcon() {
+  QIcon icon;
+  for (const int size : {16, 24, 32, 48, 64, 128}) icon.addFile(QString(":/icons/%1.png").arg(size));
+  return icon;
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
   using namespace kestrel;
@@ -13,6 +24,7 @@ int main(int argc, char** argv) {
   QApplication app(argc, argv);
   QApplication::setOrganizationName("kestrel");
   QApplication::setApplicationName("kestrel");
+  QApplication::setDesktopFileName("kestrel");  // Wayland finds the icon through it
   QApplication::setWindowIcon(ProgramIcon());
 
   DesktopPlatform platform;

@@ -51,8 +51,8 @@ void AddMapCommand(CLI::App& app, Request& request) {
                         : given == "night" ? HoursFilter::Night
                                            : HoursFilter::All;
   };
-  command.add_option_function<std::string>("--hours", storeHours, "all, day or night [all]")
-      ->type_name("HOURS");
+  command.add_option_function<std::string>("--hours", storeHours, "the hours shown [all]")
+      ->type_name("all|day|night");
   command.add_flag("--compass", view->Compass, "the bearing rose over the map");
   AddPicture(command, request);
   command.callback([&request, view] { DrawMap(request, *view); });

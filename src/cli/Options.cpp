@@ -61,13 +61,13 @@ bool NamesPicture(const std::string& path) {
 
 void AddNumber(CLI::App& command, const std::string& name, const Limits& limits, std::optional<float>& number,
                const std::string& help) {
+  const std::string range = NumberWithZero(limits.Lowest) + " to " + NumberWithZero(limits.Highest);
   const auto store = [=, &number](const std::string& given) {
     number = WholeNumber(given);
     if (!number || !(*number >= limits.Lowest && *number <= limits.Highest))
-      Refuse(name, given,
-             "a number from " + NumberWithZero(limits.Lowest) + " to " + NumberWithZero(limits.Highest));
+      Refuse(name, given, "a number from " + range);
   };
-  command.add_option_function<std::string>(name, store, help)->type_name("NUMBER");
+  command.add_option_function<std::string>(name, store, help + ", " + range)->type_name("NUMBER");
 }
 
 CLI::Option* AddPosition(CLI::App& command, const std::string& name, std::optional<Position>& position,
@@ -102,7 +102,7 @@ void AddFrequency(CLI::App& command, Request& request) {
 }
 
 void AddHome(CLI::App& command, Request& request) {
-  AddPosition(command, "--home", request.Home, "home, west longitude positive");
+  AddPosition(command, "--home", request.Home, "home in degrees, west longitude positive");
 }
 
 void AddScale(CLI::App& command, Request& request) {
@@ -115,7 +115,10 @@ void AddAspect(CLI::App& command, Request& request) {
     if (!request.Aspect || !(*request.Aspect > 0 && *request.Aspect <= LargestAspect))
       Refuse("--aspect", given, "a number above 0, at most " + NumberWithZero(LargestAspect));
   };
-  command.add_option_function<std::string>("--aspect", store, "widens the patterns; 1 keeps circles round")
+  command
+      .add_option_function<std::string>(
+          "--aspect", store,
+          "widens the patterns, above 0 to " + NumberWithZero(LargestAspect) + "; 1 keeps circles round")
       ->type_name("NUMBER");
 }
 
@@ -125,13 +128,16 @@ void AddPicture(CLI::App& command, Request& request) {
     if (!size) Refuse("--size", given, "WIDTHxHEIGHT in pixels, 64 to 16384 each");
     request.Size = *size;
   };
-  command.add_option_function<std::string>("--size", storeSize, "the picture's size in pixels [1600x1200]")
+  command
+      .add_option_function<std::string>("--size", storeSize,
+                                        "the picture's size in pixels, 64 to 16384 each way [1600x1200]")
       ->type_name("WxH");
   const auto storeOutput = [&request](const std::string& given) {
     if (!NamesPicture(given)) Refuse("-o", given, "a file name that ends in .png, .svg or .pdf");
     request.Output = given;
   };
-  command.add_option_function<std::string>("-o", storeOutput, "the picture's file")
+  command
+      .add_option_function<std::string>("-o", storeOutput, "the picture's file, ending in .png, .svg or .pdf")
       ->type_name("FILE")
       ->required();
 }

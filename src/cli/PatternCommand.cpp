@@ -138,8 +138,10 @@ void AddPatternCommand(CLI::App& app, Request& request) {
     if (HoursOf(given) == Hours::Other) throw WrongUse("--hours " + given + ": give D, N, C or U");
     sought->HoursCode = given;
   };
-  command.add_option_function<std::string>("--hours", storeHours, "one hours code only: D, N, C or U")
-      ->type_name("CODE");
+  command
+      .add_option_function<std::string>("--hours", storeHours,
+                                        "one hours code only: day, night, critical hours or unlimited")
+      ->type_name("D|N|C|U");
   AddJson(command, request);
   command.callback([&request, sought] { ShowPattern(request, *sought); });
 }

@@ -1,26 +1,12 @@
 #include <sstream>
 
-#include "cli/Commands.h"
 #include "cli/Console.h"
-#include "cli/Options.h"
+#include "cli/Description.h"
 
 namespace {
 
 using namespace kestrel;
 using namespace kestrel::cli;
-
-void Describe(CLI::App& app, Request& request) {
-  app.name("kestrel-cli");
-  app.set_version_flag("--version", "kestrel-cli " + SessionState().ProgramVersion);
-  app.require_subcommand(1);
-  app.fallthrough();  // --data and --session are taken behind the command too
-  AddFileName(app, "--data", request.Data, "the folder with the station, outline and list files")
-      ->type_name("DIR");
-  AddFileName(app, "--session", request.SessionFile, "take home, channel and view from a last-session file");
-  for (const auto add : {AddStationsCommand, AddPatternCommand, AddHetsCommand, AddDistanceCommand,
-                         AddMapCommand, AddScanCommand, AddSessionCommand, AddImportCommand})
-    add(app, request);
-}
 
 /// Help and version are asked for by what the parser throws, too.
 ExitStatus Answer(const CLI::App& app, const CLI::ParseError& thrown) {
@@ -44,7 +30,7 @@ ExitStatus Answer(const CLI::App& app, const CLI::ParseError& thrown) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  CLI::App app("Maps and figures of medium-wave stations in the Americas, without a window.");
+  CLI::App app;
   Request request;
   Describe(app, request);
   try {

@@ -50,21 +50,4 @@ QIcon PatternIcon(bool larger, const QColor& ink) {
   });
 }
 
-QIcon ProgramIcon() {
-  return Drawn([](QPainter& painter) {
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(10, 20, 90));
-    painter.drawRoundedRect(QRectF(0, 0, 16, 16), 3, 3);
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(Qt::white, 1.2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPolyline(QPolygonF({{5.5, 14}, {8, 5}, {10.5, 14}}));
-    painter.setPen(QPen(QColor(255, 153, 17), 1.2, Qt::SolidLine, Qt::RoundCap));
-    for (const double radius : {3.0, 5.5}) {
-      const QRectF box(8 - radius, 5 - radius, 2 * radius, 2 * radius);
-      painter.drawArc(box, -40 * 16, 80 * 16);
-      painter.drawArc(box, 140 * 16, 80 * 16);
-    }
-  });
-}
-
 }  // namespace kestrel

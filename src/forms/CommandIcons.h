@@ -9,7 +9,4 @@ namespace kestrel {
 QIcon ZoomIcon(bool in, const QColor& ink);
 QIcon PatternIcon(bool larger, const QColor& ink);
 
-/// The program's own icon: a mast and its waves.
-QIcon ProgramIcon();
-
 }  // namespace kestrel
