@@ -131,7 +131,7 @@ void DrawMapPicture(Canvas& canvas, const DataFolder& folder) {
   const auto drawOutline = [&](const QString& name, ColorValue color) {
     if (const Result<QByteArray> bytes = folder.Read(name)) {
       canvas.SetColor(color);
-      DrawOutline(canvas, View(*bytes), projection);
+      DrawOutline(canvas, View(*bytes), PenFor(projection));
     }
   };
   canvas.SetLineWidth(0.6F);

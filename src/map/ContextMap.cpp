@@ -1,12 +1,11 @@
 #include "map/ContextMap.h"
 
-#include <cmath>
+#include <limits>
 #include <string>
-#include <string_view>
 #include <vector>
 
-#include "data/OutlineFile.h"
 #include "map/MapProjection.h"
+#include "map/Outlines.h"
 
 namespace kestrel {
 namespace {
@@ -17,48 +16,28 @@ constexpr Point kCenter = {0.35F * W, 0.325F * H};
 constexpr Point kFrameCorner = {0.05F * W, 0.05F * H};
 constexpr Point kFrameOpposite = {0.65F * W, 0.65F * H};
 constexpr float kLowestLine = 0.6F * H;  // outlines end above the frame's lower edge
-constexpr float kLongestStepX = 0.2F * W;
-constexpr float kLongestStepY = 0.2F * H;
 constexpr float kTwipsPer75Km = 120;
-constexpr std::size_t kLongStroke = 4096;  // vertices, drawn before there are more
 constexpr float kSmallestZoom = 0.25F;
 constexpr float kLargestZoom = 8;
 
 bool IsVisible(Point point) {
-  // Written so that a vertex without a position (NaN) is none.
   return point.y >= kFrameCorner.y && point.y <= kLowestLine && point.x >= kFrameCorner.x &&
          point.x <= kFrameOpposite.x;
 }
 
-void DrawOutlineAround(Canvas& canvas, std::string_view bytes, const MapProjection& projection) {
-  OutlineReader reader(bytes);
-  std::vector<Point> points;
-  std::vector<Point> stroke;
-  const auto endStroke = [&] {
-    if (stroke.size() > 1) canvas.Polyline(stroke);
-    stroke.clear();
-  };
-  while (const Outline* const piece = reader.Next()) {
-    points.resize(piece->Latitude.size());
-    projection.Vertices(piece->Latitude, piece->Longitude, points);
-    auto penUp = piece->PenUpBefore.begin();
-    for (std::size_t i = 0; i < points.size(); ++i) {
-      const Point at = {points[i].x - HomeOnSheet.x + kCenter.x, points[i].y - HomeOnSheet.y + kCenter.y};
-      bool lifted = false;
-      for (; penUp != piece->PenUpBefore.end() && *penUp <= i; ++penUp) lifted = true;
-      const bool visible = IsVisible(at);
-      if (lifted || !visible || stroke.empty() || std::abs(at.x - stroke.back().x) > kLongestStepX ||
-          std::abs(at.y - stroke.back().y) > kLongestStepY)
-        endStroke();
-      if (visible) stroke.push_back(at);
+/// What lies outside the frame is not drawn.
+OutlinePen PenInFrame(const MapProjection& projection) {
+  OutlinePen pen;
+  pen.LongestStep = {0.2F * W, 0.2F * H};
+  pen.Place = [projection](const Outline& piece, std::span<Point> points) {
+    constexpr float kNowhere = std::numeric_limits<float>::quiet_NaN();
+    projection.Vertices(piece.Latitude, piece.Longitude, points);
+    for (Point& point : points) {
+      point = {point.x - HomeOnSheet.x + kCenter.x, point.y - HomeOnSheet.y + kCenter.y};
+      if (!IsVisible(point)) point = {kNowhere, kNowhere};
     }
-    if (penUp != piece->PenUpBefore.end()) endStroke();
-    if (stroke.size() < kLongStroke) continue;
-    const Point last = stroke.back();
-    endStroke();
-    stroke.push_back(last);
-  }
-  endStroke();
+  };
+  return pen;
 }
 
 void DrawStationMark(Canvas& canvas) {
@@ -101,7 +80,7 @@ void DrawNotices(Canvas& canvas, const std::vector<std::string>& unreadable) {
 }  // namespace
 
 void DrawContextMap(Canvas& canvas, const DataFolder& folder, float latitude, float longitude, float zoom) {
-  const MapProjection projection({latitude, longitude}, kTwipsPer75Km * zoom);
+  const OutlinePen pen = PenInFrame(MapProjection({latitude, longitude}, kTwipsPer75Km * zoom));
   canvas.SetColor(Palette::White);
   canvas.FilledBox(kFrameCorner, kFrameOpposite);
   canvas.SetLineWidth(1);
@@ -113,7 +92,7 @@ void DrawContextMap(Canvas& canvas, const DataFolder& folder, float latitude, fl
       continue;
     }
     canvas.SetColor(Palette::ContextOutline);
-    DrawOutlineAround(canvas, {bytes->constData(), static_cast<std::size_t>(bytes->size())}, projection);
+    DrawOutline(canvas, {bytes->constData(), static_cast<std::size_t>(bytes->size())}, pen);
   }
   DrawStationMark(canvas);
   DrawMasks(canvas);

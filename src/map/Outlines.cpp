@@ -10,14 +10,8 @@
 namespace kestrel {
 namespace {
 
-constexpr float kLongestStep = 2000;  // twips, in x or in y
 constexpr float kHomeRadius = 50;
 constexpr std::size_t kLongStroke = 4096;  // vertices; no coast of the data given has as many
-
-bool IsLongStep(Point from, Point to) {
-  // Written so that a step to nowhere (NaN) is a long one.
-  return !(std::abs(to.x - from.x) <= kLongestStep && std::abs(to.y - from.y) <= kLongestStep);
-}
 
 void DrawHomeMark(Canvas& canvas) {
   const auto [x, y] = HomeOnSheet;
@@ -49,13 +43,13 @@ class KeptStrokes {
 };
 
 /// Returns whether the end mark was met.
-bool JoinOutline(std::string_view bytes, const MapProjection& projection, VertexJoiner::DrawStroke draw) {
-  OutlineReader reader(bytes);
-  VertexJoiner joiner(std::move(draw));
+bool JoinOutline(std::string_view bytes, const OutlinePen& pen, VertexJoiner::DrawStroke draw) {
+  OutlineReader reader(bytes, pen.Comments);
+  VertexJoiner joiner(pen.LongestStep, std::move(draw));
   std::vector<Point> points;
   while (const Outline* const piece = reader.Next()) {
     points.resize(piece->Latitude.size());
-    projection.Vertices(piece->Latitude, piece->Longitude, points);
+    pen.Place(*piece, points);
     joiner.Add(*piece, points);
   }
   joiner.End();
@@ -89,20 +83,20 @@ std::size_t WhereToCut(std::string_view bytes) {
 /// An outline whose second half, when it is long, is read by another thread from now on.
 class OutlineInHalves {
  public:
-  /// The bytes and the projection must outlive it.
-  OutlineInHalves(std::string_view bytes, const MapProjection& projection)
-      : front_(bytes.substr(0, WhereToCut(bytes))), projection_(projection) {
+  /// The bytes and the pen must outlive it.
+  OutlineInHalves(std::string_view bytes, const OutlinePen& pen)
+      : front_(bytes.substr(0, WhereToCut(bytes))), pen_(pen) {
     if (front_.size() == bytes.size()) return;
-    readingBack_ = std::async([&projection, back = bytes.substr(front_.size())] {
+    readingBack_ = std::async([&pen, back = bytes.substr(front_.size())] {
       KeptStrokes strokes;
-      JoinOutline(back, projection, [&strokes](std::span<const Point> stroke) { strokes.Keep(stroke); });
+      JoinOutline(back, pen, [&strokes](std::span<const Point> stroke) { strokes.Keep(stroke); });
       return strokes;
     });
   }
 
   void Draw(Canvas& canvas) {
     const auto draw = [&canvas](std::span<const Point> stroke) { canvas.Polyline(stroke); };
-    const bool ended = JoinOutline(front_, projection_, draw);
+    const bool ended = JoinOutline(front_, pen_, draw);
     if (!readingBack_.valid()) return;
     const KeptStrokes strokes = readingBack_.get();
     if (!ended) strokes.Draw(canvas);
@@ -110,7 +104,7 @@ class OutlineInHalves {
 
  private:
   std::string_view front_;
-  const MapProjection& projection_;
+  const OutlinePen& pen_;
   std::future<KeptStrokes> readingBack_;
 };
 
@@ -135,16 +129,21 @@ void VertexJoiner::EndStroke(std::span<const Point> rest) {
   begun_.clear();
 }
 
+bool VertexJoiner::IsLongStep(Point from, Point to) const {
+  // Written so that a step to nowhere (NaN) is a long one.
+  return !(std::abs(to.x - from.x) <= longestStep_.x && std::abs(to.y - from.y) <= longestStep_.y);
+}
+
 bool VertexJoiner::GoesOn(std::span<const Point> points) const {
   if (points.empty()) return true;
   if (!begun_.empty() && IsLongStep(begun_.back(), points.front())) return false;
-  // All coordinates in a row, without an early end, so that many are looked at together.
-  const float* const coordinates = &points.front().x;
+  // All points in a row, without an early end, so that many are looked at together.
   int others = 0;
-  for (std::size_t i = 0; i < 2 * points.size(); ++i)
-    others |= int{!(std::abs(coordinates[i]) <= CoordinateLimit)};
-  for (std::size_t i = 2; i < 2 * points.size(); ++i)
-    others |= int{!(std::abs(coordinates[i] - coordinates[i - 2]) <= kLongestStep)};
+  for (const Point point : points)
+    others |= int{!(std::abs(point.x) <= CoordinateLimit)} | int{!(std::abs(point.y) <= CoordinateLimit)};
+  for (std::size_t i = 1; i < points.size(); ++i)
+    others |= int{!(std::abs(points[i].x - points[i - 1].x) <= longestStep_.x)} |
+              int{!(std::abs(points[i].y - points[i - 1].y) <= longestStep_.y)};
   return others == 0;
 }
 
@@ -181,21 +180,30 @@ void VertexJoiner::End() {
   EndStroke({});
 }
 
-void DrawOutline(Canvas& canvas, std::string_view bytes, const MapProjection& projection) {
-  OutlineInHalves(bytes, projection).Draw(canvas);
+OutlinePen PenFor(const MapProjection& projection) {
+  OutlinePen pen;
+  pen.Place = [projection](const Outline& piece, std::span<Point> points) {
+    projection.Vertices(piece.Latitude, piece.Longitude, points);
+  };
+  return pen;
+}
+
+void DrawOutline(Canvas& canvas, std::string_view bytes, const OutlinePen& pen) {
+  OutlineInHalves(bytes, pen).Draw(canvas);
 }
 
 std::vector<std::string> DrawOutlineFiles(Canvas& canvas, const DataFolder& folder,
                                           const MapProjection& projection) {
+  const OutlinePen pen = PenFor(projection);
   // The longer one first, so that its second half is read while the states are drawn.
   const Result<QByteArray> region = folder.Read("REGION2.dat");
   std::optional<OutlineInHalves> regionOutline;
-  if (region) regionOutline.emplace(View(*region), projection);
+  if (region) regionOutline.emplace(View(*region), pen);
   const Result<QByteArray> states = folder.Read("STATES.dat");
   canvas.SetLineWidth(1);
   if (states) {
     canvas.SetColor(Palette::StatesOutline);
-    DrawOutline(canvas, View(*states), projection);
+    DrawOutline(canvas, View(*states), pen);
   }
   DrawHomeMark(canvas);
   if (regionOutline) {

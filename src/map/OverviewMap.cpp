@@ -19,7 +19,8 @@ std::string_view View(const QByteArray& bytes) {
 
 void DrawFile(Canvas& canvas, const DataFolder& folder, const QString& name,
               const MapProjection& projection) {
-  if (const Result<QByteArray> bytes = folder.Read(name)) DrawOutline(canvas, View(*bytes), projection);
+  if (const Result<QByteArray> bytes = folder.Read(name))
+    DrawOutline(canvas, View(*bytes), PenFor(projection));
 }
 
 void DrawStations(Canvas& canvas, const DataFolder& folder, float channel, const MapProjection& projection) {

@@ -3,10 +3,8 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
-#include <vector>
 
 #include "core/Numbers.h"
-#include "data/OutlineFile.h"
 #include "map/Outlines.h"
 
 namespace kestrel {
@@ -49,20 +47,21 @@ void DrawGrid(Canvas& canvas) {
   }
 }
 
+OutlinePen PenOnStatesMap() {
+  OutlinePen pen;
+  pen.Comments = CommentLines::Skip;
+  pen.Place = [](const Outline& piece, std::span<Point> points) {
+    for (std::size_t i = 0; i < points.size(); ++i)
+      points[i] = PlaceOnStatesMap(piece.Latitude[i], piece.Longitude[i]);
+  };
+  return pen;
+}
+
 void DrawFile(Canvas& canvas, const DataFolder& folder, const QString& name, ColorValue color) {
   const Result<QByteArray> bytes = folder.Read(name);
   if (!bytes) return;
   canvas.SetColor(color);
-  OutlineReader reader({bytes->constData(), static_cast<std::size_t>(bytes->size())}, CommentLines::Skip);
-  VertexJoiner joiner([&canvas](std::span<const Point> stroke) { canvas.Polyline(stroke); });
-  std::vector<Point> points;
-  while (const Outline* const piece = reader.Next()) {
-    points.resize(piece->Latitude.size());
-    for (std::size_t i = 0; i < points.size(); ++i)
-      points[i] = PlaceOnStatesMap(piece->Latitude[i], piece->Longitude[i]);
-    joiner.Add(*piece, points);
-  }
-  joiner.End();
+  DrawOutline(canvas, {bytes->constData(), static_cast<std::size_t>(bytes->size())}, PenOnStatesMap());
 }
 
 Position PositionAt(Point at, double southLimit, double northLimit) {

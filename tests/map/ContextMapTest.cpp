@@ -35,12 +35,11 @@ TEST(ContextMapTest, OutlinesStandAroundTheStationWithNorthUp) {
   }
 }
 
-TEST(ContextMapTest, LinesBreakAtMarksAtTheFrameAndAtJumps) {
+TEST(ContextMapTest, LinesBreakAtTheFrameAndAtJumps) {
   const struct {
     const char *what, *vertices;
     std::vector<std::size_t> lengths;
   } rows[] = {
-      {"a pen-up mark", "0 285\n1 285\n-100 -100\n0 286\n1 286\n", {2, 2}},
       {"a vertex above the frame", "13 285\n14 285\n13 286\n12 286\n", {2}},
       {"a vertex left of the frame", "0 265\n0 264\n0 265\n0 266\n", {2}},
       {"a vertex right of the frame", "0 305\n0 306\n", {}},
@@ -48,8 +47,6 @@ TEST(ContextMapTest, LinesBreakAtMarksAtTheFrameAndAtJumps) {
       {"a jump of more than a fifth in x", "0 275\n0 289\n0 290\n", {2}},
       {"a jump of more than a fifth in y", "6 285\n-6 285\n-7 285\n", {2}},
       {"jumps of less", "0 275\n0 285\n", {2}},
-      {"the end mark", "0 285\n1 285\n-2000\n2 285\n", {2}},
-      {"longitudes on either side of a turn", "0 -75\n0 284\n0 645\n", {3}},
   };
   for (const auto& row : rows) {
     std::vector<std::size_t> lengths;

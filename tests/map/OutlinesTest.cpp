@@ -15,7 +15,7 @@ namespace {
 /// An outline drawn around 0 N, 75 W at 1114.4 twips to a degree, so that vertices read easily.
 std::string Draw(std::string_view bytes) {
   RecordingCanvas canvas;
-  DrawOutline(canvas, bytes, MapProjection({0, 75}, 750));
+  DrawOutline(canvas, bytes, PenFor(MapProjection({0, 75}, 750)));
   return canvas.Readable();
 }
 
@@ -44,7 +44,8 @@ TEST(OutlinesTest, StrokesBreakWhereTheyShould) {
 
 TEST(OutlinesTest, AVertexWithoutAPositionLiftsThePen) {
   RecordingCanvas canvas;
-  VertexJoiner joiner([&canvas](std::span<const Point> stroke) { canvas.Polyline(stroke); });
+  VertexJoiner joiner(OutlinePen().LongestStep,
+                      [&canvas](std::span<const Point> stroke) { canvas.Polyline(stroke); });
   const float none = std::numeric_limits<float>::quiet_NaN();
   std::vector<Point> points = {{0, 0}, {0, 9}, {none, none}, {5, 0}, {5, 9}};
   joiner.Add({}, points);
@@ -55,7 +56,8 @@ TEST(OutlinesTest, AVertexWithoutAPositionLiftsThePen) {
 /// The strokes of vertices that come in pieces of some lengths, pen-up marks before some vertices.
 std::string Joined(const std::vector<std::size_t>& lengths, const std::vector<std::size_t>& penUps) {
   RecordingCanvas canvas;
-  VertexJoiner joiner([&canvas](std::span<const Point> stroke) { canvas.Polyline(stroke); });
+  VertexJoiner joiner(OutlinePen().LongestStep,
+                      [&canvas](std::span<const Point> stroke) { canvas.Polyline(stroke); });
   std::size_t begin = 0;
   for (const std::size_t length : lengths) {
     Outline piece;
@@ -106,11 +108,12 @@ TEST(OutlinesTest, ALongFileIsDrawnAsItsVerticesAre) {
   for (const auto& row : rows) {
     ASSERT_GT(row.bytes.size(), 256U * 1024);
     RecordingCanvas fromFile, fromVertices;
-    DrawOutline(fromFile, row.bytes, projection);
+    DrawOutline(fromFile, row.bytes, PenFor(projection));
     Outline outline = WholeOutline(row.bytes);
     std::vector<Point> points(outline.Latitude.size());
     projection.Vertices(outline.Latitude, outline.Longitude, points);
-    VertexJoiner joiner([&](std::span<const Point> stroke) { fromVertices.Polyline(stroke); });
+    VertexJoiner joiner(OutlinePen().LongestStep,
+                        [&](std::span<const Point> stroke) { fromVertices.Polyline(stroke); });
     joiner.Add(outline, points);
     joiner.End();
     EXPECT_EQ(fromFile.Readable(), fromVertices.Readable()) << row.what;
