@@ -27,19 +27,26 @@ function run(program, args, options = {}) {
   return spawnSync(program, args, { encoding: 'utf8', maxBuffer: 1 << 28, ...options });
 }
 
-function build() {
-  return run('cmake', ['--build', tree]).status === 0;
+function builds(...targets) {
+  return run('cmake', ['--build', tree, ...targets.flatMap(target => ['--target', target])]).status === 0;
 }
 
-/** The name of the first test that fails, or nothing. The room's own tests come first. */
-function failingTest(room) {
-  for (const choice of [['-R', `^${room}$`], ['-E', `${leftOut}|^${room}$`]]) {
-    const { stdout } = run('ctest', ['--test-dir', tree, '--stop-on-failure', '--timeout', String(secondsAllowed),
-      '-j', String(availableParallelism()), ...choice]);
-    const failed = stdout.match(/\*\*\*(?:Failed|Timeout|Exception)/) && stdout.match(/Test +#\d+: (\S+) .*\*\*\*/);
-    if (failed) return failed[1];
+/** The name of the first of the chosen tests that fails, or nothing. */
+function failing(...choice) {
+  const { stdout } = run('ctest', ['--test-dir', tree, '--stop-on-failure', '--timeout', String(secondsAllowed),
+    '-j', String(availableParallelism()), ...choice]);
+  return stdout.match(/Test +#\d+: (\S+) .*\*\*\*/)?.[1] ?? null;
+}
+
+/** What became of a change: the test that caught it, 'survived', or nothing when it does not compile. */
+function outcome(room) {
+  const ownTests = existsSync(join(copy, 'tests', room)) ? [`${room}_test`] : [];
+  if (ownTests.length) {
+    if (!builds(...ownTests)) return null;
+    const own = failing('-R', `^${room}$`);
+    if (own) return own;
   }
-  return null;
+  return builds() ? failing('-E', `${leftOut}|^${room}$`) ?? 'survived' : null;
 }
 
 function sources() {
@@ -54,8 +61,8 @@ mkdirSync(copy, { recursive: true });
 execFileSync('sh', ['-c', `git -C "$0" archive HEAD | tar -x -C "$1"`, root, copy]);
 if (!existsSync(join(tree, 'build.ninja')))
   run('cmake', ['-S', copy, '-B', tree, '-G', 'Ninja', '-DCMAKE_BUILD_TYPE=Debug', '-DCMAKE_CXX_FLAGS_DEBUG=-O0',
-    '-DKESTREL_TESTS=ON'], { stdio: 'inherit' });
-if (!build() || failingTest('core')) {
+    '-DKESTREL_TESTS=ON', '--compile-no-warning-as-error'], { stdio: 'inherit' });
+if (!builds() || failing('-E', leftOut)) {
   console.error('The unchanged tree does not build, or its tests fail.');
   process.exit(2);
 }
@@ -69,18 +76,17 @@ while (made < Number(count) && places.length) {
   const { room, path, change } = places.splice(random.below(places.length), 1)[0];
   const source = readFileSync(path, 'utf8');
   writeFileSync(path, applied(source, change));
-  const builds = build();
-  const catcher = builds ? failingTest(room) : null;
+  const became = outcome(room);
   writeFileSync(path, source);
-  if (!builds) continue; // no change that the compiler lets through
+  if (!became) continue;
   made++;
-  const total = totals.get(room) ?? [0, 0];
-  totals.set(room, [total[0] + (catcher ? 1 : 0), total[1] + 1]);
+  const caught = became !== 'survived';
+  const [caughtBefore, madeBefore] = totals.get(room) ?? [0, 0];
+  totals.set(room, [caughtBefore + (caught ? 1 : 0), madeBefore + 1]);
   const line = source.split('\n')[change.line];
   const what = change.to - change.from === line.length && !change.text
     ? `without: ${line.trim()}`
     : `${line.trim()}   [${line.slice(change.from, change.to).trim()} -> ${change.text.trim()}]`;
-  console.log(`${catcher ? 'caught by ' + catcher : 'SURVIVED'}  ${relative(copy, path)}:${change.line + 1}: ${what}`);
+  console.log(`${caught ? 'caught by ' + became : 'SURVIVED'}  ${relative(copy, path)}:${change.line + 1}: ${what}`);
 }
-build();
 for (const [room, [caught, all]] of [...totals].sort()) console.log(`${room}: ${caught} of ${all} caught`);
