@@ -24,8 +24,8 @@ constexpr Font kLabelFont = {FontFace::Sans, 8};
 /// Draws on an image in the sheet's twips.
 class Plot {
  public:
-  Plot(QImage& image, const std::string& folder, const SessionState& state)
-      : folder_(folder), state_(state), painter_(&image) {
+  Plot(QImage& image, const std::string& folder, const SessionState& state, bool labels)
+      : folder_(folder), state_(state), labels_(labels), painter_(&image) {
     image.fill(Qt::white);
     rules_.Fit = FitSheet(static_cast<float>(image.width()), static_cast<float>(image.height()));
     rules_.Area = QRectF(image.rect());
@@ -148,7 +148,8 @@ class Plot {
 
   void Label(Point at, const std::string& text, QColor labelColor, std::set<std::string>& labelled,
              const std::string& callSign) {
-    if (!labelled.insert(callSign + ' ' + NumberText(at.x) + ' ' + NumberText(at.y)).second) return;
+    if (!labels_ || !labelled.insert(callSign + ' ' + NumberText(at.x) + ' ' + NumberText(at.y)).second)
+      return;
     const Point base = SurfaceView(rules_).Baseline({at.x - 60, at.y - 210}, kLabelFont);
     painter_.setPen(labelColor);
     painter_.drawText(QPointF(base.x, base.y), QString::fromStdString(text));
@@ -156,14 +157,15 @@ class Plot {
 
   const std::string& folder_;
   const SessionState& state_;
+  const bool labels_;
   SurfaceRules rules_;
   QPainter painter_;
 };
 
 }  // namespace
 
-void DrawMainMap(QImage& image, const std::string& folder, const SessionState& state) {
-  Plot plot(image, folder, state);
+void DrawMainMap(QImage& image, const std::string& folder, const SessionState& state, bool labels) {
+  Plot plot(image, folder, state, labels);
   plot.Outlines("STATES.dat", 0xDD9999);
   plot.Outlines("REGION2.dat", 0xCC8888);
   plot.Channel(state.CurrentFrequency);
@@ -174,8 +176,8 @@ void DrawMainMap(QImage& image, const std::string& folder, const SessionState& s
   plot.Panels();
 }
 
-void DrawScan(QImage& image, const std::string& folder, const SessionState& state) {
-  Plot plot(image, folder, state);
+void DrawScan(QImage& image, const std::string& folder, const SessionState& state, bool labels) {
+  Plot plot(image, folder, state, labels);
   plot.Outlines("STATES.dat", 0xDD9999);
   plot.Outlines("REGION2.dat", 0xCC8888);
   for (float channel = LowestChannel; channel <= HighestChannel; channel += ChannelStep)

@@ -10,10 +10,10 @@
 
 namespace kestrel::straight {
 
-/// The main map, its files read from `folder`.
-void DrawMainMap(QImage& image, const std::string& folder, const SessionState& state);
+/// The main map, its files read from `folder`, with all labels or none.
+void DrawMainMap(QImage& image, const std::string& folder, const SessionState& state, bool labels = true);
 
 /// Outlines and every channel of the whole-band scan.
-void DrawScan(QImage& image, const std::string& folder, const SessionState& state);
+void DrawScan(QImage& image, const std::string& folder, const SessionState& state, bool labels = true);
 
 }  // namespace kestrel::straight

@@ -27,7 +27,8 @@ void DrawMap(const Request& request, const View& view) {
   const PlatformTextMeasure measure;
   DisplayList drawing(measure);
   Say(DrawMainMap(drawing, DataFor(request), state));
-  const Result<Done> written = WritePicture(drawing, request.Size, QString::fromStdString(request.Output));
+  const Result<Done> written =
+      WritePicture(drawing, request.Size, QString::fromStdString(request.Output), request.Labels);
   if (!written) Fail(request.Output, written.error(), "the picture was not written");
 }
 

@@ -132,6 +132,14 @@ void AddPicture(CLI::App& command, Request& request) {
       .add_option_function<std::string>("--size", storeSize,
                                         "the picture's size in pixels, 64 to 16384 each way [1600x1200]")
       ->type_name("WxH");
+  const auto storeLabels = [&request](const std::string& given) {
+    request.Labels = LabelChoiceOf(given);
+    if (LabelChoiceWord(request.Labels) != given) Refuse("--labels", given, "fitting, all or none");
+  };
+  command
+      .add_option_function<std::string>("--labels", storeLabels,
+                                        "of the stations: fitting, all or none [fitting]")
+      ->type_name("CHOICE");
   const auto storeOutput = [&request](const std::string& given) {
     if (!NamesPicture(given)) Refuse("-o", given, "a file name that ends in .png, .svg or .pdf");
     request.Output = given;

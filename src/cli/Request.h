@@ -9,6 +9,7 @@
 #include "core/Distance.h"
 #include "core/SessionState.h"
 #include "data/DataFolder.h"
+#include "map/Labels.h"
 
 namespace kestrel::cli {
 
@@ -23,6 +24,7 @@ struct Request {
   std::optional<float> PatternSize;
   std::optional<float> Aspect;
   QSize Size = {1600, 1200};
+  LabelChoice Labels = LabelChoice::Fitting;
   std::string Output;
   bool Json = false;
 };

@@ -59,7 +59,8 @@ void Scan(const Request& request) {
   DisplayList drawing(measure);
   Say(DrawOutlineFiles(drawing, folder, projection));
   DrawBand(folder, projection, drawing);
-  const Result<Done> written = WritePicture(drawing, request.Size, QString::fromStdString(request.Output));
+  const Result<Done> written =
+      WritePicture(drawing, request.Size, QString::fromStdString(request.Output), request.Labels);
   if (!written) Fail(request.Output, written.error(), "the picture was not written");
 }
 

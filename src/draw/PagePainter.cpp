@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "draw/LabelPlacement.h"
 #include "draw/PainterCanvas.h"
 
 namespace kestrel {
@@ -45,7 +46,10 @@ void PaintPage(QPainter& painter, const PrintedPage& page, QSizeF paintable, dou
     painter.save();
     painter.setClipRect(rules.Area.adjusted(-hair, -hair, hair, hair));
     PainterCanvas canvas(painter, rules, inColor ? Recoloring() : page.Greys);
-    pane.Draw(canvas);
+    const PlatformTextMeasure measure;
+    DisplayList drawing(measure);
+    pane.Draw(drawing);
+    PlayPlaced(drawing, rules, canvas);
     painter.restore();
   }
 }

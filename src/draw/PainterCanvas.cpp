@@ -1,5 +1,6 @@
 #include "draw/PainterCanvas.h"
 
+#include <QPainterPath>
 #include <array>
 #include <utility>
 #include <vector>
@@ -94,13 +95,29 @@ void PainterCanvas::Dot(Point at) {
   painter_.drawPoint(QPointF(point.x, point.y));
 }
 
-void PainterCanvas::Text(Point topLeft, std::string_view text) {
+std::optional<QPointF> PainterCanvas::ShownBaseline(Point topLeft, std::string_view text) {
   UseFont();
   const Point at = view_.Baseline(topLeft, font_);
   const double size = view_.FontSize(font_);
   const QRectF reach(at.x, at.y - 2 * size, size * static_cast<double>(text.size()), 3 * size);
-  if (!view_.Area().intersects(reach)) return;
-  painter_.drawText(QPointF(at.x, at.y), QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+  if (!view_.Area().intersects(reach)) return std::nullopt;
+  return QPointF(at.x, at.y);
+}
+
+void PainterCanvas::Text(Point topLeft, std::string_view text) {
+  const std::optional<QPointF> at = ShownBaseline(topLeft, text);
+  if (at) painter_.drawText(*at, QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+}
+
+void PainterCanvas::RimmedText(Point topLeft, std::string_view text) {
+  const std::optional<QPointF> at = ShownBaseline(topLeft, text);
+  if (!at) return;
+  const QString string = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+  QPainterPath letters;
+  letters.addText(*at, painter_.font(), string);
+  painter_.strokePath(
+      letters, QPen(Qt::white, RimWidth * view_.PixelSize(), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter_.drawText(*at, string);
 }
 
 void PainterCanvas::BeginPanel(Point anchor, const Font& smallest) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPainter>
+#include <optional>
 
 #include "draw/Fonts.h"
 #include "draw/SurfaceView.h"
@@ -27,6 +28,7 @@ class PainterCanvas final : public Canvas {
   void FilledBox(Point corner, Point opposite) override;
   void Dot(Point at) override;
   void Text(Point topLeft, std::string_view text) override;
+  void RimmedText(Point topLeft, std::string_view text) override;
   float TextWidth(std::string_view text) const override { return measure_.TextWidth(font_, text); }
   float TextHeight() const override { return measure_.TextHeight(font_); }
   void BeginStation(const StationMark&) override {}
@@ -37,6 +39,8 @@ class PainterCanvas final : public Canvas {
  private:
   void UsePen();
   void UseFont();
+  /// Where the text's base line begins; nothing when it does not show.
+  std::optional<QPointF> ShownBaseline(Point topLeft, std::string_view text);
 
   QPainter& painter_;
   SurfaceView view_;

@@ -8,6 +8,7 @@
 #include <new>
 
 #include "data/FileIo.h"
+#include "draw/LabelPlacement.h"
 #include "draw/PainterCanvas.h"
 #include "draw/PngFile.h"
 #include "draw/Renderer.h"
@@ -19,15 +20,16 @@ namespace {
 constexpr int kPixelsPerInch = 96;
 constexpr int kPdfUnitsPerPixel = 20;
 
-SurfaceRules RulesFor(QSizeF size, double pixelSize = 1) {
+SurfaceRules RulesFor(QSizeF size, LabelChoice labels, double pixelSize = 1) {
   SurfaceRules rules;
+  rules.Labels = labels;
   rules.Fit = FitSheet(static_cast<float>(size.width()), static_cast<float>(size.height()));
   rules.Area = QRectF(QPointF(0, 0), size);
   rules.PixelSize = pixelSize;
   return rules;
 }
 
-QByteArray PngBytes(const DisplayList& drawing, QSize size) {
+QByteArray PngBytes(const DisplayList& drawing, QSize size, LabelChoice labels) {
   constexpr int kMostPixels = 16 << 20;  // drawn at a time, 64 MB
   const int most = std::max(1, kMostPixels / size.width());
   PngFile file(size);
@@ -36,21 +38,21 @@ QByteArray PngBytes(const DisplayList& drawing, QSize size) {
     const int rows = std::min(most, size.height() - top);
     QImage band(size.width(), rows, QImage::Format_RGB32);
     if (band.isNull()) throw std::bad_alloc();
-    renderer.Draw(drawing, RulesFor(size), band, top);
+    renderer.Draw(drawing, RulesFor(size, labels), band, top);
     file.AddRows(band, 0, rows);
   }
   return file.Finish();
 }
 
-QByteArray SvgBytes(const DisplayList& drawing, QSize size) {
-  SurfaceRules rules = RulesFor(size);
+QByteArray SvgBytes(const DisplayList& drawing, QSize size, LabelChoice labels) {
+  SurfaceRules rules = RulesFor(size, labels);
   rules.Thinning = 0.25;
   SvgCanvas canvas(size, rules);
-  drawing.Play(canvas);
+  PlayPlaced(drawing, rules, canvas);
   return canvas.Finish();
 }
 
-QByteArray PdfBytes(const DisplayList& drawing, QSize size) {
+QByteArray PdfBytes(const DisplayList& drawing, QSize size, LabelChoice labels) {
   QBuffer buffer;
   buffer.open(QIODevice::WriteOnly);
   QPdfWriter writer(&buffer);
@@ -60,11 +62,11 @@ QByteArray PdfBytes(const DisplayList& drawing, QSize size) {
   writer.setPageSize(QPageSize(QSizeF(size) / kPixelsPerInch, QPageSize::Inch, {}, QPageSize::ExactMatch));
   writer.setPageMargins(QMarginsF());
   QPainter painter(&writer);
-  SurfaceRules rules = RulesFor(QSizeF(size) * kPdfUnitsPerPixel, kPdfUnitsPerPixel);
+  SurfaceRules rules = RulesFor(QSizeF(size) * kPdfUnitsPerPixel, labels, kPdfUnitsPerPixel);
   rules.Thinning = 0.25;
   painter.setClipRect(rules.Area);
   PainterCanvas canvas(painter, rules);
-  drawing.Play(canvas);
+  PlayPlaced(drawing, rules, canvas);
   painter.end();
   return buffer.data();
 }
@@ -73,19 +75,19 @@ QByteArray PdfBytes(const DisplayList& drawing, QSize size) {
 
 QImage RenderImage(const DisplayList& drawing, QSize size) {
   QImage image(size, QImage::Format_RGB32);
-  Renderer().Draw(drawing, RulesFor(size), image);
+  Renderer().Draw(drawing, RulesFor(size, LabelChoice::Fitting), image);
   return image;
 }
 
-Result<Done> WritePicture(const DisplayList& drawing, QSize size, const QString& path) {
+Result<Done> WritePicture(const DisplayList& drawing, QSize size, const QString& path, LabelChoice labels) {
   const QString kind = QFileInfo(path).suffix().toLower();
   QByteArray bytes;
   if (kind == "png")
-    bytes = PngBytes(drawing, size);
+    bytes = PngBytes(drawing, size, labels);
   else if (kind == "svg")
-    bytes = SvgBytes(drawing, size);
+    bytes = SvgBytes(drawing, size, labels);
   else if (kind == "pdf")
-    bytes = PdfBytes(drawing, size);
+    bytes = PdfBytes(drawing, size, labels);
   else
     return Error{Error::Kind::Malformed, path.toStdString(), 0,
                  "a picture's name ends in .png, .svg or .pdf"};

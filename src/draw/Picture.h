@@ -6,6 +6,7 @@
 
 #include "core/Result.h"
 #include "map/DisplayList.h"
+#include "map/Labels.h"
 
 // Drawings of the main map's sheet as pictures and files.
 
@@ -15,8 +16,9 @@ namespace kestrel {
 QImage RenderImage(const DisplayList& drawing, QSize size);
 
 /// Writes the drawing as a picture of `size` pixels, its kind told by the name's end: .png, .svg or .pdf (one
-/// page, 96 pixels to the inch). The file is replaced as a whole or left as it was.
+/// page, 96 pixels to the inch), with the labels chosen. The file is replaced as a whole or left as it was.
 /// Errors: Malformed (another ending), Refused.
-Result<Done> WritePicture(const DisplayList& drawing, QSize size, const QString& path);
+Result<Done> WritePicture(const DisplayList& drawing, QSize size, const QString& path,
+                          LabelChoice labels = LabelChoice::Fitting);
 
 }  // namespace kestrel

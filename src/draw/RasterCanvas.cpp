@@ -1,6 +1,7 @@
 #include "draw/RasterCanvas.h"
 
 #include <QPainter>
+#include <QPainterPath>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -9,6 +10,11 @@
 #include "draw/PainterCanvas.h"
 
 namespace kestrel {
+namespace {
+
+constexpr QRgb kWhite = 0xFFFFFFFF;
+
+}  // namespace
 
 RasterCanvas::RasterCanvas(QImage& image, const SurfaceRules& rules, DrawingTools& tools, int top)
     : image_(image),
@@ -114,7 +120,7 @@ const RasterCanvas::Style& RasterCanvas::PresentStyle() {
       Style{font_, inPanel_, size, measure_.Ascent(font_), &tools_.Glyphs(font_.Face, size)});
 }
 
-void RasterCanvas::Text(Point topLeft, std::string_view text) {
+void RasterCanvas::DrawText(Point topLeft, std::string_view text, bool rimmed) {
   const Style& style = PresentStyle();
   const Point at = view_.At({topLeft.x, topLeft.y + style.ascent});
   const double size = style.size;
@@ -124,13 +130,24 @@ void RasterCanvas::Text(Point topLeft, std::string_view text) {
         x + size * static_cast<double>(text.size()) >= 0))
     return;
   LayInk();
-  if (GlyphCache::Knows(text)) return style.glyphs->Draw(image_, top_, {at.x, at.y}, color_, text);
+  if (GlyphCache::Knows(text)) {
+    const double rim = std::round(view_.PixelSize());
+    for (int i = 0; rimmed && i < 9; ++i)
+      style.glyphs->Draw(image_, top_, {at.x + rim * (i % 3 - 1), at.y + rim * (i / 3 - 1)}, kWhite, text);
+    return style.glyphs->Draw(image_, top_, {at.x, at.y}, color_, text);
+  }
   QPainter painter(&image_);
   painter.scale(1 / image_.devicePixelRatio(), 1 / image_.devicePixelRatio());
   painter.setFont(style.glyphs->PixelFont());
   painter.setPen(QColor(color_));
-  painter.drawText(QPointF(at.x, at.y - static_cast<float>(top_)),
-                   QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+  const QPointF start(at.x, at.y - static_cast<float>(top_));
+  const QString string = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+  if (rimmed) {
+    QPainterPath letters;
+    letters.addText(start, painter.font(), string);
+    painter.strokePath(letters, QPen(Qt::white, RimWidth * view_.PixelSize()));
+  }
+  painter.drawText(start, string);
 }
 
 void RasterCanvas::BeginPanel(Point anchor, const Font& smallest) {

@@ -31,7 +31,8 @@ class RasterCanvas final : public Canvas {
   void Box(Point corner, Point opposite) override;
   void FilledBox(Point corner, Point opposite) override;
   void Dot(Point at) override;
-  void Text(Point topLeft, std::string_view text) override;
+  void Text(Point topLeft, std::string_view text) override { DrawText(topLeft, text, false); }
+  void RimmedText(Point topLeft, std::string_view text) override { DrawText(topLeft, text, true); }
   float TextWidth(std::string_view text) const override { return measure_.TextWidth(font_, text); }
   float TextHeight() const override { return measure_.TextHeight(font_); }
   void BeginStation(const StationMark&) override {}
@@ -51,6 +52,7 @@ class RasterCanvas final : public Canvas {
 
   const Style& PresentStyle();
   void LayInk();
+  void DrawText(Point topLeft, std::string_view text, bool rimmed);
 
   QImage& image_;
   const int top_;

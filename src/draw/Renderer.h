@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "draw/DrawingTools.h"
+#include "draw/LabelPlacement.h"
 #include "draw/SurfaceView.h"
 #include "map/DisplayList.h"
 
@@ -25,7 +26,7 @@ class Renderer {
   /// picture that the rules are for.
   void Draw(const DisplayList& list, const SurfaceRules& rules, QImage& image, int top = 0);
 
-  /// Draws what was drawn after the list was `from` long over what the image shows.
+  /// Draws what was drawn after the list was `from` long over what the image shows, whose labels stay.
   void DrawMore(const DisplayList& list, std::size_t from, const SurfaceRules& rules, QImage& image);
 
  private:
@@ -36,6 +37,7 @@ class Renderer {
   void EngageHelpers(int count);
 
   const int processors_;
+  LabelPlacement labels_;
   std::vector<DrawingTools> tools_;  // of each processor
   std::vector<std::unique_ptr<Helper>> helpers_;
 };

@@ -4,9 +4,13 @@
 #include <span>
 
 #include "draw/ThinnedRun.h"
+#include "map/Labels.h"
 #include "map/Sheet.h"
 
 namespace kestrel {
+
+/// Width in pixels of the line around letters whose rim is white; half of it lies outside of them.
+inline constexpr double RimWidth = 2.5;
 
 /// How a sheet comes onto a surface (a window, a picture, a page): where it lies, how large a pixel is there,
 /// and from which size on text can be read.
@@ -17,6 +21,7 @@ struct SurfaceRules {
   double SmallestXHeight = 7;  ///< in pixels; text below it grows; 0: text keeps its size
   double Thinning = 0.5;       ///< vertices closer together than this many pixels are joined into one, those
                                ///< off a straight line by less than a fifth of it left out: 1.2 times at most
+  LabelChoice Labels = LabelChoice::Fitting;
 };
 
 /// Takes places and lengths of the sheet to the surface, panels included. Culling and thinning happen here,

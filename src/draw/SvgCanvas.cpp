@@ -156,7 +156,7 @@ void SvgCanvas::Dot(Point at) {
   FilledCircle(at, static_cast<float>(view_.PixelSize() / 2 / view_.Length(1)));
 }
 
-void SvgCanvas::Text(Point topLeft, std::string_view text) {
+void SvgCanvas::WriteText(Point topLeft, std::string_view text, bool rimmed) {
   const Point at = view_.Baseline(topLeft, font_);
   const double size = view_.FontSize(font_);
   const double width = size * measure_.TextWidth(font_, text) / (font_.Points * TwipsPerPoint);
@@ -168,6 +168,12 @@ void SvgCanvas::Text(Point topLeft, std::string_view text) {
   xml_.writeAttribute("font-size", Number(size));
   if (font_.Face == FontFace::SansBold) xml_.writeAttribute("font-weight", "bold");
   xml_.writeAttribute("fill", color_);
+  if (rimmed) {
+    xml_.writeAttribute("stroke", "#ffffff");
+    xml_.writeAttribute("stroke-width", Number(RimWidth * view_.PixelSize()));
+    xml_.writeAttribute("stroke-linejoin", "round");
+    xml_.writeAttribute("paint-order", "stroke");
+  }
   xml_.writeAttribute("xml:space", "preserve");
   xml_.writeCharacters(XmlText(text));
   xml_.writeEndElement();

@@ -32,7 +32,8 @@ class SvgCanvas final : public Canvas {
   void Box(Point corner, Point opposite) override;
   void FilledBox(Point corner, Point opposite) override;
   void Dot(Point at) override;
-  void Text(Point topLeft, std::string_view text) override;
+  void Text(Point topLeft, std::string_view text) override { WriteText(topLeft, text, false); }
+  void RimmedText(Point topLeft, std::string_view text) override { WriteText(topLeft, text, true); }
   float TextWidth(std::string_view text) const override { return measure_.TextWidth(font_, text); }
   float TextHeight() const override { return measure_.TextHeight(font_); }
   void BeginStation(const StationMark& mark) override;
@@ -44,6 +45,7 @@ class SvgCanvas final : public Canvas {
   void Begin(const QString& element);
   void WriteStroke();
   void WriteCircle(Point center, float radius, bool filled);
+  void WriteText(Point topLeft, std::string_view text, bool rimmed);
   void WriteBox(Point corner, Point opposite, bool filled);
   QString UniqueId(const StationMark& mark);
 

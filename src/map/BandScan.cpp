@@ -12,12 +12,11 @@
 #include "core/Processors.h"
 #include "core/Text.h"
 #include "data/StationFile.h"
+#include "map/Labels.h"
 
 namespace kestrel {
 namespace {
 
-constexpr float kLabelLeft = 60;
-constexpr float kLabelAbove = 210;
 constexpr float kCrossArm = 16;  // half a line of the cross
 constexpr Font kLabelFont = {FontFace::Sans, 8};
 constexpr Font kMapFont = {FontFace::Sans, 10};
@@ -39,7 +38,8 @@ Result<std::vector<StationMark>> ReadMarks(const DataFolder& folder, const MapPr
     marks.push_back({{},
                      static_cast<int>(channel),
                      std::string(Trim(line->CallSign)),
-                     std::string(Trim(line->HoursCode))});
+                     std::string(Trim(line->HoursCode)),
+                     static_cast<float>(line->Number(line->PowerKW))});
     latitudes.push_back(static_cast<float>(line->Number(line->Latitude)));
     longitudesEast.push_back(-static_cast<float>(line->Number(line->Longitude)));
   }
@@ -67,7 +67,7 @@ void DrawChannel(Canvas& canvas, float channel, const std::vector<StationMark>& 
     canvas.BeginStation(mark);
     if (labelled.insert(Spot(mark.At)).second) {
       canvas.SetColor(Palette::Text);
-      canvas.Text({x - kLabelLeft, y - kLabelAbove}, label);
+      canvas.Label({mark.At, label, false, LabelWeight(mark.At, mark.PowerKW)});
     }
     canvas.SetColor(Palette::ScanCross);
     canvas.Line({x - kCrossArm, y}, {x + kCrossArm, y});

@@ -38,7 +38,21 @@ struct StationMark {
   int Channel = 0;  ///< kHz
   std::string CallSign;
   std::string HoursCode;
+  float PowerKW = 0;
 };
+
+/// A station's label, and how much it matters where there is no room for all.
+struct StationLabel {
+  Point At;  ///< of the station
+  std::string_view Text;
+  bool Chosen = false;  ///< of the channel that was chosen
+  float Weight = 0;     ///< power over the square of the distance from home, in any unit
+};
+
+/// Where a label's upper left corner is tried first: 60 twips left of the station, just above it.
+inline Point FirstLabelPlace(Point station) {
+  return {station.x - 60, station.y - 210};
+}
 
 /// What every figure is drawn on: the screen, a picture, paper, a file, a list. Coordinates are twips. The
 /// colour, line width and font set last hold for what follows; a canvas begins with black, 1 and Sans 10.
@@ -59,6 +73,12 @@ class Canvas {
   virtual void FilledBox(Point corner, Point opposite) = 0;
   virtual void Dot(Point at) = 0;                               ///< a single point, one pixel
   virtual void Text(Point topLeft, std::string_view text) = 0;  ///< one line, UTF-8
+  /// The same with a white rim, so that lines below do not cut the letters.
+  virtual void RimmedText(Point topLeft, std::string_view text) = 0;
+
+  /// A label of a station, in the colour and font set last. A list keeps it for the surface to place, on top
+  /// of what was drawn since the panel before it; other canvases draw it at its first place.
+  virtual void Label(const StationLabel& label) { RimmedText(FirstLabelPlace(label.At), label.Text); }
 
   virtual float TextWidth(std::string_view text) const = 0;  ///< twips, in the font set last
   virtual float TextHeight() const = 0;                      ///< twips, in the font set last

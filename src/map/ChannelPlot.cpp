@@ -9,13 +9,12 @@
 #include "core/Hours.h"
 #include "core/Numbers.h"
 #include "data/StationFile.h"
+#include "map/Labels.h"
 
 namespace kestrel {
 namespace {
 
 constexpr float kUnknownRadius = 30;
-constexpr float kLabelLeft = 60;
-constexpr float kLabelAbove = 210;
 constexpr Font kLabelFont = {FontFace::Sans, 8};
 constexpr Font kMapFont = {FontFace::Sans, 10};
 
@@ -66,7 +65,8 @@ class ChannelPlotter {
     const bool known = record.TowerCount > 0 && ComputePattern(record, values_);
     ChooseStyle(hours);
 
-    canvas_.BeginStation({*at, static_cast<int>(plotFrequency_), record.CallSign, record.HoursCode});
+    canvas_.BeginStation(
+        {*at, static_cast<int>(plotFrequency_), record.CallSign, record.HoursCode, record.PowerKW});
     canvas_.SetColor(style_.Color);
     if (!known) {
       canvas_.FilledCircle(*at, kUnknownRadius);
@@ -108,7 +108,8 @@ class ChannelPlotter {
     if (!labelled_.insert(record.CallSign + ' ' + place).second) return;
     canvas_.SetColor(Darkened(style_.Color));
     canvas_.SetFont(kLabelFont);
-    canvas_.Text({at.x - kLabelLeft, at.y - kLabelAbove}, NumberText(plotFrequency_) + ' ' + record.CallSign);
+    const std::string text = NumberText(plotFrequency_) + ' ' + record.CallSign;
+    canvas_.Label({at, text, plotFrequency_ == state_.SelectedFrequency, LabelWeight(at, record.PowerKW)});
     canvas_.SetFont(kMapFont);
   }
 

@@ -14,6 +14,7 @@ void DisplayList::AddPoints(Verb verb, std::span<const Point> points, float numb
 }
 
 void DisplayList::SetColor(ColorValue color) {
+  color_ = color;
   Command command{Verb::SetColor};
   command.first = static_cast<std::uint32_t>(color);
   commands_.push_back(command);
@@ -51,19 +52,35 @@ void DisplayList::Box(Point corner, Point opposite) {
   AddPoints(Verb::Box, std::array{corner, opposite});
 }
 void DisplayList::FilledBox(Point corner, Point opposite) {
+  if (panel_) panelBoxes_.push_back({panel_->Anchor, panel_->Smallest, corner, opposite});
   AddPoints(Verb::FilledBox, std::array{corner, opposite});
 }
 void DisplayList::Dot(Point at) {
   AddPoints(Verb::Dot, std::array{at});
 }
 
-void DisplayList::Text(Point topLeft, std::string_view text) {
-  Command command{Verb::Text};
+void DisplayList::AddText(Verb verb, Point topLeft, std::string_view text) {
+  Command command{verb};
   command.first = static_cast<std::uint32_t>(text_.size());
   command.count = static_cast<std::uint32_t>(text.size());
   command.at = topLeft;
   text_ += text;
   commands_.push_back(command);
+}
+
+void DisplayList::Text(Point topLeft, std::string_view text) {
+  AddText(Verb::Text, topLeft, text);
+}
+
+void DisplayList::RimmedText(Point topLeft, std::string_view text) {
+  AddText(Verb::RimmedText, topLeft, text);
+}
+
+void DisplayList::Label(const StationLabel& label) {
+  AddText(Verb::Label, label.At, label.Text);
+  Command& command = commands_.back();
+  labels_.push_back({label.At, command.first, command.count, color_, font_, label.Chosen, label.Weight});
+  command.first = static_cast<std::uint32_t>(labels_.size()) - 1;
 }
 
 void DisplayList::BeginStation(const StationMark& mark) {
@@ -78,30 +95,70 @@ void DisplayList::EndStation() {
 }
 
 void DisplayList::BeginPanel(Point anchor, const Font& smallest) {
+  panel_ = PanelBox{anchor, smallest, {}, {}};
   AddPoints(Verb::BeginPanel, std::array{anchor}, smallest.Points);
   commands_.back().face = smallest.Face;
 }
 
 void DisplayList::EndPanel() {
+  panel_.reset();
   AddPoints(Verb::EndPanel, {});
 }
 
 void DisplayList::Clear() {
   font_ = {};
+  color_ = 0;
+  panel_.reset();
+  labels_.clear();
+  panelBoxes_.clear();
   commands_.clear();
   points_.clear();
   text_.clear();
   stations_.clear();
 }
 
-void DisplayList::PlayFrom(std::size_t length, Canvas& canvas, const SheetBox& shown) const {
-  bool inPanel = false;  // whose figures may grow out of their boxes
+void DisplayList::PlayLabels(std::span<const std::uint32_t> labels, Canvas& canvas,
+                             const LabelPlaces& places) const {
+  for (const std::uint32_t i : labels) {
+    const KeptLabel& label = labels_[i];
+    const bool placed = i < places.size();
+    if (placed && !places[i]) continue;
+    canvas.SetColor(label.Color);
+    canvas.SetFont(label.Face);
+    if (placed)
+      canvas.RimmedText(*places[i], LabelText(label));
+    else
+      canvas.Label({label.At, LabelText(label), label.Chosen, label.Weight});
+  }
+}
+
+void DisplayList::PlayFrom(std::size_t length, Canvas& canvas, const SheetBox& shown,
+                           const LabelPlaces& places) const {
+  bool inPanel = false;               // whose figures may grow out of their boxes
+  std::vector<std::uint32_t> labels;  // not yet drawn: they lie over the lines of all stations
+  Command color{Verb::SetColor}, font{Verb::SetFont};
+  font.number = Font().Points;
+  const auto playLabels = [&] {
+    if (labels.empty()) return;
+    PlayLabels(labels, canvas, places);
+    labels.clear();
+    PlayCommand(color, canvas);
+    PlayCommand(font, canvas);
+  };
   for (std::size_t i = 0; i < commands_.size(); ++i) {
     const Command& command = commands_[i];
+    if (command.verb == Verb::SetColor) color = command;
+    if (command.verb == Verb::SetFont) font = command;
     if (i < length && !SetsState(command.verb)) continue;
+    if (command.verb == Verb::Label) {
+      labels.push_back(command.first);
+      continue;
+    }
+    if (command.verb == Verb::BeginPanel) playLabels();
     inPanel = command.verb == Verb::BeginPanel || (inPanel && command.verb != Verb::EndPanel);
     if (!IsLine(command.verb) || inPanel || command.box.Touches(shown)) PlayCommand(command, canvas);
   }
+  playLabels();
 }
 
 void DisplayList::PlayCommand(const Command& command, Canvas& canvas) const {
@@ -131,6 +188,10 @@ void DisplayList::PlayCommand(const Command& command, Canvas& canvas) const {
       return canvas.Dot(points()[0]);
     case Verb::Text:
       return canvas.Text(command.at, std::string_view(text_).substr(command.first, command.count));
+    case Verb::RimmedText:
+      return canvas.RimmedText(command.at, std::string_view(text_).substr(command.first, command.count));
+    case Verb::Label:
+      return;  // PlayLabels draws them
     case Verb::BeginStation:
       return canvas.BeginStation(stations_[command.first]);
     case Verb::EndStation:

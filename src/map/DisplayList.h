@@ -1,12 +1,35 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "map/Sheet.h"
 
 namespace kestrel {
+
+/// A label of a list, with what it is drawn in.
+struct KeptLabel {
+  Point At;                 ///< of the station
+  std::uint32_t First = 0;  ///< of the list's bytes of text
+  std::uint32_t Count = 0;
+  ColorValue Color = 0;
+  Font Face;
+  bool Chosen = false;
+  float Weight = 0;
+};
+
+/// A box that a panel of a list fills.
+struct PanelBox {
+  Point Anchor;
+  Font Smallest;
+  Point Corner;
+  Point Opposite;
+};
+
+/// Where labels are drawn: the upper left corner of each, nothing for those left out.
+using LabelPlaces = std::vector<std::optional<Point>>;
 
 /// A canvas that keeps what is drawn on it, whole and unthinned, and can repeat it on any other canvas:
 /// a resized window, a sharper screen, a picture, paper. Drawing more adds to what is there.
@@ -27,6 +50,8 @@ class DisplayList final : public Canvas {
   void FilledBox(Point corner, Point opposite) override;
   void Dot(Point at) override;
   void Text(Point topLeft, std::string_view text) override;
+  void RimmedText(Point topLeft, std::string_view text) override;
+  void Label(const StationLabel& label) override;
   float TextWidth(std::string_view text) const override { return measure_.TextWidth(font_, text); }
   float TextHeight() const override { return measure_.TextHeight(font_); }
   void BeginStation(const StationMark& mark) override;
@@ -52,10 +77,19 @@ class DisplayList final : public Canvas {
 
   /// Likewise, but lines, open or closed, that do not touch `shown` are passed over, unless they belong to a
   /// panel. Lines have no width here: who draws wide ones shows more by their reach.
-  void PlayFrom(std::size_t length, Canvas& canvas, const SheetBox& shown) const;
+  /// The labels come where `places` says, those beyond its end where the canvas has them.
+  void PlayFrom(std::size_t length, Canvas& canvas, const SheetBox& shown,
+                const LabelPlaces& places = {}) const;
 
   /// The stations drawn, in drawing order.
   const std::vector<StationMark>& Stations() const { return stations_; }
+
+  /// The labels and the boxes of panels, in drawing order.
+  const std::vector<KeptLabel>& Labels() const { return labels_; }
+  const std::vector<PanelBox>& PanelBoxes() const { return panelBoxes_; }
+  std::string_view LabelText(const KeptLabel& label) const {
+    return std::string_view(text_).substr(label.First, label.Count);
+  }
 
  private:
   enum class Verb : std::uint8_t {
@@ -71,6 +105,8 @@ class DisplayList final : public Canvas {
     FilledBox,
     Dot,
     Text,
+    RimmedText,
+    Label,
     BeginStation,
     EndStation,
     BeginPanel,
@@ -82,7 +118,7 @@ class DisplayList final : public Canvas {
     Verb verb;
     FontFace face = FontFace::Sans;
     float number = 0;         // width, radius or font size
-    std::uint32_t first = 0;  // in points_, text_ or stations_; or the colour
+    std::uint32_t first = 0;  // in points_, text_, stations_ or labels_; or the colour
     std::uint32_t count = 0;  // of points or bytes of text
     Point at = {};            // the text's place
     SheetBox box = {};        // around lines
@@ -96,13 +132,19 @@ class DisplayList final : public Canvas {
   }
   void AddPoints(Verb verb, std::span<const Point> points, float number = 0);
   void PlayCommand(const Command& command, Canvas& canvas) const;
+  void AddText(Verb verb, Point topLeft, std::string_view text);
+  void PlayLabels(std::span<const std::uint32_t> labels, Canvas& canvas, const LabelPlaces& places) const;
 
   const TextMeasure& measure_;
   Font font_;
+  ColorValue color_ = 0;
+  std::optional<PanelBox> panel_;  // being drawn, its box not yet known
   std::vector<Command> commands_;
   std::vector<Point> points_;
   std::string text_;
   std::vector<StationMark> stations_;
+  std::vector<KeptLabel> labels_;
+  std::vector<PanelBox> panelBoxes_;
 };
 
 }  // namespace kestrel

@@ -80,6 +80,7 @@ class RecordingCanvas final : public Canvas {
   void Box(Point corner, Point opposite) override { Add("Box", {corner, opposite}); }
   void FilledBox(Point corner, Point opposite) override { Add("FilledBox", {corner, opposite}); }
   void Dot(Point at) override { Add("Dot", {at}); }
+  void RimmedText(Point topLeft, std::string_view text) override { Text(topLeft, text); }
   void Text(Point topLeft, std::string_view text) override { Add("Text", {topLeft}, 0, std::string(text)); }
   float TextWidth(std::string_view text) const override { return measure_.TextWidth(font_, text); }
   float TextHeight() const override { return measure_.TextHeight(font_); }
