@@ -40,10 +40,7 @@ struct Surface {
   QImage Image{kSize, QImage::Format_RGB32};
 
   void Show() {
-    SurfaceRules rules;
-    rules.Fit = FitSheet(static_cast<float>(kSize.width()), static_cast<float>(kSize.height()));
-    rules.Area = QRectF(Image.rect());
-    Drawer.Draw(List, rules, Image);
+    Drawer.Draw(List, RulesFor(Image.rect()), Image);
     Keep(Image.constBits());
   }
 };

@@ -17,15 +17,10 @@ constexpr double kPointsPerInch = 72;
 // lines and columns would run together.
 constexpr double kMostPointsOfLayout = 10;
 
-SurfaceRules RulesFor(const PagePane& pane, double unitsPerTwip, double unitsPerInch) {
-  SurfaceRules rules;
-  rules.Area = QRectF(pane.Place.Left * unitsPerTwip, pane.Place.Top * unitsPerTwip,
-                      pane.Place.Width * unitsPerTwip, pane.Place.Height * unitsPerTwip);
-  rules.Fit =
-      FitSheet(static_cast<float>(rules.Area.width()), static_cast<float>(rules.Area.height()), pane.Sheet);
-  rules.Fit.Left += static_cast<float>(rules.Area.left());
-  rules.Fit.Top += static_cast<float>(rules.Area.top());
-  rules.PixelSize = unitsPerInch / kHairsPerInch;
+SurfaceRules RulesOf(const PagePane& pane, double unitsPerTwip, double unitsPerInch) {
+  const QRectF place(pane.Place.Left * unitsPerTwip, pane.Place.Top * unitsPerTwip,
+                     pane.Place.Width * unitsPerTwip, pane.Place.Height * unitsPerTwip);
+  SurfaceRules rules = RulesFor(place, pane.Sheet, unitsPerInch / kHairsPerInch);
   const double shrinking = unitsPerTwip * kTwipsPerInch / unitsPerInch;
   const double points = std::min(kSmallestPoints, kMostPointsOfLayout * shrinking);
   rules.SmallestXHeight = points / kPointsPerInch * kHairsPerInch * XHeightShare(FontFace::Sans);
@@ -41,7 +36,7 @@ void PaintPage(QPainter& painter, const PrintedPage& page, QSizeF paintable, dou
       page, {static_cast<float>(paintable.width() * twips), static_cast<float>(paintable.height() * twips)});
   const double unitsPerTwip = paintable.width() / size.Width;
   for (const PagePane& pane : page.Layout(size)) {
-    const SurfaceRules rules = RulesFor(pane, unitsPerTwip, unitsPerInch);
+    const SurfaceRules rules = RulesOf(pane, unitsPerTwip, unitsPerInch);
     const double hair = rules.PixelSize;
     painter.save();
     painter.setClipRect(rules.Area.adjusted(-hair, -hair, hair, hair));

@@ -20,16 +20,7 @@ namespace {
 constexpr int kPixelsPerInch = 96;
 constexpr int kPdfUnitsPerPixel = 20;
 
-SurfaceRules RulesFor(QSizeF size, LabelChoice labels, double pixelSize = 1) {
-  SurfaceRules rules;
-  rules.Labels = labels;
-  rules.Fit = FitSheet(static_cast<float>(size.width()), static_cast<float>(size.height()));
-  rules.Area = QRectF(QPointF(0, 0), size);
-  rules.PixelSize = pixelSize;
-  return rules;
-}
-
-QByteArray PngBytes(const DisplayList& drawing, QSize size, LabelChoice labels) {
+QByteArray PngBytes(const DisplayList& drawing, const SurfaceRules& rules, QSize size) {
   constexpr int kMostPixels = 16 << 20;  // drawn at a time, 64 MB
   const int most = std::max(1, kMostPixels / size.width());
   PngFile file(size);
@@ -38,14 +29,13 @@ QByteArray PngBytes(const DisplayList& drawing, QSize size, LabelChoice labels) 
     const int rows = std::min(most, size.height() - top);
     QImage band(size.width(), rows, QImage::Format_RGB32);
     if (band.isNull()) throw std::bad_alloc();
-    renderer.Draw(drawing, RulesFor(size, labels), band, top);
+    renderer.Draw(drawing, rules, band, top);
     file.AddRows(band, 0, rows);
   }
   return file.Finish();
 }
 
-QByteArray SvgBytes(const DisplayList& drawing, QSize size, LabelChoice labels) {
-  SurfaceRules rules = RulesFor(size, labels);
+QByteArray SvgBytes(const DisplayList& drawing, SurfaceRules rules, QSize size) {
   rules.Thinning = 0.25;
   SvgCanvas canvas(size, rules);
   PlayPlaced(drawing, rules, canvas);
@@ -62,7 +52,8 @@ QByteArray PdfBytes(const DisplayList& drawing, QSize size, LabelChoice labels) 
   writer.setPageSize(QPageSize(QSizeF(size) / kPixelsPerInch, QPageSize::Inch, {}, QPageSize::ExactMatch));
   writer.setPageMargins(QMarginsF());
   QPainter painter(&writer);
-  SurfaceRules rules = RulesFor(QSizeF(size) * kPdfUnitsPerPixel, labels, kPdfUnitsPerPixel);
+  SurfaceRules rules = RulesFor({{0, 0}, QSizeF(size) * kPdfUnitsPerPixel}, {}, kPdfUnitsPerPixel);
+  rules.Labels = labels;
   rules.Thinning = 0.25;
   painter.setClipRect(rules.Area);
   PainterCanvas canvas(painter, rules);
@@ -75,17 +66,19 @@ QByteArray PdfBytes(const DisplayList& drawing, QSize size, LabelChoice labels) 
 
 QImage RenderImage(const DisplayList& drawing, QSize size) {
   QImage image(size, QImage::Format_RGB32);
-  Renderer().Draw(drawing, RulesFor(size, LabelChoice::Fitting), image);
+  Renderer().Draw(drawing, RulesFor(QRect({0, 0}, size)), image);
   return image;
 }
 
 Result<Done> WritePicture(const DisplayList& drawing, QSize size, const QString& path, LabelChoice labels) {
   const QString kind = QFileInfo(path).suffix().toLower();
+  SurfaceRules rules = RulesFor(QRect({0, 0}, size));
+  rules.Labels = labels;
   QByteArray bytes;
   if (kind == "png")
-    bytes = PngBytes(drawing, size, labels);
+    bytes = PngBytes(drawing, rules, size);
   else if (kind == "svg")
-    bytes = SvgBytes(drawing, size, labels);
+    bytes = SvgBytes(drawing, rules, size);
   else if (kind == "pdf")
     bytes = PdfBytes(drawing, size, labels);
   else

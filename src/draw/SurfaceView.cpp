@@ -7,6 +7,16 @@
 
 namespace kestrel {
 
+SurfaceRules RulesFor(const QRectF& surface, const SheetArea& area, double pixelSize) {
+  SurfaceRules rules;
+  rules.Fit = FitSheet(static_cast<float>(surface.width()), static_cast<float>(surface.height()), area);
+  rules.Fit.Left += static_cast<float>(surface.left());
+  rules.Fit.Top += static_cast<float>(surface.top());
+  rules.Area = surface;
+  rules.PixelSize = pixelSize;
+  return rules;
+}
+
 Point SurfaceView::Grown(Point sheet) const {
   const auto growth = static_cast<float>(panelGrowth_);
   return {panelAnchor_.x + (sheet.x - panelAnchor_.x) * growth,

@@ -24,6 +24,9 @@ struct SurfaceRules {
   LabelChoice Labels = LabelChoice::Fitting;
 };
 
+/// The rules for a surface that `area` of the sheet is fitted to.
+SurfaceRules RulesFor(const QRectF& surface, const SheetArea& area = {}, double pixelSize = 1);
+
 /// Takes places and lengths of the sheet to the surface, panels included. Culling and thinning happen here,
 /// when a figure reaches its surface.
 class SurfaceView {

@@ -13,12 +13,9 @@
 namespace kestrel {
 namespace {
 
-QLabel* MakeHeading(const char* name, const QString& caption, double growth, bool bold) {
+QLabel* MakeHeading(const char* name, const QString& caption, double growth, QFont::Weight weight) {
   QLabel* label = MakeLabel(name, caption);
-  QFont font = label->font();
-  font.setPointSizeF(font.pointSizeF() * growth);
-  font.setBold(bold);
-  label->setFont(font);
+  ChangeFont(*label, weight, growth);
   return label;
 }
 
@@ -44,10 +41,8 @@ QScrollArea* MakeScrolling(QLabel* label) {
 
 }  // namespace
 
-frmAbout::frmAbout(const Workspace& workspace, QWidget* parent) : QDialog(parent), workspace_(workspace) {
-  setObjectName("frmAbout");
-  setWindowTitle("KestrelII - About");
-
+frmAbout::frmAbout(const Workspace& workspace, QWidget* parent)
+    : Form(workspace, parent, "frmAbout", "About") {
   const int line = fontMetrics().height();
   MapSurface* array = MakePicture("Image1", ArrayPictureArea, 12 * line);
   DrawArrayPicture(array->Drawing());
@@ -60,16 +55,13 @@ frmAbout::frmAbout(const Workspace& workspace, QWidget* parent) : QDialog(parent
   pictures->addWidget(map);
   pictures->addStretch();
 
-  QPushButton* systemInformation =
-      MakeButton("cmdSysInfo", "&System Info", "Starts the system's own information tool");
-  QPushButton* exit = MakeButton("cmdExit", "&Return", "Back to the map");
+  QPushButton* exit = MakeButton("cmdExit", "&Return", "Back to the map", [this] { accept(); });
   exit->setDefault(true);
-  connect(systemInformation, &QPushButton::clicked, this, [this] { StartSystemInformation(); });
-  connect(exit, &QPushButton::clicked, this, &QDialog::accept);
 
   auto* buttons = new QHBoxLayout;
   buttons->addStretch();
-  buttons->addWidget(systemInformation);
+  buttons->addWidget(MakeButton("cmdSysInfo", "&System Info", "Starts the system's own information tool",
+                                [this] { StartSystemInformation(); }));
   buttons->addWidget(exit);
 
   const SessionState& state = workspace_.State;
@@ -78,13 +70,11 @@ frmAbout::frmAbout(const Workspace& workspace, QWidget* parent) : QDialog(parent
   layout->setColumnStretch(1, 1);
   layout->setRowStretch(2, 1);
   layout->addLayout(pictures, 0, 0, 3, 1);
-  layout->addWidget(MakeHeading("lblTitle", "KestrelII", 2.4, true), 0, 1);
+  layout->addWidget(MakeHeading("lblTitle", "KestrelII", 2.4, QFont::Bold), 0, 1);
+  layout->addWidget(MakeHeading("lblVersion", "Version " + Text(state.ProgramVersion), 1.2, QFont::Normal), 1,
+                    1);
   layout->addWidget(
-      MakeHeading("lblVersion", "Version " + QString::fromStdString(state.ProgramVersion), 1.2, false), 1, 1);
-  layout->addWidget(
-      MakeScrolling(
-          MakeLabel("lblDescription", QString::fromStdString(AboutText(workspace_.Folder.StationsLine())))),
-      2, 1);
+      MakeScrolling(MakeLabel("lblDescription", Text(AboutText(workspace_.Folder.StationsLine())))), 2, 1);
   layout->addLayout(buttons, 3, 0, 1, 2);
   resize(fontMetrics().averageCharWidth() * 110, sizeHint().height());
   exit->setFocus();

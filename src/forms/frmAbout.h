@@ -1,20 +1,16 @@
 #pragma once
 
-#include <QDialog>
-
-#include "forms/Workspace.h"
+#include "forms/Form.h"
 
 namespace kestrel {
 
 /// Title, version, copyright and attributions, and the way to the system's own information tool.
-class frmAbout final : public QDialog {
+class frmAbout final : public Form {
  public:
   explicit frmAbout(const Workspace& workspace, QWidget* parent = nullptr);
 
  private:
   void StartSystemInformation();
-
-  Workspace workspace_;
 };
 
 }  // namespace kestrel

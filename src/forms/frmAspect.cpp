@@ -9,22 +9,20 @@
 
 namespace kestrel {
 
-frmAspect::frmAspect(const Workspace& workspace, QWidget* parent) : QDialog(parent), workspace_(workspace) {
-  setObjectName("frmAspect");
-  setWindowTitle("KestrelII - Aspect adjustment");
-
+frmAspect::frmAspect(const Workspace& workspace, QWidget* parent)
+    : Form(workspace, parent, "frmAspect", "Aspect adjustment") {
   constexpr double kStep = 1.01;
-  QPushButton* narrow = MakeButton("cmdNarrow", "<&narrower", "Makes all patterns a hundredth narrower");
-  QPushButton* wide = MakeButton("cmdWide", "&wider>", "Makes all patterns a hundredth wider");
-  QPushButton* exit = MakeButton("cmdExit", "&Return to KestrelII", "Keeps the ratio and closes this window");
-  connect(narrow, &QPushButton::clicked, this, [this] { Set(workspace_.State.AspectRatio / kStep); });
-  connect(wide, &QPushButton::clicked, this, [this] { Set(workspace_.State.AspectRatio * kStep); });
-  connect(exit, &QPushButton::clicked, this, &QDialog::accept);
+  QPushButton* narrow = MakeButton("cmdNarrow", "<&narrower", "Makes all patterns a hundredth narrower",
+                                   [this] { Set(workspace_.State.AspectRatio / kStep); });
+  QPushButton* wide = MakeButton("cmdWide", "&wider>", "Makes all patterns a hundredth wider",
+                                 [this] { Set(workspace_.State.AspectRatio * kStep); });
+  QPushButton* exit = MakeButton("cmdExit", "&Return to KestrelII", "Keeps the ratio and closes this window",
+                                 [this] { accept(); });
   connect(this, &QDialog::finished, this, [this] {
     if (RedrawAll) RedrawAll();
   });
 
-  value_ = MakeLabel("Label1", QString::fromStdString(NumberText(workspace_.State.AspectRatio)));
+  value_ = MakeLabel("Label1", Text(NumberText(workspace_.State.AspectRatio)));
   value_->setAlignment(Qt::AlignCenter);
   value_->setToolTip("The aspect ratio: how much wider than high a round pattern is drawn");
   value_->setMinimumWidth(fontMetrics().horizontalAdvance("0.00000000"));
@@ -44,7 +42,7 @@ frmAspect::frmAspect(const Workspace& workspace, QWidget* parent) : QDialog(pare
 
 void frmAspect::Set(double ratio) {
   workspace_.State.AspectRatio = static_cast<float>(ratio);
-  value_->setText(QString::fromStdString(NumberText(workspace_.State.AspectRatio)));
+  value_->setText(Text(NumberText(workspace_.State.AspectRatio)));
   if (RedrawChannel) RedrawChannel();
 }
 

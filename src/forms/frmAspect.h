@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QDialog>
 #include <functional>
 
-#include "forms/Workspace.h"
+#include "forms/Form.h"
 
 class QLabel;
 
@@ -11,7 +10,7 @@ namespace kestrel {
 
 /// Stretches or squeezes all pattern outlines until a round one looks round. Modeless: the map behind it
 /// changes at each press.
-class frmAspect final : public QDialog {
+class frmAspect final : public Form {
  public:
   explicit frmAspect(const Workspace& workspace, QWidget* parent = nullptr);
 
@@ -21,7 +20,6 @@ class frmAspect final : public QDialog {
  private:
   void Set(double ratio);
 
-  Workspace workspace_;
   QLabel* value_;
 };
 

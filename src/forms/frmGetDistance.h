@@ -1,8 +1,7 @@
 #pragma once
 
-#include <QDialog>
-
-#include "forms/Workspace.h"
+#include "forms/Form.h"
+#include "ui/PositionEntry.h"
 
 class QGridLayout;
 class QLabel;
@@ -10,30 +9,35 @@ class QLineEdit;
 
 namespace kestrel {
 
+class PlacePicker;
+
 /// Distance and bearing from home to a place, typed or picked from the city list.
-class frmGetDistance final : public QDialog {
+class frmGetDistance final : public Form {
  public:
   explicit frmGetDistance(const Workspace& workspace, QWidget* parent = nullptr);
 
  private:
-  /// A box for an answer or an entry, the label before it and, under an entry, its hint.
-  struct Entry {
+  /// A box for an answer and the label before it, hidden until there is one.
+  struct Answer {
     QLabel* Caption;
     QLineEdit* Box;
-    QLabel* Hint = nullptr;
+
+    void Show(const std::string& text) const;
   };
 
-  Entry AddEntry(QGridLayout* grid, const char* name, const QString& caption, const QString& tip, int column);
-  Entry AddAnswer(QGridLayout* grid, const char* name, const QString& caption, int column);
+  static Answer AddAnswer(QGridLayout* grid, const char* label, const char* box, const QString& caption,
+                          int column);
   QWidget* MakeUnits();
   void Take(const std::string& cityLine);
   void SetUnit(std::int16_t unit);
+  void GetDistance();
   void Compute();
 
-  Workspace workspace_;
-  Entry latitude_, longitude_;  // of the target
-  Entry bearing_, distance_;    // to it
-  std::int16_t unit_ = 0;       // 0 kilometres, 1 miles, as selected here
+  PlacePicker* cities_;
+  QGridLayout* grid_;
+  PositionEntry target_;
+  Answer bearing_, distance_;
+  std::int16_t unit_ = 0;  // 0 kilometres, 1 miles, as selected here
 };
 
 }  // namespace kestrel

@@ -12,43 +12,30 @@
 namespace kestrel {
 
 frmGetFrequency::frmGetFrequency(const Workspace& workspace, QWidget* parent)
-    : QDialog(parent), workspace_(workspace) {
-  setObjectName("frmGetFrequency");
-  setWindowTitle("KestrelII - Get frequency");
-
-  auto* label = new QLabel("&Plot which frequency (kHz): ");
-  label->setObjectName("lblGetChannel");
-  txtGetFrequency_ = new QLineEdit(QString::fromStdString(NumberText(OfferChannel(workspace_.State))));
-  txtGetFrequency_->setObjectName("txtGetFrequency");
-  txtGetFrequency_->setToolTip("A channel from 530 to 1700 kHz; 1.1k is 1100");
-  label->setBuddy(txtGetFrequency_);
+    : Form(workspace, parent, "frmGetFrequency", "Get frequency") {
+  txtGetFrequency_ = MakeBox("txtGetFrequency", "A channel from 530 to 1700 kHz; 1.1k is 1100");
+  txtGetFrequency_->setText(Text(NumberText(OfferChannel(workspace_.State))));
+  QPushButton* erase = MakeButton("cmdErasePlot", "&Erase and plot", "Draws the map anew with this channel",
+                                  [this] { ErasePlot(); });
+  erase->setDefault(true);
 
   auto* layout = new QGridLayout(this);
-  layout->addWidget(label, 0, 0);
+  layout->addWidget(MakeLabel("lblGetChannel", "&Plot which frequency (kHz): ", txtGetFrequency_), 0, 0);
   layout->addWidget(txtGetFrequency_, 0, 1);
-  const auto addButton = [&](const char* name, const QString& caption, const QString& tip, int row,
-                             int column, auto action) {
-    auto* button = new QPushButton(caption);
-    button->setObjectName(name);
-    button->setToolTip(tip);
-    button->setAutoDefault(false);
-    connect(button, &QPushButton::clicked, this, action);
-    layout->addWidget(button, row, column);
-    return button;
-  };
-  QPushButton* erase = addButton("cmdErasePlot", "&Erase and plot", "Draws the map anew with this channel", 1,
-                                 0, [this] { ErasePlot(); });
-  addButton("cmdExit", "&Add plot", "Adds this channel to what the map shows", 1, 1, [this] { AddPlot(); });
-  addButton("cmdUpOne", "&Up one channel and replot", "10 kHz higher (Page Up on the map)", 2, 0,
-            [this] { Step(StepUp); });
-  addButton("cmdDownOne", "&Down one channel and replot", "10 kHz lower (Page Down on the map)", 2, 1,
-            [this] { Step(StepDown); });
-  addButton("cmdAdd1st", "Add adja&cents", "Adds the channels 10 kHz above and below the present one", 3, 0,
-            [this] {
-              workspace_.State.AdjacentsShown = 1;
-              CloseWith(Plot::OnTop, std::nullopt);
-            });
-  erase->setDefault(true);
+  layout->addWidget(erase, 1, 0);
+  layout->addWidget(
+      MakeButton("cmdExit", "&Add plot", "Adds this channel to what the map shows", [this] { AddPlot(); }), 1,
+      1);
+  layout->addWidget(MakeButton("cmdUpOne", "&Up one channel and replot", "10 kHz higher (Page Up on the map)",
+                               [this] { Step(StepUp); }),
+                    2, 0);
+  layout->addWidget(MakeButton("cmdDownOne", "&Down one channel and replot",
+                               "10 kHz lower (Page Down on the map)", [this] { Step(StepDown); }),
+                    2, 1);
+  layout->addWidget(
+      MakeButton("cmdAdd1st", "Add adja&cents", "Adds the channels 10 kHz above and below the present one",
+                 [this] { AddAdjacents(); }),
+      3, 0);
   txtGetFrequency_->setFocus();
   txtGetFrequency_->selectAll();
 }
@@ -65,14 +52,19 @@ void frmGetFrequency::ErasePlot() {
             EnterChannel(workspace_.State, TypedNumber(*txtGetFrequency_), "Entry over 1700 reset to 1700"));
 }
 
+void frmGetFrequency::AddAdjacents() {
+  workspace_.State.AdjacentsShown = 1;
+  CloseWith(Plot::OnTop, std::nullopt);
+}
+
 void frmGetFrequency::Step(std::optional<std::string> (*step)(SessionState&)) {
   const std::optional<std::string> message = step(workspace_.State);
-  txtGetFrequency_->setText(QString::fromStdString(NumberText(workspace_.State.CurrentFrequency)));
+  txtGetFrequency_->setText(Text(NumberText(workspace_.State.CurrentFrequency)));
   CloseWith(Plot::AfterErase, message);
 }
 
 void frmGetFrequency::CloseWith(Plot choice, const std::optional<std::string>& message) {
-  if (message) workspace_.System.ShowMessage(this, QString::fromStdString(*message));
+  if (message) workspace_.System.ShowMessage(this, Text(*message));
   choice_ = choice;
   accept();
 }

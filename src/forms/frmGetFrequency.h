@@ -1,8 +1,9 @@
 #pragma once
 
-#include <QDialog>
+#include <optional>
+#include <string>
 
-#include "forms/Workspace.h"
+#include "forms/Form.h"
 
 class QLineEdit;
 
@@ -10,7 +11,7 @@ namespace kestrel {
 
 /// The window in which the channel is chosen. It changes the session's channel; what is to be drawn after it
 /// has closed is its Choice().
-class frmGetFrequency final : public QDialog {
+class frmGetFrequency final : public Form {
  public:
   enum class Plot {
     Nothing,     ///< the window was left by its frame or Escape: nothing has changed
@@ -25,10 +26,10 @@ class frmGetFrequency final : public QDialog {
  private:
   void AddPlot();
   void ErasePlot();
+  void AddAdjacents();
   void Step(std::optional<std::string> (*step)(SessionState&));
   void CloseWith(Plot choice, const std::optional<std::string>& message);
 
-  Workspace workspace_;
   QLineEdit* txtGetFrequency_;
   Plot choice_ = Plot::Nothing;
 };

@@ -18,7 +18,6 @@
 #include "forms/frmShowTowers.h"
 #include "map/StationPlot.h"
 #include "ui/Controls.h"
-#include "ui/FitToScreen.h"
 #include "ui/MapSurface.h"
 #include "ui/PrintCommands.h"
 
@@ -30,10 +29,6 @@ constexpr double kHeightOfScreen = 0.85;
 constexpr double kListOfWindow = 0.3;    // the list takes no more of the height
 constexpr double kLineOfScreen = 0.92;   // a line's heads take no more of the width
 constexpr double kSmallestPoints = 7.5;  // unless they would be too small to read
-
-QString Text(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 /// The list's font, smaller where the screen is too narrow for a whole line.
 QFont ListFont(int screenWidth) {
@@ -53,9 +48,7 @@ QFont ListFont(int screenWidth) {
 }  // namespace
 
 frmGetStationData::frmGetStationData(const Workspace& workspace, QWidget* parent, const QString& callSign)
-    : QDialog(parent), workspace_(workspace) {
-  setObjectName("frmGetStationData");
-  setWindowTitle("KestrelII - Get data");
+    : Form(workspace, parent, "frmGetStationData", "Get data") {
   auto* rows = new QVBoxLayout(this);
   LayOutEntry(rows);
   LayOutList(rows);
@@ -74,10 +67,7 @@ frmGetStationData::frmGetStationData(const Workspace& workspace, QWidget* parent
   if (!callSign.isEmpty()) Search();
 }
 
-QPushButton* frmGetStationData::AddButton(const char* name, const QString& caption, const QString& tip,
-                                          auto action) {
-  QPushButton* button = MakeButton(name, caption, tip);
-  connect(button, &QPushButton::clicked, this, action);
+QPushButton* frmGetStationData::AddCommand(QPushButton* button) {
   commands_.push_back(button);
   return button;
 }
@@ -87,8 +77,8 @@ void frmGetStationData::LayOutEntry(QVBoxLayout* rows) {
   QLabel* label1 = MakeLabel("Label1", "&Look for", txtGetData_);
   QLabel* label2 = MakeLabel("Label2", "in file");
   if (const auto channel = ChannelLabel(workspace_.State.CurrentFrequency)) label2->setText(Text(*channel));
-  QPushButton* search = AddButton("cmdGetData", "Get &data", "Lists the records of this call sign (Enter)",
-                                  [this] { Search(); });
+  QPushButton* search = AddCommand(MakeButton(
+      "cmdGetData", "Get &data", "Lists the records of this call sign (Enter)", [this] { Search(); }));
   search->setDefault(true);
   label4_ = MakeLabel("Label4", "Click on a line in the list to see that station's pattern ");
   label4_->setWordWrap(true);
@@ -145,20 +135,18 @@ void frmGetStationData::LayOutPlot(QVBoxLayout* rows) {
   plot_->setObjectName("Plot");
   plot_->setAccessibleName("Pattern and towers");
   label5_ = MakeLabel("Label5", "Patterns are individually resized to fill the plotting area");
+  label5_->hide();
 
   auto* column = new QVBoxLayout;
-  column->addWidget(AddButton("cmdTowers", "&Tower data", "The towers of this record as a table", [this] {
-    frmShowTowers form(workspace_, this, selection_);
-    OpenOnSelection(form);
-  }));
-  column->addWidget(AddButton("cmdContext", "&Maps", "Coasts and borders around the station", [this] {
-    frmShowContext form(workspace_, this, selection_);
-    OpenOnSelection(form);
-  }));
-  column->addWidget(AddButton("cmdPrint", "&Print", "Prints this record's data, pattern and towers", [this] {
+  const auto add = [this, column](QPushButton* button) { column->addWidget(AddCommand(button)); };
+  add(MakeButton("cmdTowers", "&Tower data", "The towers of this record as a table",
+                 [this] { OpenOnSelection(frmShowTowers(workspace_, this, selection_)); }));
+  add(MakeButton("cmdContext", "&Maps", "Coasts and borders around the station",
+                 [this] { OpenOnSelection(frmShowContext(workspace_, this, selection_)); }));
+  add(MakeButton("cmdPrint", "&Print", "Prints this record's data, pattern and towers", [this] {
     PrintStation(workspace_.System, workspace_.Folder, workspace_.State, selection_, this);
   }));
-  column->addWidget(AddButton("cmdExit", "&Close", "Back to the map (Escape)", [this] { reject(); }));
+  add(MakeButton("cmdExit", "&Close", "Back to the map (Escape)", [this] { reject(); }));
   column->addStretch();
 
   auto* row = new QHBoxLayout;
@@ -166,17 +154,15 @@ void frmGetStationData::LayOutPlot(QVBoxLayout* rows) {
   row->addWidget(plot_, 1);
   rows->addLayout(row, 1);
   rows->addWidget(label5_);
-  ForgetRecord();
+  for (QPushButton* button : commands_) button->setVisible(button->objectName() == "cmdGetData");
 }
 
 void frmGetStationData::Search() {
   SessionState& state = workspace_.State;
   const SearchResult result =
       SearchStations(workspace_.Folder, state.CurrentFrequency, txtGetData_->text().toStdString());
-  state.LookupCallSign = result.CallSign;
   if (!result.CallSign.empty()) state.RememberedCallSign = result.CallSign;
   txtGetData_->setText(Text(result.CallSign));
-  ForgetRecord();
 
   rows_ = result.Rows;
   {
@@ -208,18 +194,9 @@ void frmGetStationData::ShowRecord(int row) {
   label5_->show();
 }
 
-void frmGetStationData::ForgetRecord() {
-  selection_ = {};
-  plot_->Drawing().Clear();
-  plot_->ShowDrawing();
-  for (QPushButton* button : commands_) button->setVisible(button->objectName() == "cmdGetData");
-  label5_->hide();
-}
-
-void frmGetStationData::OpenOnSelection(QDialog& form) {
+void frmGetStationData::OpenOnSelection(QDialog&& form) {
   QWidget* focus = focusWidget();
   for (QPushButton* button : commands_) button->setEnabled(false);
-  FitToScreen(form);
   form.exec();
   for (QPushButton* button : commands_) button->setEnabled(true);
   if (focus != nullptr) focus->setFocus();
@@ -236,7 +213,7 @@ void frmGetStationData::FitList() {
 }
 
 void frmGetStationData::resizeEvent(QResizeEvent* event) {
-  QDialog::resizeEvent(event);
+  Form::resizeEvent(event);
   FitList();
 }
 

@@ -1,10 +1,9 @@
 #pragma once
 
-#include <QDialog>
 #include <vector>
 
 #include "data/StationLookup.h"
-#include "forms/Workspace.h"
+#include "forms/Form.h"
 
 class QLabel;
 class QLineEdit;
@@ -18,7 +17,7 @@ class MapSurface;
 
 /// The station lookup: searches the current channel for a call sign, lists its records, and draws the pattern
 /// and the towers of the record chosen.
-class frmGetStationData final : public QDialog {
+class frmGetStationData final : public Form {
  public:
   /// A call sign given is looked up at once.
   frmGetStationData(const Workspace& workspace, QWidget* parent, const QString& callSign = {});
@@ -27,19 +26,17 @@ class frmGetStationData final : public QDialog {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  QPushButton* AddButton(const char* name, const QString& caption, const QString& tip, auto action);
+  QPushButton* AddCommand(QPushButton* button);
   void LayOutEntry(QVBoxLayout* rows);
   void LayOutList(QVBoxLayout* rows);
   void LayOutPlot(QVBoxLayout* rows);
 
   void Search();
   void ShowRecord(int row);
-  void ForgetRecord();
   /// Opens a window on the selected record; the commands rest until it is closed, in whatever way.
-  void OpenOnSelection(QDialog& form);
+  void OpenOnSelection(QDialog&& form);
   void FitList();
 
-  Workspace workspace_;
   std::vector<ListRow> rows_;
   StationSelection selection_;
   QLineEdit* txtGetData_ = nullptr;

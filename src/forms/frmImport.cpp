@@ -4,7 +4,6 @@
 #include <QDragEnterEvent>
 #include <QFontDatabase>
 #include <QGridLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -13,24 +12,19 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTabWidget>
-#include <QTableView>
 #include <QUrl>
 
 #include "data/DataSwap.h"
 #include "data/FileIo.h"
 #include "import/Countries.h"
 #include "ui/Controls.h"
-#include "ui/RowsModel.h"
+#include "ui/RowsTable.h"
 
 namespace kestrel {
 namespace {
 
 constexpr std::size_t kShownChanges =
     20;  // of a kind; the list beside the report and a saved report have all
-
-QString Text(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 QStringList ChangeCells(const Change& change) {
   return {Text(ChangeName(change.kind)), QString::number(change.channel),
@@ -47,9 +41,8 @@ QCheckBox* MakeCheckBox(const char* name, const QString& caption, const QString&
 
 }  // namespace
 
-frmImport::frmImport(const Workspace& workspace, QWidget* parent) : QDialog(parent), workspace_(workspace) {
-  setObjectName("frmImport");
-  setWindowTitle("KestrelII - Import station data");
+frmImport::frmImport(const Workspace& workspace, QWidget* parent)
+    : Form(workspace, parent, "frmImport", "Import station data") {
   setAcceptDrops(true);
 
   auto* rows = new QVBoxLayout(this);
@@ -81,29 +74,26 @@ QWidget* frmImport::MakeChoices() {
   grid->addWidget(lstFiles_, 1, 0, 8, 1);
 
   int row = 1;
-  const auto addButton = [&](const char* name, const QString& caption, const QString& tip, auto action) {
-    QPushButton* button = MakeButton(name, caption, tip);
-    button->setAutoDefault(false);
-    connect(button, &QPushButton::clicked, this, action);
-    grid->addWidget(button, row++, 1);
-    return button;
-  };
-  addButton("cmdAdd", "&Add files...", "Chooses AM Query lists and antenna tables",
-            [this] { AddFiles(workspace_.System.ChooseFiles(this, "Files of the FCC")); });
-  addButton("cmdRemove", "&Remove", "Takes the selected files off the list", [this] {
+  const auto add = [&](QPushButton* button) { grid->addWidget(button, row++, 1); };
+  QPushButton* import = MakeButton("cmdImport", "&Import", "Makes the station files anew from these files",
+                                   [this] { Import(); });
+  import->setDefault(true);
+  add(MakeButton("cmdAdd", "&Add files...", "Chooses AM Query lists and antenna tables", [this, import] {
+    AddFiles(workspace_.System.ChooseFiles(this, "Files of the FCC"));
+    import->setFocus();
+  }));
+  add(MakeButton("cmdRemove", "&Remove", "Takes the selected files off the list", [this] {
     qDeleteAll(lstFiles_->selectedItems());
     UpdateCommands();
-  });
-  addButton("cmdImport", "&Import", "Makes the station files anew from these files", [this] {
-    Import();
-  })->setDefault(true);
-  addButton("cmdCancel", "&Cancel", "Stops reading; nothing is written", [this] { cancelled_ = true; });
-  addButton("cmdUndo", "&Undo import",
-            "Brings back the stations that the last import replaced; once more, the import",
-            [this] { Undo(); });
-  addButton("cmdSave", "Sa&ve report...", "Writes the whole report and every change to a file",
-            [this] { SaveReport(); });
-  addButton("cmdExit", "C&lose", "Back to the map", [this] { reject(); });
+  }));
+  add(import);
+  add(MakeButton("cmdCancel", "&Cancel", "Stops reading; nothing is written", [this] { cancelled_ = true; }));
+  add(MakeButton("cmdUndo", "&Undo import",
+                 "Brings back the stations that the last import replaced; once more, the import",
+                 [this] { Undo(); }));
+  add(MakeButton("cmdSave", "Sa&ve report...", "Writes the whole report and every change to a file",
+                 [this] { SaveReport(); }));
+  add(MakeButton("cmdExit", "C&lose", "Back to the map", [this] { reject(); }));
 
   auto* options = new QHBoxLayout;
   chkSilent_ = MakeCheckBox("chkSilent", "&Silent stations too",
@@ -134,12 +124,7 @@ QWidget* frmImport::MakeResults() {
   txtReport_->setReadOnly(true);
   txtReport_->setLineWrapMode(QPlainTextEdit::NoWrap);
   txtReport_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-  lstChanges_ = new QTableView;
-  lstChanges_->setObjectName("lstChanges");
-  lstChanges_->verticalHeader()->hide();
-  lstChanges_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 4);
-  lstChanges_->setSelectionBehavior(QAbstractItemView::SelectRows);
-  lstChanges_->setShowGrid(false);
+  lstChanges_ = new RowsTable("lstChanges");
   results_ = new QTabWidget;
   results_->addTab(txtReport_, "Report");
   results_->addTab(lstChanges_, "Changes");
@@ -194,16 +179,11 @@ void frmImport::ShowOutcome(const ImportOutcome& outcome, bool dryRun) {
 
 void frmImport::ShowChanges(Changes changes) {
   changes_ = std::move(changes);
-  auto* model = new RowsModel(
-      {"Change", "kHz", "Call", "Hours", "Place", "What"}, static_cast<int>(changes_.size()),
-      [this](int row) { return ChangeCells(changes_[static_cast<std::size_t>(row)]); }, lstChanges_);
-  QAbstractItemModel* former = lstChanges_->model();
-  lstChanges_->setModel(model);
-  delete former;
-  const int em = fontMetrics().averageCharWidth();
-  for (const auto& [column, characters] : {std::pair{0, 11}, {1, 7}, {2, 11}, {3, 7}, {4, 42}, {5, 20}})
-    lstChanges_->setColumnWidth(column, characters * em);
-  lstChanges_->horizontalHeader()->setStretchLastSection(true);
+  constexpr int kWhat = 5;
+  lstChanges_->SetRows(
+      {{"Change", 9}, {"kHz", 5}, {"Call", 9}, {"Hours", 5}, {"Place", 40}, {"What", 18}},
+      static_cast<int>(changes_.size()),
+      [this](int row) { return ChangeCells(changes_[static_cast<std::size_t>(row)]); }, kWhat);
   results_->setTabText(1, "Changes (" + QString::number(changes_.size()) + ')');
 }
 

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QDialog>
 #include <vector>
 
-#include "forms/Workspace.h"
+#include "forms/Form.h"
 #include "import/Import.h"
 
 class QCheckBox;
@@ -13,14 +12,15 @@ class QListWidget;
 class QPlainTextEdit;
 class QProgressBar;
 class QPushButton;
-class QTableView;
 class QTabWidget;
 
 namespace kestrel {
 
+class RowsTable;
+
 /// Brings the FCC's files in: the files are chosen or dropped on the window, read with a progress bar, and
 /// the report and the changes are shown.
-class frmImport final : public QDialog {
+class frmImport final : public Form {
  public:
   explicit frmImport(const Workspace& workspace, QWidget* parent = nullptr);
 
@@ -48,7 +48,6 @@ class frmImport final : public QDialog {
   void SetRunning(bool running);
   void UpdateCommands();
 
-  Workspace workspace_;
   QListWidget* lstFiles_;
   QCheckBox* chkSilent_;
   QCheckBox* chkPermits_;
@@ -57,7 +56,7 @@ class frmImport final : public QDialog {
   QProgressBar* progress_;
   QTabWidget* results_;
   QPlainTextEdit* txtReport_;
-  QTableView* lstChanges_;
+  RowsTable* lstChanges_;
   Changes changes_;
   std::string wholeReport_;
   bool running_ = false;

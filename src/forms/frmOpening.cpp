@@ -3,15 +3,14 @@
 #include <QEvent>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QPainter>
 #include <QPushButton>
 #include <QScreen>
 #include <QTimer>
 #include <utility>
 
 #include "draw/PainterCanvas.h"
-#include "draw/Renderer.h"
 #include "map/OverviewMap.h"
+#include "ui/Controls.h"
 
 namespace kestrel {
 namespace {
@@ -37,23 +36,39 @@ const std::array kPlacements = {
     Placement{"lblStations", {10, 7500, 11980, 360}, kNoticeText},
 };
 
+Point PointAt(const QPointF& place) {
+  return {static_cast<float>(place.x()), static_cast<float>(place.y())};
+}
+
+/// From near black at the top to full blue.
+void PaintNight(QImage& image) {
+  for (int y = 0; y < image.height(); ++y) {
+    const QRgb row = PlatformColor(OpeningBackground(y + 1, image.height())).rgb();
+    std::fill_n(reinterpret_cast<QRgb*>(image.scanLine(y)), image.width(), row);
+  }
+}
+
 }  // namespace
 
-frmOpening::frmOpening(const Workspace& workspace) : workspace_(workspace) {
+frmOpening::frmOpening(const Workspace& workspace) : MapSurface(nullptr, kDesign), workspace_(workspace) {
   setObjectName("frmOpening");
   setWindowTitle("KestrelII");
-  setAttribute(Qt::WA_OpaquePaintEvent);
+  Backdrop = PaintNight;
 
   AddLabel("Label1", "KestrelII", FontFace::Serif);
   AddLabel("lblNorthAmerica", "Showing Region II stations in the FCC database", FontFace::Sans);
-  QLabel* version = AddLabel(
-      "lblVersion", "Version " + QString::fromStdString(workspace_.State.ProgramVersion), FontFace::Sans);
+  QLabel* version =
+      AddLabel("lblVersion", "Version " + Text(workspace_.State.ProgramVersion), FontFace::Sans);
   version->installEventFilter(this);
   AddLabel("lblMakers", "Made by the KestrelII authors; free software under the MIT licence", FontFace::Sans);
-  AddLabel("lblStations", QString::fromStdString(workspace_.Folder.StationsLine()), FontFace::Sans);
-  AddButton("cmdEnter", "&Start", [this] { Start(); });
-  AddButton("cmdExit", "E&xit", [this] { close(); });
-  findChild<QPushButton*>("cmdEnter")->setFocus();
+  AddLabel("lblStations", Text(workspace_.Folder.StationsLine()), FontFace::Sans);
+  QPushButton* start = MakeButton("cmdEnter", "&Start", {}, [this] { Start(); });
+  QPushButton* exit = MakeButton("cmdExit", "E&xit", {}, [this] { close(); });
+  for (QPushButton* button : {start, exit}) {
+    button->setParent(this);
+    button->setAutoDefault(true);  // Enter presses it
+  }
+  start->setFocus();
 
   const QSize available = screen()->availableSize();
   resize(
@@ -62,20 +77,12 @@ frmOpening::frmOpening(const Workspace& workspace) : workspace_(workspace) {
 }
 
 QLabel* frmOpening::AddLabel(const char* name, const QString& caption, FontFace face) {
-  auto* label = new QLabel(caption, this);
-  label->setObjectName(name);
+  QLabel* label = MakeLabel(name, caption);
+  label->setParent(this);
   label->setAlignment(Qt::AlignCenter);
   label->setFont(PlatformFont(face, 0, 0));
-  label->setTextFormat(Qt::PlainText);
   label->setStyleSheet("color: white; background: transparent");
   return label;
-}
-
-void frmOpening::AddButton(const char* name, const QString& caption, const std::function<void()>& action) {
-  auto* button = new QPushButton(caption, this);
-  button->setObjectName(name);
-  button->setAutoDefault(true);
-  connect(button, &QPushButton::clicked, this, action);
 }
 
 void frmOpening::Load() {
@@ -84,9 +91,8 @@ void frmOpening::Load() {
     return;
   }
   ReadSessionOnce();
-  DrawOverviewMap(overview_, workspace_.Folder);
-  backdropStale_ = true;
-  update();
+  DrawOverviewMap(Drawing(), workspace_.Folder);
+  ShowDrawing();
 }
 
 void frmOpening::ReadSessionOnce() {
@@ -101,39 +107,19 @@ void frmOpening::Start() {
 }
 
 void frmOpening::PlaceControls() {
-  const SheetFit fit = FitSheet(static_cast<float>(width()), static_cast<float>(height()), kDesign);
   for (const Placement& placement : kPlacements) {
     auto* control = findChild<QWidget*>(placement.Name);
     QFont font = control->font();
-    font.setPixelSize(std::max(7, qRound(placement.TextTwips * fit.Scale)));
+    font.setPixelSize(std::max(7, qRound(placement.TextTwips / TwipsPerPixel())));
     control->setFont(font);
     const QRectF& area = placement.Area;
-    control->setGeometry(QRectF(fit.Left + area.x() * fit.Scale, fit.Top + area.y() * fit.Scale,
-                                area.width() * fit.Scale, area.height() * fit.Scale)
-                             .toAlignedRect());
+    control->setGeometry(
+        QRectF(FromSheet(PointAt(area.topLeft())), FromSheet(PointAt(area.bottomRight()))).toAlignedRect());
   }
 }
 
-void frmOpening::RenderBackdrop() {
-  const QSize pixels = size() * devicePixelRatio();
-  if (!backdropStale_ && backdrop_.size() == pixels) return;
-  backdrop_ = QImage(pixels, QImage::Format_RGB32);
-  for (int y = 0; y < pixels.height(); ++y) {
-    const QRgb row = PlatformColor(OpeningBackground(y + 1, pixels.height())).rgb();
-    std::fill_n(reinterpret_cast<QRgb*>(backdrop_.scanLine(y)), pixels.width(), row);
-  }
-  backdrop_.setDevicePixelRatio(devicePixelRatio());
-  SurfaceRules rules;
-  rules.Fit = FitSheet(static_cast<float>(pixels.width()), static_cast<float>(pixels.height()), kDesign);
-  rules.Area = QRectF(backdrop_.rect());
-  rules.PixelSize = devicePixelRatio();
-  Renderer().DrawMore(overview_, 0, rules, backdrop_);
-  backdropStale_ = false;
-}
-
-void frmOpening::paintEvent(QPaintEvent*) {
-  RenderBackdrop();
-  QPainter(this).drawImage(0, 0, backdrop_);
+void frmOpening::paintEvent(QPaintEvent* event) {
+  MapSurface::paintEvent(event);
   if (!FirstPainted) return;
   QTimer::singleShot(0, this, [this, load = std::exchange(FirstPainted, nullptr)] {
     // A screen left by Exit before that has nothing to load, and its message would outlive the last window.

@@ -1,11 +1,9 @@
 #pragma once
 
-#include <QWidget>
 #include <functional>
 
-#include "draw/Fonts.h"
 #include "forms/Workspace.h"
-#include "map/DisplayList.h"
+#include "ui/MapSurface.h"
 
 class QLabel;
 
@@ -13,7 +11,7 @@ namespace kestrel {
 
 /// The opening screen: title, version and an overview map over a dark-to-blue background. Loading it reads
 /// the lists and the last session.
-class frmOpening final : public QWidget {
+class frmOpening final : public MapSurface {
  public:
   explicit frmOpening(const Workspace& workspace);
 
@@ -35,17 +33,11 @@ class frmOpening final : public QWidget {
 
  private:
   QLabel* AddLabel(const char* name, const QString& caption, FontFace face);
-  void AddButton(const char* name, const QString& caption, const std::function<void()>& action);
   void Start();
   void ReadSessionOnce();
   void PlaceControls();
-  void RenderBackdrop();
 
   Workspace workspace_;
-  PlatformTextMeasure measure_;
-  DisplayList overview_{measure_};
-  QImage backdrop_;
-  bool backdropStale_ = true;
   bool sessionRead_ = false;
 };
 

@@ -14,9 +14,8 @@
 
 namespace kestrel {
 
-frmOptions::frmOptions(const Workspace& workspace, QWidget* parent) : QDialog(parent), workspace_(workspace) {
-  setObjectName("frmOptions");
-  setWindowTitle("KestrelII - Options");
+frmOptions::frmOptions(const Workspace& workspace, QWidget* parent)
+    : Form(workspace, parent, "frmOptions", "Options") {
   SessionState& state = workspace_.State;
   FillUnsetOptions(state);
 
@@ -31,23 +30,22 @@ frmOptions::frmOptions(const Workspace& workspace, QWidget* parent) : QDialog(pa
            {"cmdCritical", "C&ritical", "lblCritical", "Critical-hours color", "Get Critical pattern color"});
   AddColor(colors, state.AdjacentColor,
            {"cmd1st", "Ad&jacents", "lbl1st", "First adjacent color", "Get first adjacent pattern color"});
-  QPushButton* defaults = MakeButton("cmdDefaults", "D&efaults", "Sets all five colors back");
-  connect(defaults, &QPushButton::clicked, this, [this] {
+  QPushButton* defaults = MakeButton("cmdDefaults", "D&efaults", "Sets all five colors back", [this] {
     SetDefaultColors(workspace_.State);
     ShowColors();
   });
   colors->addWidget(defaults, colors->rowCount(), 0);
   colors->setColumnStretch(1, 1);
 
-  QPushButton* aspect = MakeButton(
-      "cmdAspect", "&Aspect", "Makes patterns wider or narrower, for a screen that shows circles as ovals");
-  connect(aspect, &QPushButton::clicked, this, [this] {
-    accept();
-    if (OpenAspect) OpenAspect();
-  });
-  QPushButton* exit = MakeButton("cmdExit", "&Close", "Back to the map, which takes the new colors");
+  QPushButton* aspect =
+      MakeButton("cmdAspect", "&Aspect",
+                 "Makes patterns wider or narrower, for a screen that shows circles as ovals", [this] {
+                   accept();
+                   if (OpenAspect) OpenAspect();
+                 });
+  QPushButton* exit =
+      MakeButton("cmdExit", "&Close", "Back to the map, which takes the new colors", [this] { accept(); });
   exit->setDefault(true);
-  connect(exit, &QPushButton::clicked, this, &QDialog::accept);
 
   auto* side = new QVBoxLayout;
   side->addWidget(MakeLanguageFrame());
@@ -63,9 +61,8 @@ frmOptions::frmOptions(const Workspace& workspace, QWidget* parent) : QDialog(pa
 }
 
 void frmOptions::AddColor(QGridLayout* grid, ColorValue& color, const ColorNames& names) {
-  QPushButton* button = MakeButton(names.Button, names.Caption, "Chooses the " + names.Text.toLower());
-  connect(button, &QPushButton::clicked, this,
-          [this, &color, title = names.DialogTitle] { ChooseColor(color, title); });
+  QPushButton* button = MakeButton(names.Button, names.Caption, "Chooses the " + names.Text.toLower(),
+                                   [this, &color, title = names.DialogTitle] { ChooseColor(color, title); });
 
   // On white, like the map.
   auto* paper = new QFrame;
@@ -73,9 +70,7 @@ void frmOptions::AddColor(QGridLayout* grid, ColorValue& color, const ColorNames
   paper->setAutoFillBackground(true);
   paper->setPalette(QPalette(Qt::gray, Qt::white));
   QLabel* label = MakeLabel(names.Label, names.Text);
-  QFont bold = label->font();
-  bold.setBold(true);
-  label->setFont(bold);
+  ChangeFont(*label, QFont::Bold);
   auto* outline = new MapSurface(nullptr, SampleArea);
   outline->setMinimumSize(1, 1);
   outline->setFixedSize(fontMetrics().height() * 8 / 3, fontMetrics().height() * 7 / 3);
@@ -112,7 +107,7 @@ QWidget* frmOptions::MakeLanguageFrame() {
 
 void frmOptions::ChooseColor(ColorValue& color, const QString& title) {
   const std::optional<ColorValue> chosen = workspace_.System.ChooseColor(this, dialogTitle_, color);
-  // The dialog is given its title behind its showing, so it bears it from the next one on.
+  // The dialog is given its title after its showing, so it bears it from the next one on.
   dialogTitle_ = title;
   if (chosen) color = *chosen;
   ShowColors();

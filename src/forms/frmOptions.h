@@ -1,10 +1,9 @@
 #pragma once
 
-#include <QDialog>
 #include <functional>
 #include <vector>
 
-#include "forms/Workspace.h"
+#include "forms/Form.h"
 
 class QGridLayout;
 class QLabel;
@@ -15,7 +14,7 @@ class MapSurface;
 
 /// Colours of the patterns, language of the web map, the way to the aspect adjustment. Every choice counts at
 /// once.
-class frmOptions final : public QDialog {
+class frmOptions final : public Form {
  public:
   explicit frmOptions(const Workspace& workspace, QWidget* parent = nullptr);
 
@@ -44,7 +43,6 @@ class frmOptions final : public QDialog {
   void ChooseColor(ColorValue& color, const QString& title);
   void ShowColors();
 
-  Workspace workspace_;
   std::vector<Sample> samples_;
   QString dialogTitle_;  // what the colour dialog shows next; empty: its own title
 };

@@ -25,7 +25,7 @@
 #include "map/StationTip.h"
 #include "map/View.h"
 #include "ui/CommandColumn.h"
-#include "ui/FitToScreen.h"
+#include "ui/Controls.h"
 #include "ui/MapSurface.h"
 #include "ui/PrintCommands.h"
 
@@ -97,7 +97,6 @@ void frmPlot::UpdateZoomCommands() {
 }
 
 void frmPlot::RunForm(QDialog& form) {
-  FitToScreen(form);
   form.exec();
   // A message or a map that closes together with the form below it leaves some window managers without an
   // active window.
@@ -114,8 +113,7 @@ void frmPlot::ChooseFrequency() {
 
 void frmPlot::StepChannel(std::optional<std::string> (*step)(SessionState&)) {
   if (scanning_) return;
-  if (const auto message = step(workspace_.State))
-    workspace_.System.ShowMessage(this, QString::fromStdString(*message));
+  if (const auto message = step(workspace_.State)) workspace_.System.ShowMessage(this, Text(*message));
   workspace_.State.SelectedFrequency = workspace_.State.CurrentFrequency;
   Redraw();
 }
@@ -193,8 +191,9 @@ void frmPlot::Print() {
 }
 
 void frmPlot::ChooseScan() {
-  RunForm(frmShowStations(workspace_, this));
-  if (workspace_.State.PlotAllStations != 1) return;
+  frmShowStations form(workspace_, this);
+  RunForm(form);
+  if (form.Choice() == frmShowStations::Plot::Nothing) return;
   if (!scanning_) return Scan();
   // The scan that runs ends before its next channel, then the new one begins.
   scanAgain_ = true;
@@ -251,13 +250,13 @@ const StationMark* frmPlot::MarkAt(Point place) const {
 QString frmPlot::TipAt(Point place) const {
   const StationMark* mark = MarkAt(place);
   if (!mark) return {};
-  return QString::fromStdString(StationTip(workspace_.Folder, workspace_.State, *mark).value_or(""));
+  return Text(StationTip(workspace_.Folder, workspace_.State, *mark).value_or(""));
 }
 
 void frmPlot::ClickAt(Point place) {
   const StationMark* mark = MarkAt(place);
   if (!mark) return;
-  if (OpensLookup(*mark, workspace_.State)) return LookUp(QString::fromStdString(mark->CallSign));
+  if (OpensLookup(*mark, workspace_.State)) return LookUp(Text(mark->CallSign));
   surface_->ShowTip(QCursor::pos(), TipAt(place));
 }
 

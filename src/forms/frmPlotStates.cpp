@@ -12,10 +12,7 @@
 namespace kestrel {
 
 frmPlotStates::frmPlotStates(const Workspace& workspace, QWidget* parent)
-    : QDialog(parent), workspace_(workspace) {
-  setObjectName("frmPlotStates");
-  setWindowTitle("KestrelII - States");
-
+    : Form(workspace, parent, "frmPlotStates", "States") {
   // On the lowest screens the names of the longitudes must not grow into each other.
   constexpr double kScreenPerXHeight = 56;
   map_ = new MapSurface(this, StatesMapArea,
@@ -33,13 +30,11 @@ frmPlotStates::frmPlotStates(const Workspace& workspace, QWidget* parent)
   readout_ = new MapSurface(this, StatesReadoutArea, kSmallestXHeight / devicePixelRatio());
   readout_->setObjectName("Readout");
 
-  QPushButton* exit = MakeButton("cmdExit", "&Return", "Back to the home window without a change");
-  connect(exit, &QPushButton::clicked, this, &QDialog::reject);
-
   auto* strip = new QHBoxLayout;
   strip->setContentsMargins(0, 0, 6, 3);
   strip->addWidget(readout_, 1);
-  strip->addWidget(exit);
+  strip->addWidget(
+      MakeButton("cmdExit", "&Return", "Back to the home window without a change", [this] { reject(); }));
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(map_, 1);
@@ -53,7 +48,7 @@ frmPlotStates::frmPlotStates(const Workspace& workspace, QWidget* parent)
 void frmPlotStates::resizeEvent(QResizeEvent* event) {
   constexpr double kHeightShare = StatesReadoutArea.Height / StatesReadoutArea.Width;
   readout_->setFixedHeight(qRound(width() * kHeightShare));
-  QDialog::resizeEvent(event);
+  Form::resizeEvent(event);
 }
 
 void frmPlotStates::ShowReadout(std::optional<Point> mouse) {

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QDialog>
 #include <optional>
 
-#include "forms/Workspace.h"
+#include "forms/Form.h"
 #include "map/Canvas.h"
 
 namespace kestrel {
@@ -12,7 +11,7 @@ class MapSurface;
 
 /// The plain map on which home is picked. A click with the left or right button makes the clicked point home
 /// and accepts; any other way of closing rejects and changes nothing.
-class frmPlotStates final : public QDialog {
+class frmPlotStates final : public Form {
  public:
   explicit frmPlotStates(const Workspace& workspace, QWidget* parent = nullptr);
 
@@ -23,7 +22,6 @@ class frmPlotStates final : public QDialog {
   void ShowReadout(std::optional<Point> mouse);
   void TakePoint(Point at, Qt::MouseButton button);
 
-  Workspace workspace_;
   MapSurface* map_;
   MapSurface* readout_;
 };

@@ -16,22 +16,19 @@ constexpr double kOfScreen = 0.7;
 }  // namespace
 
 frmShowContext::frmShowContext(const Workspace& workspace, QWidget* parent, const StationSelection& selection)
-    : QDialog(parent), workspace_(workspace), selection_(selection) {
-  setObjectName("frmShowContext");
-  setWindowTitle("KestrelII - Context map");
+    : Form(workspace, parent, "frmShowContext", "Context map"), selection_(selection) {
   map_ = new MapSurface(this, ContextMapArea);
   map_->setObjectName("Map");
   map_->setAccessibleName("Map around the station");
-  cmdLess_ = AddButton("cmdLess", "Zoom &out", "Shows twice as much of the map (-)",
-                       [this] { Zoom(&ContextZoom::ZoomOut); });
-  cmdMore_ = AddButton("cmdMore", "Zoom &in", "Shows the map twice as large (+)",
-                       [this] { Zoom(&ContextZoom::ZoomIn); });
-  QPushButton* web = AddButton("cmdMap", "&Google map", "Opens the place in your browser", [this] {
-    const std::string address = WebMapAddress(selection_, workspace_.State.MapLanguage);
-    workspace_.System.OpenAddress(QString::fromStdString(address));
+  cmdLess_ = MakeButton("cmdLess", "Zoom &out", "Shows twice as much of the map (-)",
+                        [this] { Zoom(&ContextZoom::ZoomOut); });
+  cmdMore_ = MakeButton("cmdMore", "Zoom &in", "Shows the map twice as large (+)",
+                        [this] { Zoom(&ContextZoom::ZoomIn); });
+  QPushButton* web = MakeButton("cmdMap", "&Google map", "Opens the place in your browser", [this] {
+    workspace_.System.OpenAddress(Text(WebMapAddress(selection_, workspace_.State.MapLanguage)));
   });
   QPushButton* close =
-      AddButton("cmdClose", "&Close", "Back to the station's data (Escape)", [this] { accept(); });
+      MakeButton("cmdClose", "&Close", "Back to the station's data (Escape)", [this] { accept(); });
   connect(new QShortcut(Qt::Key_Minus, this), &QShortcut::activated, cmdLess_, &QPushButton::click);
   for (const Qt::Key key : {Qt::Key_Plus, Qt::Key_Equal})
     connect(new QShortcut(key, this), &QShortcut::activated, cmdMore_, &QPushButton::click);
@@ -48,19 +45,12 @@ frmShowContext::frmShowContext(const Workspace& workspace, QWidget* parent, cons
   Draw();
 }
 
-QPushButton* frmShowContext::AddButton(const char* name, const QString& caption, const QString& tip,
-                                       auto action) {
-  QPushButton* button = MakeButton(name, caption, tip);
-  connect(button, &QPushButton::clicked, this, action);
-  return button;
-}
-
 void frmShowContext::Zoom(void (ContextZoom::*step)()) {
   (zoom_.*step)();
   const QWidget* focus = focusWidget();
   cmdLess_->setEnabled(zoom_.MayZoomOut);
   cmdMore_->setEnabled(zoom_.MayZoomIn);
-  // The next key of a series must not press what stands behind the button that has just gone.
+  // The next key of a series must not press what stands after the button that has just gone.
   if (focus == cmdLess_ && !cmdLess_->isEnabled()) cmdMore_->setFocus();
   if (focus == cmdMore_ && !cmdMore_->isEnabled()) cmdLess_->setFocus();
   Draw();

@@ -10,10 +10,8 @@
 
 namespace kestrel {
 
-frmShowHets::frmShowHets(const Workspace& workspace, QWidget* parent) : QDialog(parent) {
-  setObjectName("frmShowHets");
-  setWindowTitle("KestrelII - Show heterodynes");
-
+frmShowHets::frmShowHets(const Workspace& workspace, QWidget* parent)
+    : Form(workspace, parent, "frmShowHets", "Show heterodynes") {
   // White under the dark text in every theme, like paper.
   auto* paper = new QFrame;
   paper->setFrameShape(QFrame::StyledPanel);
@@ -21,23 +19,19 @@ frmShowHets::frmShowHets(const Workspace& workspace, QWidget* parent) : QDialog(
   auto* lines = new QVBoxLayout(paper);
   const HeterodyneTexts texts = TextsOf(FindHeterodynes(workspace.State.CurrentFrequency));
   const auto addLine = [&](const char* name, const std::string& text) {
-    QLabel* label = MakeLabel(name, QString::fromStdString(text));
+    QLabel* label = MakeLabel(name, Text(text));
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     lines->addWidget(label);
     return label;
   };
-  QLabel* current = addLine("lblCurrentFrequency", texts.Current);
-  QFont bold = current->font();
-  bold.setBold(true);
-  current->setFont(bold);
+  ChangeFont(*addLine("lblCurrentFrequency", texts.Current), QFont::Bold);
   lines->addSpacing(fontMetrics().height() / 2);
   addLine("Label1", texts.Below);
   addLine("Label2", texts.Above);
   paper->setMinimumWidth(fontMetrics().horizontalAdvance("8 kHz beat note from station on 1611 kHz") * 3 / 2);
 
-  QPushButton* close = MakeButton("cmdExit", "&Close", "Back to the map");
+  QPushButton* close = MakeButton("cmdExit", "&Close", "Back to the map", [this] { accept(); });
   close->setDefault(true);
-  connect(close, &QPushButton::clicked, this, &QDialog::accept);
 
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(paper, 1);

@@ -30,9 +30,7 @@ QSize LegibleSize(const ScreenTwips& screen) {
 }  // namespace
 
 frmShowTowers::frmShowTowers(const Workspace& workspace, QWidget* parent, const StationSelection& selection)
-    : QDialog(parent) {
-  setObjectName("frmShowTowers");
-  setWindowTitle("KestrelII - Tower data");
+    : Form(workspace, parent, "frmShowTowers", "Tower data") {
   const QSize screenSize = screen()->size();
   const ScreenTwips twips{static_cast<float>(screenSize.width()) * kTwipsPerPixel,
                           static_cast<float>(screenSize.height()) * kTwipsPerPixel};
@@ -41,7 +39,7 @@ frmShowTowers::frmShowTowers(const Workspace& workspace, QWidget* parent, const 
   for (const StationRecord& record :
        LoadRecords(workspace.Folder, workspace.State.CurrentFrequency, selection))
     rows = TowerTable(record);
-  text_ = QString::fromStdString(TowerTableText(rows));
+  text_ = Text(TowerTableText(rows));
 
   auto* table = new MapSurface(this, TowerSheetArea(twips), kSmallestXHeight);
   table->setObjectName("Table");
@@ -52,9 +50,9 @@ frmShowTowers::frmShowTowers(const Workspace& workspace, QWidget* parent, const 
   table->ShowDrawing();
   table->setMinimumSize(LegibleSize(twips).boundedTo(screen()->availableSize() * 0.9));
 
-  QPushButton* close = MakeButton("cmdExit", "&Close", "Back to the station's data (Escape)");
+  QPushButton* close =
+      MakeButton("cmdExit", "&Close", "Back to the station's data (Escape)", [this] { accept(); });
   close->setDefault(true);
-  connect(close, &QPushButton::clicked, this, &QDialog::accept);
 
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(table, 1);

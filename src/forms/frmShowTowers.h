@@ -1,14 +1,12 @@
 #pragma once
 
-#include <QDialog>
-
 #include "data/StationLookup.h"
-#include "forms/Workspace.h"
+#include "forms/Form.h"
 
 namespace kestrel {
 
 /// The towers of the selected record as a table.
-class frmShowTowers final : public QDialog {
+class frmShowTowers final : public Form {
  public:
   frmShowTowers(const Workspace& workspace, QWidget* parent, const StationSelection& selection);
 

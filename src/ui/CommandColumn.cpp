@@ -23,11 +23,11 @@ QPushButton* CommandColumn::AddCommand(const char* name, const QString& caption,
                                        const QList<QKeySequence>& shortcuts, std::function<void()> action) {
   QPushButton* button = MakeButton(
       name, caption,
-      shortcuts.isEmpty() ? tip : tip + " (" + shortcuts.front().toString(QKeySequence::NativeText) + ')');
+      shortcuts.isEmpty() ? tip : tip + " (" + shortcuts.front().toString(QKeySequence::NativeText) + ')',
+      std::move(action));
   button->setAutoDefault(true);  // Enter presses it too
   for (const QKeySequence& keys : shortcuts)
     connect(new QShortcut(keys, window()), &QShortcut::activated, button, &QPushButton::click);
-  connect(button, &QPushButton::clicked, this, std::move(action));
   layout_->addWidget(button);
   return button;
 }

@@ -38,10 +38,16 @@ class CaptionButton final : public QPushButton {
 
 }  // namespace
 
-QPushButton* MakeButton(const char* name, const QString& caption, const QString& tip) {
+QString Text(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QPushButton* MakeButton(const char* name, const QString& caption, const QString& tip,
+                        std::function<void()> action) {
   auto* button = new CaptionButton(caption);
   button->setObjectName(name);
   button->setToolTip(tip);
+  QObject::connect(button, &QPushButton::clicked, button, std::move(action));
   return button;
 }
 
@@ -53,11 +59,18 @@ QLabel* MakeLabel(const char* name, const QString& caption, QWidget* buddy) {
   return label;
 }
 
+void ChangeFont(QWidget& widget, QFont::Weight weight, double growth) {
+  QFont font = widget.font();
+  font.setWeight(weight);
+  if (growth != 1) font.setPointSizeF(font.pointSizeF() * growth);
+  widget.setFont(font);
+}
+
 QLineEdit* MakeBox(const char* name, const QString& tip) {
   auto* box = new QLineEdit;
   box->setObjectName(name);
   box->setToolTip(tip);
-  box->setLayoutDirection(Qt::LeftToRight);  // or a minus would stand behind its number
+  box->setLayoutDirection(Qt::LeftToRight);  // or a minus would stand after its number
   box->setPalette(BoxPalette());
   box->setMinimumWidth(box->fontMetrics().horizontalAdvance("-123.456789 W"));
   return box;

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QFont>
 #include <QString>
+#include <functional>
 #include <string>
+#include <string_view>
 
 class QLabel;
 class QLineEdit;
@@ -12,11 +15,19 @@ class QWidget;
 
 namespace kestrel {
 
-/// A button of that object name; a "&" in its caption marks the mnemonic.
-QPushButton* MakeButton(const char* name, const QString& caption, const QString& tip);
+/// UTF-8 as the windows show it.
+QString Text(std::string_view text);
+
+/// A button of that object name that does `action` when it is pressed; a "&" in its caption marks the
+/// mnemonic.
+QPushButton* MakeButton(const char* name, const QString& caption, const QString& tip,
+                        std::function<void()> action);
 
 /// Plain text of that object name; with a buddy its mnemonic leads there.
 QLabel* MakeLabel(const char* name, const QString& caption, QWidget* buddy = nullptr);
+
+/// Gives the widget's letters another weight and makes them so many times as large.
+void ChangeFont(QWidget& widget, QFont::Weight weight, double growth = 1);
 
 /// An entry box of that object name, some 12 characters wide.
 QLineEdit* MakeBox(const char* name, const QString& tip);

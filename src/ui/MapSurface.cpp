@@ -25,7 +25,7 @@ void MapSurface::ShowAdditions() {
 }
 
 SheetFit MapSurface::Fit() const {
-  return FitSheet(static_cast<float>(std::max(1, width())), static_cast<float>(std::max(1, height())), area_);
+  return RulesFor(QRect(0, 0, std::max(1, width()), std::max(1, height())), area_).Fit;
 }
 
 Point MapSurface::ToSheet(const QPointF& position) const {
@@ -39,24 +39,23 @@ QPointF MapSurface::FromSheet(Point sheet) const {
 
 void MapSurface::Render() {
   const QSize pixels = size() * devicePixelRatio();
-  if (!stale_ && image_.size() == pixels) {
-    if (shown_ < drawing_.Length()) renderer_.DrawMore(drawing_, shown_, Rules(), image_);
-  } else {
+  SurfaceRules rules = RulesFor(QRect({0, 0}, pixels), area_, devicePixelRatio());
+  rules.SmallestXHeight = smallestXHeight_;
+  if (stale_ || image_.size() != pixels) {
     if (image_.size() != pixels) image_ = QImage(pixels, QImage::Format_RGB32);
     image_.setDevicePixelRatio(devicePixelRatio());
-    renderer_.Draw(drawing_, Rules(), image_);
+    RenderAnew(rules);
+  } else if (shown_ < drawing_.Length()) {
+    renderer_.DrawMore(drawing_, shown_, rules, image_);
   }
   shown_ = drawing_.Length();
   stale_ = false;
 }
 
-SurfaceRules MapSurface::Rules() const {
-  SurfaceRules rules;
-  rules.Fit = FitSheet(static_cast<float>(image_.width()), static_cast<float>(image_.height()), area_);
-  rules.Area = QRectF(image_.rect());
-  rules.PixelSize = image_.devicePixelRatio();
-  rules.SmallestXHeight = smallestXHeight_;
-  return rules;
+void MapSurface::RenderAnew(const SurfaceRules& rules) {
+  if (!Backdrop) return renderer_.Draw(drawing_, rules, image_);
+  Backdrop(image_);
+  renderer_.DrawMore(drawing_, 0, rules, image_);
 }
 
 void MapSurface::paintEvent(QPaintEvent*) {

@@ -14,7 +14,7 @@ namespace kestrel {
 /// The widget that shows a sheet. It keeps what is drawn on its `Drawing()` and repeats it at every size and
 /// on every screen; the sheet is fitted to the widget, and what the widget shows beyond it shows more of the
 /// map. It is white in every theme, like paper.
-class MapSurface final : public QWidget {
+class MapSurface : public QWidget {
  public:
   /// Fits `area` of the sheet to the widget; `smallestXHeight` in pixels is how small text may get.
   explicit MapSurface(QWidget* parent = nullptr, const SheetArea& area = {}, double smallestXHeight = 7);
@@ -33,6 +33,9 @@ class MapSurface final : public QWidget {
 
   /// Twips that a pixel of an ordinary screen covers.
   float TwipsPerPixel() const { return 1 / Fit().Scale; }
+
+  /// Paints what the drawing stands on over an image of the widget's pixels; white paper without it.
+  std::function<void(QImage&)> Backdrop;
 
   /// Called with the position in twips. Mouse tracking is on when MouseMoved is set.
   std::function<void(Point)> MouseMoved;
@@ -59,7 +62,7 @@ class MapSurface final : public QWidget {
 
  private:
   void Render();
-  SurfaceRules Rules() const;
+  void RenderAnew(const SurfaceRules& rules);
   SheetFit Fit() const;
 
   PlatformTextMeasure measure_;

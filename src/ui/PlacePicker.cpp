@@ -2,16 +2,12 @@
 
 #include <QCoreApplication>
 #include <QFontDatabase>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QScreen>
-#include <QScrollBar>
-#include <QTableView>
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "core/Text.h"
 #include "data/PlaceLists.h"
 #include "ui/Controls.h"
 
@@ -19,98 +15,39 @@ namespace kestrel {
 namespace {
 
 constexpr int kFewestRows = 6;
-constexpr int kRowMargin = 4;    // pixels
 constexpr int kBesideLists = 8;  // characters: what a window with two lists shows left, right and between
 
 QString Trimmed(const std::string& text) {
-  return QString::fromStdString(text).trimmed();
+  return Text(text).trimmed();
+}
+
+/// What is typed and what it is compared with, runs of blanks being one blank.
+QString Joined(const QString& text) {
+  const QString joined = text.simplified();
+  return !joined.isEmpty() && text.back().isSpace() ? joined + ' ' : joined;
 }
 
 }  // namespace
 
-PlaceTable::PlaceTable(const std::vector<std::string>& lines, PlaceListLook look, QObject* parent)
-    : QAbstractTableModel(parent), lines_(lines), look_(std::move(look)) {}
-
-int PlaceTable::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(lines_.size());
-}
-
-int PlaceTable::columnCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(look_.Columns.size());
-}
-
-QVariant PlaceTable::data(const QModelIndex& index, int role) const {
-  if (role == Qt::DisplayRole) return look_.Cells(lines_[index.row()]).value(index.column());
-  if (role == Qt::TextAlignmentRole)
-    return QVariant(look_.Columns[index.column()].Alignment | Qt::AlignVCenter);
-  return {};
-}
-
-QVariant PlaceTable::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation != Qt::Horizontal) return {};
-  if (role == Qt::DisplayRole) return look_.Columns[section].Header;
-  if (role == Qt::TextAlignmentRole)
-    return QVariant(look_.Columns[section].Alignment | Qt::AlignVCenter | Qt::AlignAbsolute);
-  return {};
-}
-
-int PlaceTable::FirstRowBeginning(const QString& text) const {
-  const auto found = std::find_if(lines_.begin(), lines_.end(), [&](const std::string& line) {
-    const QStringList keys = look_.Keys(line);
-    return std::any_of(keys.begin(), keys.end(),
-                       [&](const QString& key) { return key.startsWith(text, Qt::CaseInsensitive); });
-  });
-  return found == lines_.end() ? -1 : static_cast<int>(found - lines_.begin());
-}
-
 PlacePicker::PlacePicker(const char* listName, const char* searchName, const QString& searchHint,
-                         const std::vector<std::string>& lines, const PlaceListLook& look) {
+                         const std::vector<std::string>& lines, const PlaceListLook& look)
+    : lines_(lines), look_(look) {
   search_ = MakeBox(searchName, "Moves the list to the first entry that begins with this; Enter takes it");
   search_->setPlaceholderText(searchHint);
   search_->setClearButtonEnabled(true);
 
-  list_ = new QTableView;
-  list_->setObjectName(listName);
-  table_ = new PlaceTable(lines, look, list_);
-  list_->setModel(table_);
-  list_->setLayoutDirection(Qt::LeftToRight);  // its lines are columns of English text and numbers
-  list_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-  list_->setSelectionBehavior(QAbstractItemView::SelectRows);
+  list_ = new RowsTable(listName, QFontDatabase::systemFont(QFontDatabase::FixedFont));
   list_->setSelectionMode(QAbstractItemView::SingleSelection);
-  list_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  list_->setTabKeyNavigation(false);
-  list_->setShowGrid(false);
-  list_->setWordWrap(false);
-  list_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-
-  // All rows of one height: thousands of them open at once.
-  const QFontMetrics metrics(list_->font());
-  list_->verticalHeader()->hide();
-  list_->verticalHeader()->setMinimumSectionSize(metrics.height());
-  list_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-  list_->verticalHeader()->setDefaultSectionSize(metrics.height() + kRowMargin);
-
-  QHeaderView* header = list_->horizontalHeader();
-  header->setHighlightSections(false);
-  header->setVisible(!look.Columns.front().Header.isEmpty());
-  header->setSectionResizeMode(QHeaderView::Fixed);
-  int totalWidth = 0;
-  for (int column = 0; column < table_->columnCount(); ++column) {
-    const PlaceListLook::Column& shown = look.Columns[column];
-    const int width = std::max(header->fontMetrics().horizontalAdvance(shown.Header),
-                               metrics.averageCharWidth() * shown.Characters) +
-                      2 * metrics.averageCharWidth();
-    list_->setColumnWidth(column, width);
-    totalWidth += width;
-  }
+  list_->SetRows(
+      look.Columns, static_cast<int>(lines.size()),
+      [this](int row) { return look_.Cells(lines_[static_cast<std::size_t>(row)]); }, look.WideColumn);
   // On a small screen two lists stand side by side still, and scroll sideways.
-  const int wholeWidth =
-      totalWidth + list_->verticalScrollBar()->sizeHint().width() + 2 * list_->frameWidth();
+  const int wholeWidth = list_->WholeWidth();
   const int screenWidth = screen()->availableSize().width();
-  const bool twoFit = 2 * wholeWidth + kBesideLists * metrics.averageCharWidth() <= screenWidth;
-  const int offeredWidth = twoFit ? wholeWidth : std::min(wholeWidth, screenWidth * 2 / 5);
-  if (offeredWidth == wholeWidth) header->setSectionResizeMode(look.WideColumn, QHeaderView::Stretch);
-  list_->setMinimumSize(offeredWidth, kFewestRows * (metrics.height() + kRowMargin));
+  const int besideLists = kBesideLists * list_->fontMetrics().averageCharWidth();
+  const bool twoFit = 2 * wholeWidth + besideLists <= screenWidth;
+  list_->setMinimumSize(twoFit ? wholeWidth : std::min(wholeWidth, screenWidth * 2 / 5),
+                        kFewestRows * list_->RowHeight());
 
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -119,25 +56,49 @@ PlacePicker::PlacePicker(const char* listName, const char* searchName, const QSt
 
   connect(search_, &QLineEdit::textEdited, this, [this](const QString& text) { Find(text); });
   connect(list_, &QTableView::clicked, this, [this] { TakeCurrent(); });
+  connect(list_->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+    highlighted_ = list_->selectionModel()->hasSelection();
+    if (highlighted_ && Highlighted) Highlighted();
+  });
   search_->installEventFilter(this);
   list_->installEventFilter(this);
 }
 
+int PlacePicker::FirstRowBeginning(const QString& text) const {
+  const auto begins = [sought = Joined(text)](const QString& key) {
+    return Joined(key + ' ').startsWith(sought, Qt::CaseInsensitive);
+  };
+  const auto found = std::find_if(lines_.begin(), lines_.end(), [&](const std::string& line) {
+    const QStringList keys = look_.Keys(line);
+    return std::any_of(keys.begin(), keys.end(), begins);
+  });
+  return found == lines_.end() ? -1 : static_cast<int>(found - lines_.begin());
+}
+
 void PlacePicker::Find(const QString& text) {
-  const int row = text.isEmpty() ? 0 : table_->FirstRowBeginning(text);
-  MarkBox(search_, row < 0);
-  if (row < 0) {
-    list_->setCurrentIndex({});
-    return;
-  }
-  const QModelIndex index = table_->index(row, 0);
+  const bool searches = !text.trimmed().isEmpty();
+  const int row = searches ? FirstRowBeginning(text) : -1;
+  MarkBox(search_, searches && row < 0);
+  const QModelIndex index = list_->model()->index(row, 0);
   list_->setCurrentIndex(index);
-  list_->scrollTo(index, QAbstractItemView::PositionAtTop);
+  if (index.isValid())
+    list_->scrollTo(index, QAbstractItemView::PositionAtTop);
+  else
+    list_->clearSelection();
+  if (!searches) list_->scrollToTop();
 }
 
 void PlacePicker::TakeCurrent() {
-  const QModelIndex index = list_->currentIndex();
-  if (index.isValid() && Taken) Taken(index.row());
+  // The row that the list makes current when it gets the focus is not one that anybody chose.
+  const QModelIndexList chosen = list_->selectionModel()->selectedRows();
+  if (chosen.isEmpty()) return;
+  highlighted_ = false;
+  MarkBox(search_, false);
+  if (Taken) Taken(chosen.front().row());
+}
+
+void PlacePicker::TakeHighlighted() {
+  if (highlighted_) TakeCurrent();
 }
 
 bool PlacePicker::eventFilter(QObject* watched, QEvent* event) {
@@ -203,7 +164,7 @@ PlaceListLook CallColumns() {
 PlaceListLook WholeCityLines() {
   PlaceListLook look;
   look.Columns = {{QString(), 57}};
-  look.Cells = [](const std::string& line) { return QStringList{QString::fromStdString(line)}; };
+  look.Cells = [](const std::string& line) { return QStringList{Text(line)}; };
   look.Keys = CityColumns().Keys;
   return look;
 }

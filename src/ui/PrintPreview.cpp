@@ -24,7 +24,7 @@ constexpr double kMarginInches = 0.4;
 
 std::unique_ptr<QPrinter> MakePrinter(const PrintedPage& page) {
   auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
-  printer->setDocName(QString::fromStdString(page.Name));
+  printer->setDocName(Text(page.Name));
   printer->setCreator("KestrelII");
   const bool letter = QLocale().measurementSystem() == QLocale::ImperialUSSystem;
   // A printer of the platform knows its paper; a file takes the paper of the country.
@@ -41,7 +41,7 @@ class PrintPreview final : public QDialog {
   PrintPreview(QWidget* parent, const PrintOffer& offer, QPrinter& printer)
       : QDialog(parent), offer_(offer), printer_(printer) {
     setObjectName("PrintPreview");
-    setWindowTitle(QString::fromStdString(offer.Page.Name) + " - print preview");
+    setWindowTitle(Text(offer.Page.Name) + " - print preview");
     view_ = new QPrintPreviewWidget(&printer, this);
     view_->setObjectName("viewPages");
     view_->fitInView();
@@ -68,15 +68,14 @@ class PrintPreview final : public QDialog {
       printer_.setPageOrientation(index == 1 ? QPageLayout::Landscape : QPageLayout::Portrait);
       view_->updatePreview();
     });
-    QPushButton* setup = MakeButton("cmdPageSetup", "Page &setup...", "Paper, orientation and margins");
-    setup->setAutoDefault(false);
-    connect(setup, &QPushButton::clicked, this, [this, orientation] {
-      QPageSetupDialog dialog(&printer_, this);
-      FitToScreen(dialog);
-      if (dialog.exec() != QDialog::Accepted) return;
-      orientation->setCurrentIndex(printer_.pageLayout().orientation() == QPageLayout::Landscape ? 1 : 0);
-      view_->updatePreview();
-    });
+    QPushButton* setup =
+        MakeButton("cmdPageSetup", "Page &setup...", "Paper, orientation and margins", [this, orientation] {
+          QPageSetupDialog dialog(&printer_, this);
+          FitToScreen(dialog);
+          if (dialog.exec() != QDialog::Accepted) return;
+          orientation->setCurrentIndex(printer_.pageLayout().orientation() == QPageLayout::Landscape ? 1 : 0);
+          view_->updatePreview();
+        });
     row->addWidget(orientation);
     row->addWidget(setup);
     if (offer_.Outlines) {
@@ -92,19 +91,15 @@ class PrintPreview final : public QDialog {
 
   QHBoxLayout* MakeButtons() {
     auto* row = new QHBoxLayout;
-    QPushButton* print = MakeButton("cmdPrint", "&Print...", "Chooses the printer and prints");
-    print->setDefault(true);
-    connect(print, &QPushButton::clicked, this, [this] {
+    QPushButton* print = MakeButton("cmdPrint", "&Print...", "Chooses the printer and prints", [this] {
       QPrintDialog dialog(&printer_, this);
       FitToScreen(dialog);
       if (dialog.exec() == QDialog::Accepted) accept();
     });
-    QPushButton* close = MakeButton("cmdClose", "&Close", "Prints nothing");
-    close->setAutoDefault(false);
-    connect(close, &QPushButton::clicked, this, &QDialog::reject);
+    print->setDefault(true);
     row->addStretch();
     row->addWidget(print);
-    row->addWidget(close);
+    row->addWidget(MakeButton("cmdClose", "&Close", "Prints nothing", [this] { reject(); }));
     return row;
   }
 

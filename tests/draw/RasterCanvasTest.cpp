@@ -15,10 +15,7 @@ namespace {
 constexpr QSize kSize(240, 190);
 
 SurfaceRules Rules() {
-  SurfaceRules rules;
-  rules.Fit = FitSheet(static_cast<float>(kSize.width()), static_cast<float>(kSize.height()));
-  rules.Area = QRectF(QPointF(0, 0), QSizeF(kSize));
-  return rules;
+  return RulesFor(QRect({0, 0}, kSize));
 }
 
 QImage Paper() {
@@ -153,10 +150,7 @@ TEST(RasterCanvasTest, APictureOfAnyWidthShowsTheLeftColumnsOfAWiderOne) {
     QImage image(width, 40, QImage::Format_RGB32);
     image.fill(Qt::white);
     DrawingTools tools;
-    SurfaceRules rules;
-    rules.Fit = FitSheet(800, 600);
-    rules.Area = QRectF(0, 0, 800, 600);
-    RasterCanvas canvas(image, rules, tools);
+    RasterCanvas canvas(image, RulesFor({0, 0, 800, 600}), tools);
     std::mt19937 random(8);
     std::uniform_real_distribution<float> x(-300, 12000), y(-300, 900);
     for (int i = 0; i < 300; ++i) {

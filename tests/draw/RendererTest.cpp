@@ -21,11 +21,7 @@ namespace {
 constexpr QSize kLarge(1000, 750);
 
 SurfaceRules Rules(double pixelSize = 1) {
-  SurfaceRules rules;
-  rules.Fit = FitSheet(static_cast<float>(kLarge.width()), static_cast<float>(kLarge.height()));
-  rules.Area = QRectF(QPointF(0, 0), QSizeF(kLarge));
-  rules.PixelSize = pixelSize;
-  return rules;
+  return RulesFor(QRect({0, 0}, kLarge), {}, pixelSize);
 }
 
 QImage Paper(int rows) {

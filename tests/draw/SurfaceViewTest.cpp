@@ -13,13 +13,6 @@ namespace {
 
 using Stroke = std::vector<QPointF>;
 
-SurfaceRules RulesFor(double width, double height) {
-  SurfaceRules rules;
-  rules.Fit = FitSheet(static_cast<float>(width), static_cast<float>(height));
-  rules.Area = QRectF(0, 0, width, height);
-  return rules;
-}
-
 std::vector<Stroke> StrokesOf(SurfaceView& view, const std::vector<Point>& points) {
   std::vector<Stroke> runs;
   view.ForEachRun(points, [&](std::span<const Point> run) {
@@ -61,7 +54,7 @@ std::vector<Point> RandomWalk(std::mt19937& random) {
 
 TEST(SurfaceViewTest, CullingAndThinningLoseNothingThatShows) {
   std::mt19937 random(20261121);
-  const SurfaceRules rules = RulesFor(640, 480);
+  const SurfaceRules rules = RulesFor({0, 0, 640, 480});
   SurfaceView view(rules);
   int shown = 0;
   for (int round = 0; round < 200; ++round) {
@@ -86,7 +79,7 @@ TEST(SurfaceViewTest, CullingAndThinningLoseNothingThatShows) {
 }
 
 TEST(SurfaceViewTest, ThinningShortensCrowdedLinesAndKeepsTheSmallestShape) {
-  SurfaceView view(RulesFor(1200, 950));  // ten twips to the pixel
+  SurfaceView view(RulesFor({0, 0, 1200, 950}));  // ten twips to the pixel
   std::vector<Point> crowded;
   for (int i = 0; i <= 1000; ++i) crowded.push_back({1000 + static_cast<float>(i), 1000});
   const std::vector<Stroke> runs = StrokesOf(view, crowded);
@@ -101,7 +94,7 @@ TEST(SurfaceViewTest, ThinningShortensCrowdedLinesAndKeepsTheSmallestShape) {
 }
 
 TEST(SurfaceViewTest, WhatIsNearlyStraightIsDrawnStraight) {
-  SurfaceView view(RulesFor(1200, 950));  // ten twips to the pixel
+  SurfaceView view(RulesFor({0, 0, 1200, 950}));  // ten twips to the pixel
   // A circle as antenna patterns have, 50 pixels in radius: no more vertices than it needs to look round.
   std::vector<Point> circle;
   Stroke plain;
@@ -133,28 +126,28 @@ TEST(SurfaceViewTest, WhatIsNearlyStraightIsDrawnStraight) {
 TEST(SurfaceViewTest, APanelGrowsAsOnePieceFromItsAnchorUntilItsTextCanBeRead) {
   const Font legend{FontFace::Sans, 10};
   const Font label{FontFace::Sans, 8};
-  SurfaceView small(RulesFor(320, 253));
+  SurfaceView small(RulesFor({0, 0, 320, 253}));
   const Point anchor{200, 9400};
   const Point corner{1900, 6800};
   const Point before = small.At(corner);
   small.BeginPanel(anchor, legend);
-  EXPECT_EQ(small.At(anchor), RulesFor(320, 253).Fit.ToSurface(anchor));
+  EXPECT_EQ(small.At(anchor), RulesFor({0, 0, 320, 253}).Fit.ToSurface(anchor));
   EXPECT_NEAR(small.FontSize(legend) * XHeightShare(FontFace::Sans), 7, 1e-3);
   EXPECT_NEAR(small.FontSize({FontFace::Sans, 20}), 2 * small.FontSize(legend), 1e-3);
-  const double growth = small.Length(100) / (100 * RulesFor(320, 253).Fit.Scale);
+  const double growth = small.Length(100) / (100 * RulesFor({0, 0, 320, 253}).Fit.Scale);
   EXPECT_GT(growth, 2);
   EXPECT_NEAR(small.At(corner).x - small.At(anchor).x, growth * (before.x - small.At(anchor).x), 1e-3);
   small.EndPanel();
   EXPECT_EQ(small.At(corner), before);
   EXPECT_NEAR(small.FontSize(label) * XHeightShare(FontFace::Sans), 7, 1e-3);
 
-  SurfaceView large(RulesFor(4800, 3800));
+  SurfaceView large(RulesFor({0, 0, 4800, 3800}));
   large.BeginPanel(anchor, legend);
   EXPECT_NEAR(large.FontSize(legend), 80, 1e-3);  // 200 twips at 0.4 pixels
 }
 
 TEST(SurfaceViewTest, BoxesThatShareAnEdgeShareItOnTheSurface) {
-  SurfaceView view(RulesFor(777, 555));
+  SurfaceView view(RulesFor({0, 0, 777, 555}));
   const QRectF upper = view.Filled({200, 6800}, {1900, 8080});
   const QRectF lower = view.Filled({200, 8080}, {4500, 8800});
   EXPECT_EQ(upper.bottom(), lower.top());

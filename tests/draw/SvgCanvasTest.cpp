@@ -10,13 +10,6 @@ namespace {
 
 class SvgCanvasTest : public testing::Test {
  protected:
-  static SurfaceRules Rules() {
-    SurfaceRules rules;
-    rules.Fit = FitSheet(1200, 950);
-    rules.Area = QRectF(0, 0, 1200, 950);
-    return rules;
-  }
-
   void Station(const std::string& call, const std::string& hours, Point at) {
     canvas_.BeginStation({at, 1230, call, hours});
     canvas_.FilledCircle(at, 30);
@@ -35,7 +28,7 @@ class SvgCanvasTest : public testing::Test {
     return values;
   }
 
-  SvgCanvas canvas_{QSizeF(1200, 950), Rules()};
+  SvgCanvas canvas_{QSizeF(1200, 950), RulesFor({0, 0, 1200, 950})};
 };
 
 TEST_F(SvgCanvasTest, IdsAreUniqueAndPlainWhateverTheData) {
@@ -56,7 +49,7 @@ TEST_F(SvgCanvasTest, AShapeTooSmallForAPixelIsADotAndNotNothing) {
   outline.fill({6000, 4500});
   canvas_.Polygon(outline);
   EXPECT_EQ(Attributes("points"), QStringList{"600,450 600,450"});
-  SvgCanvas again(QSizeF(1200, 950), Rules());
+  SvgCanvas again(QSizeF(1200, 950), RulesFor({0, 0, 1200, 950}));
   again.Polygon(outline);
   EXPECT_TRUE(again.Finish().contains("stroke-linecap=\"round\""));
 }

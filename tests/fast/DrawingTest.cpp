@@ -49,10 +49,8 @@ QImage Quick(Draw draw) {
   DisplayList list(measure);
   draw(list);
   QImage image(kSize, QImage::Format_RGB32);
-  SurfaceRules rules;
+  SurfaceRules rules = RulesFor(image.rect());
   rules.Labels = LabelChoice::None;  // their rims cover lines
-  rules.Fit = FitSheet(static_cast<float>(kSize.width()), static_cast<float>(kSize.height()));
-  rules.Area = QRectF(image.rect());
   Renderer(2).Draw(list, rules, image);
   return image;
 }

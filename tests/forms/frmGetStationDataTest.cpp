@@ -94,20 +94,19 @@ TEST_F(frmGetStationDataTest, OneEnterShowsAPatternAndTheArrowsTheNextOne) {
   EXPECT_EQ(Plotted().All("Line").size(), 2U * 36) << "two records with one call sign, hours and tower count";
 }
 
-TEST_F(frmGetStationDataTest, WhatIsNotFoundIsSaidAndNothingIsLeftOfTheStationBefore) {
+TEST_F(frmGetStationDataTest, WhatIsNotFoundIsSaidAndTheRecordDrawnStays) {
   Open("QABC");
   EXPECT_EQ(List()->count(), 2) << "a call sign given is looked up at once";
+  const RecordingCanvas drawn = Plotted();
   LookFor("   ");
   LookFor("nope");
   EXPECT_EQ(System.Messages, QStringList({"We need a station callsign entry",
                                           "We did not find a station with callsign 'NOPE'.\r\n"
                                           "It may be listed on a frequency other than this (1230)."}));
-  EXPECT_EQ(State.LookupCallSign, "NOPE");
   EXPECT_EQ(List()->count(), 0);
-  EXPECT_EQ(CommandsShown(), 1);
-  EXPECT_EQ(Plotted().List.size(), 0U);
+  EXPECT_EQ(CommandsShown(), 5);
+  EXPECT_EQ(Plotted().List, drawn.List);
   LookFor(" ");
-  EXPECT_EQ(State.LookupCallSign, "");
   EXPECT_EQ(State.RememberedCallSign, "NOPE");
   State.CurrentFrequency = 1240;
   LookFor("QABC");
@@ -115,6 +114,8 @@ TEST_F(frmGetStationDataTest, WhatIsNotFoundIsSaidAndNothingIsLeftOfTheStationBe
   State.RememberedCallSign = "later";
   Open();
   EXPECT_EQ(Shown(*form_, "txtGetData"), "LATER") << "the last entry is offered again";
+  LookFor("nope");
+  EXPECT_EQ(CommandsShown(), 1) << "no record has been drawn yet";
 }
 
 TEST_F(frmGetStationDataTest, TheCommandsRestWhileAWindowIsOpenHoweverItCloses) {

@@ -23,8 +23,8 @@ TEST(ControlsTest, AButtonLooksTheSameWhereTheDesktopReadsFromTheRight) {
     QApplication::setLayoutDirection(direction);
     QWidget window;
     auto* rows = new QVBoxLayout(&window);
-    rows->addWidget(MakeButton("cmdAdd", "&Add files...", ""));
-    QPushButton* zoom = MakeButton("cmdIn", "&In", "");
+    rows->addWidget(MakeButton("cmdAdd", "&Add files...", "", [] {}));
+    QPushButton* zoom = MakeButton("cmdIn", "&In", "", [] {});
     zoom->setIcon(icon);
     rows->addWidget(zoom);
     window.resize(200, 100);
