@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cstddef>
 #include <string>
 #include <vector>
@@ -95,18 +96,18 @@ bool OutlineFile(std::string_view bytes) {
 
 bool PlaceLists(std::string_view bytes) {
   constexpr std::size_t kMost = 50;
-  const auto entries = ReadPlaceList(bytes, kMost);
-  const auto wanted = EntriesByTheRules(bytes);
-  Hold(entries.has_value() == (wanted.size() <= kMost), "a list is refused when it has too many entries");
-  if (!entries) return false;
-  Hold(*entries == wanted, "the entries are the lines that are not empty");
-  for (const std::string& entry : *entries) {
+  const PlaceList list = ReadPlaceList(bytes, kMost);
+  auto wanted = EntriesByTheRules(bytes);
+  Hold(list.IsWhole == (wanted.size() <= kMost), "a list with too many entries says so");
+  wanted.resize(std::min(wanted.size(), kMost));
+  Hold(list.Entries == wanted, "the entries are the lines that are not empty");
+  for (const std::string& entry : list.Entries) {
     HoldColumns(entry);
     UsePlace(CutCity(entry));
     UsePlace(CutCall(entry));
     UsePlace(TakeCity(entry));
   }
-  return true;
+  return list.IsWhole;
 }
 
 }  // namespace kestrel::fuzz

@@ -122,19 +122,19 @@ QString StationFileName(float frequency) {
 
 Result<Done> LoadPlaceLists(const DataFolder& folder, SessionState& state) {
   const auto load = [&](const QString& name, std::size_t most,
-                        std::vector<std::string>& list) -> Result<Done> {
-    list = {};  // its memory, too, before the new one's
-    const Result<QByteArray> bytes = folder.Read(name);
+                        std::vector<std::string>& entries) -> Result<Done> {
+    entries = {};  // its memory, too, before the new one's
+    const Result<QByteArray> bytes = (folder.Has(name) ? folder : DataFolder(BundledData())).Read(name);
     if (!bytes) return bytes.error();
-    auto entries = ReadPlaceList({bytes->constData(), static_cast<std::size_t>(bytes->size())}, most);
-    if (!entries)
-      return Error{Error::Kind::Malformed, name.toStdString(), 0,
-                   "more than " + std::to_string(most) + " entries"};
-    list = std::move(*entries);
-    return Done{};
+    PlaceList list = ReadPlaceList({bytes->constData(), static_cast<std::size_t>(bytes->size())}, most);
+    entries = std::move(list.Entries);
+    if (list.IsWhole) return Done{};
+    return Error{Error::Kind::Malformed, name.toStdString(), 0,
+                 "more than " + std::to_string(most) + " entries; the first ones are taken"};
   };
   const Result<Done> cities = load("Kestrel.lst", MaxCities, state.CityList);
-  return cities ? load("StationsCall.DAT", MaxCalls, state.CallList) : cities;
+  const Result<Done> calls = load("StationsCall.DAT", MaxCalls, state.CallList);
+  return cities ? calls : cities;
 }
 
 void LoadSession(const DataFolder& folder, SessionState& state) {

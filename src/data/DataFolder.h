@@ -58,8 +58,9 @@ Result<Done> FillDataFolder(const QString& folder, const QString& from);
 /// "1230x.dat" for the channel of 1230 kHz.
 QString StationFileName(float frequency);
 
-/// Reads the city list and then the call-sign index into `state`; stops at the first that is missing, cannot
-/// be read or holds too many entries.
+/// Reads the city list and the call-sign index into `state`; of one that the folder lacks, that which came
+/// with the program. Of too many entries the first ones are kept. Errors: of the first list that cannot be
+/// read, or holds too many; the other one is read all the same.
 Result<Done> LoadPlaceLists(const DataFolder& folder, SessionState& state);
 
 /// Reads "Kestrel.CFG" into `state` as ReadSession does; a missing, unreadable or overlong

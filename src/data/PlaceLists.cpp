@@ -9,16 +9,18 @@
 
 namespace kestrel {
 
-std::optional<std::vector<std::string>> ReadPlaceList(std::string_view bytes, std::size_t most) {
-  std::vector<std::string> entries;
-  entries.reserve(std::min(most, static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n')) + 1));
+PlaceList ReadPlaceList(std::string_view bytes, std::size_t most) {
+  PlaceList list;
+  list.Entries.reserve(
+      std::min(most, static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n')) + 1));
   LineReader lines(bytes);
   while (const auto line = lines.Next()) {
     if (line->empty()) continue;
-    if (entries.size() == most) return std::nullopt;
-    entries.emplace_back(*line);
+    list.IsWhole = list.Entries.size() < most;
+    if (!list.IsWhole) break;
+    list.Entries.emplace_back(*line);
   }
-  return entries;
+  return list;
 }
 
 Place CutCity(std::string_view line) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -14,8 +13,13 @@ namespace kestrel {
 inline constexpr std::size_t MaxCities = 3400;
 inline constexpr std::size_t MaxCalls = 9000;
 
-/// The lines that are not empty, in file order; nothing when there are more than `most`.
-std::optional<std::vector<std::string>> ReadPlaceList(std::string_view bytes, std::size_t most);
+struct PlaceList {
+  std::vector<std::string> Entries;
+  bool IsWhole = true;  ///< false: the file has more of them
+};
+
+/// The lines that are not empty, in file order, the first `most` of them.
+PlaceList ReadPlaceList(std::string_view bytes, std::size_t most);
 
 /// An entry of either list, its fields cut by position.
 struct Place {

@@ -8,6 +8,7 @@
 #include "TestFolder.h"
 #include "WithoutRights.h"
 #include "data/FileIo.h"
+#include "data/PlaceLists.h"
 
 namespace kestrel {
 namespace {
@@ -177,13 +178,39 @@ TEST_F(DataFolderTest, TheWantedFolderMustBeThere) {
   EXPECT_EQ(QDir(current->Path()), QDir(folder_.Path()));
 }
 
-TEST_F(DataFolderTest, ListsLoadOrSayWhy) {
+TEST_F(DataFolderTest, AnOverlongListKeepsItsFirstEntriesAndTheOtherListIsRead) {
+  const struct {
+    int cities, calls;
+    std::string message;
+  } rows[] = {{3400, 9000, ""},
+              {3401, 2, "Kestrel.lst: more than 3400 entries; the first ones are taken"},
+              {2, 9001, "StationsCall.DAT: more than 9000 entries; the first ones are taken"}};
+  for (const auto& row : rows) {
+    Put("KESTREL.LST", QByteArray("a\n\n").repeated(row.cities));
+    Put("StationsCall.dat", QByteArray("x\n").repeated(row.calls));
+    SessionState state;
+    const Result<Done> loaded = LoadPlaceLists(folder_, state);
+    EXPECT_EQ(loaded ? "" : loaded.error().Message(), row.message);
+    EXPECT_EQ(state.CityList.size(), std::min(row.cities, 3400));
+    EXPECT_EQ(state.CallList.size(), std::min(row.calls, 9000));
+  }
+}
+
+TEST_F(DataFolderTest, AListThatTheFolderLacksIsTheProgramsOwn) {
+  const auto lines = [](const char* name) {
+    return ReadPlaceList(Bytes(DataFolder(KESTREL_TEST_SHARE).Read(name)), MaxCalls).Entries;
+  };
+  Put("Kestrel.lst", "a\n");
   SessionState state;
-  EXPECT_EQ(LoadPlaceLists(folder_, state).error().Message(), "Kestrel.lst: there is no such file");
-  Put("KESTREL.LST", "a\n\nb\n");
-  Put("StationsCall.dat", QByteArray("x\n").repeated(9001));
-  EXPECT_EQ(LoadPlaceLists(folder_, state).error().Message(), "StationsCall.DAT: more than 9000 entries");
-  EXPECT_EQ(state.CityList.size(), 2U) << "what came before the error stays";
+  EXPECT_TRUE(LoadPlaceLists(folder_, state));
+  EXPECT_EQ(state.CityList, std::vector<std::string>{"a"});
+  EXPECT_EQ(state.CallList, lines("StationsCall.DAT"));
+  Remove("Kestrel.lst");
+  EXPECT_TRUE(LoadPlaceLists(folder_, state));
+  EXPECT_EQ(state.CityList, lines("Kestrel.lst"));
+  ASSERT_TRUE(QDir(folder_.Path()).mkdir("Kestrel.lst"));
+  EXPECT_EQ(LoadPlaceLists(folder_, state).error().Message(),
+            "Kestrel.lst: is a folder or a device, not a file");
 }
 
 }  // namespace

@@ -52,13 +52,16 @@ TEST_F(frmOpeningTest, LoadsOnceShownUnlessItHasBeenLeft) {
 TEST_F(frmOpeningTest, AListThatCannotBeReadEndsLoadingButStartStillReadsTheSession) {
   Files.Put("Kestrel.CFG", "Frequency: 1230\nHome: Here\nLat: 40\nLon: 75\n");
   Files.Put("StationsCall.DAT", QByteArray("too many\n").repeated(9001));
-  for (const bool missing : {false, true}) {
-    if (missing) Files.Remove("Kestrel.lst");
+  for (const bool folder : {false, true}) {
+    if (folder) {
+      Files.Remove("Kestrel.lst");
+      ASSERT_TRUE(QDir(Files.Path()).mkdir("Kestrel.lst"));
+    }
     State = {};
     frmOpening opening(Everything);
     opening.show();
     opening.Load();
-    EXPECT_EQ(System.Messages.size(), missing ? 2 : 1);
+    EXPECT_EQ(System.Messages.size(), folder ? 2 : 1);
     EXPECT_EQ(System.Messages.last(), "We have had a data-file reading error");
     EXPECT_TRUE(opening.isVisible());
     EXPECT_EQ(State.CurrentFrequency, 620) << "the session is not reached";

@@ -85,10 +85,10 @@ TEST(CallIndex, ALineForEachSiteInTheColumnsOfTheReader) {
   const TextImport import = ImportTexts({{"amq.txt", text}});
   const std::string& index = import.files.at("StationsCall.DAT");
   EXPECT_EQ(import.report.stations, 3);
-  const auto entries = ReadPlaceList(index, MaxCalls);
-  ASSERT_EQ(entries->size(), 2U);  // Iceland's longitude is no home of the program
-  EXPECT_EQ(entries->at(0), "QBBB     1230 São João Dos Camp  Brazil      1 kW U      -23.5   46.6167");
-  EXPECT_EQ(entries->at(1), "QZZZ     1230 Springfield  IL                1 kW DN   39.7817   89.6501");
+  const auto entries = ReadPlaceList(index, MaxCalls).Entries;
+  ASSERT_EQ(entries.size(), 2U);  // Iceland's longitude is no home of the program
+  EXPECT_EQ(entries.at(0), "QBBB     1230 São João Dos Camp  Brazil      1 kW U      -23.5   46.6167");
+  EXPECT_EQ(entries.at(1), "QZZZ     1230 Springfield  IL                1 kW DN   39.7817   89.6501");
   EXPECT_TRUE(index.ends_with("\r\n"));
   EXPECT_EQ(import.Examples(Finding::NoHome), "amq.txt:4: QCCC 1230, ICE, IL, 1 kW\n");
 }
@@ -98,17 +98,17 @@ TEST(CallIndex, ASiteStandsWhereItsStationFileHasIt) {
       .call = "QEQU", .status = "CP", .country = "EC", .latitude = "N|0|0|0", .longitude = "W|78|30|0"};
   const ListRow far{.call = "QFAR", .facility = "2", .longitude = "W|144|45|23.2"};
   const TextImport import = ImportTexts({{"amq.txt", equator.Text() + far.Text()}});
-  const auto entries = ReadPlaceList(import.files.at("StationsCall.DAT"), MaxCalls);
-  ASSERT_EQ(entries->size(), 2U);
+  const auto entries = ReadPlaceList(import.files.at("StationsCall.DAT"), MaxCalls).Entries;
+  ASSERT_EQ(entries.size(), 2U);
   StationFileReader reader("1230x.dat", import.files.at("1230x.dat"));
-  for (const std::string& entry : *entries) {
+  for (const std::string& entry : entries) {
     const Place place = CutCall(entry);
     const StationRecord* record = reader.Next();
     ASSERT_NE(record, nullptr);
     EXPECT_EQ(static_cast<float>(LeadingNumber(place.LatitudeText)), record->Latitude) << entry;
     EXPECT_EQ(static_cast<float>(LeadingNumber(place.LongitudeText)), record->Longitude) << entry;
   }
-  EXPECT_EQ(CutCall(entries->at(0)).LatitudeText, "0.0001");
+  EXPECT_EQ(CutCall(entries.at(0)).LatitudeText, "0.0001");
 }
 
 TEST(CallIndex, WhatHasNoRoomIsWeakOrASecondSiteAndReported) {
@@ -124,7 +124,7 @@ TEST(CallIndex, WhatHasNoRoomIsWeakOrASecondSiteAndReported) {
           .Text();
   const TextImport import = ImportTexts({{"amq.txt", text}});
   const std::string& index = import.files.at("StationsCall.DAT");
-  EXPECT_EQ(ReadPlaceList(index, MaxCalls)->size(), MaxCalls);
+  EXPECT_EQ(ReadPlaceList(index, MaxCalls).Entries.size(), MaxCalls);
   EXPECT_NE(index.find("QFAR"), std::string::npos) << "a town is never without a station";
   EXPECT_NE(index.find("QMORE"), std::string::npos);
   EXPECT_EQ(
