@@ -5,7 +5,6 @@
 #include <fstream>
 #include <memory>
 
-#include "forms/CommandIcons.h"
 #include "forms/frmOpening.h"
 #include "forms/frmPlot.h"
 #include "ui/MapSurface.h"
@@ -52,7 +51,6 @@ class PaintWatch final : public QObject {
 
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
-  QApplication::setWindowIcon(ProgramIcon());
   DesktopPlatform platform;
   const Result<DataFolder> folder = LocateDataFolder(argc > 1 ? argv[1] : "");
   if (!folder) return 1;

@@ -37,7 +37,7 @@ void LabelSpace::Take(const LabelBox& box, int owner) {
   const Cells cells = CellsOf(box);
   for (int row = cells.firstRow; row <= cells.lastRow; ++row)
     for (int column = cells.firstColumn; column <= cells.lastColumn; ++column) {
-      std::int32_t& first = first_[static_cast<std::size_t>(row * columns_ + column)];
+      std::int32_t& first = first_[Cell(column, row)];
       entries_.push_back({box, owner, first});
       first = static_cast<std::int32_t>(entries_.size()) - 1;
     }

@@ -52,6 +52,10 @@ class LabelSpace {
   };
 
   Cells CellsOf(const LabelBox& box) const;
+  std::size_t Cell(int column, int row) const {
+    return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
+           static_cast<std::size_t>(column);
+  }
 
   LabelBox area_;
   float cellWidth_;
@@ -67,7 +71,7 @@ bool LabelSpace::AnyTouching(const LabelBox& box, Each each) const {
   const Cells cells = CellsOf(box);
   for (int row = cells.firstRow; row <= cells.lastRow; ++row)
     for (int column = cells.firstColumn; column <= cells.lastColumn; ++column)
-      for (std::int32_t i = first_[static_cast<std::size_t>(row * columns_ + column)]; i >= 0;
+      for (std::int32_t i = first_[Cell(column, row)]; i >= 0;
            i = entries_[static_cast<std::size_t>(i)].next) {
         const Entry& entry = entries_[static_cast<std::size_t>(i)];
         if (entry.box.Touches(box) && each(entry.owner)) return true;
