@@ -6,32 +6,33 @@
 #include <string>
 #include <vector>
 
+#include "MemoryStream.h"
 #include "Targets.h"
 #include "data/StationFile.h"
 #include "data/SwapJournal.h"
-#include "import/AmqList.h"
-#include "import/Intake.h"
-#include "import/LineStream.h"
-#include "import/Merge.h"
-#include "import/ReadFiles.h"
-#include "import/StationSet.h"
+#include "import/merge/Merge.h"
+#include "import/merge/StationFiles.h"
+#include "import/read/AmqList.h"
+#include "import/read/LineStream.h"
+#include "import/read/OpenIntake.h"
+#include "import/read/ReadFiles.h"
 
 namespace kestrel::fuzz {
 namespace {
 
 /// Puts the stations together and reads the files that come of it. Returns whether there is a station.
 bool Finish(Readings readings, const ImportOptions& options, ImportReport& report) {
-  const Stations stations = MergeStations(std::move(readings.amq), readings.tables, options, report);
+  const Stations stations = MergeStations(std::move(readings.Amq), readings.Tables, options, report);
   const ImportReport::File total = report.Total();
-  Hold(total.rows == total.taken + total.leftOut, "every row is taken or left out, once");
+  Hold(total.Rows == total.Taken + total.LeftOut, "every row is taken or left out, once");
 
   std::size_t records = 0;
-  for (const auto& [name, bytes] : MakeStationSet(stations, "a line", report)) {
-    if (!name.ends_with("x.dat")) continue;
+  MakeStationFiles(stations, "a line", report, [&](const std::string& name, const std::string& bytes) {
+    if (!name.ends_with("x.dat")) return;
     StationFileReader reader(name, bytes);
     while (reader.Next()) ++records;
     Hold(reader.Notes().empty(), "an imported file has no faults");
-  }
+  });
   Hold(records == stations.size(), "an imported station is read again");
   ReportText(report);
   return !stations.empty();
@@ -42,9 +43,9 @@ ImportOptions ChosenOptions(std::string_view& bytes) {
   const char choice = bytes.empty() ? '\0' : bytes.front();
   if (!bytes.empty()) bytes.remove_prefix(1);
   ImportOptions options;
-  options.includeSilent = choice & 1;
-  options.includePermits = choice & 2;
-  if (choice & 4) options.countries = {"US", "MX"};
+  options.IncludeSilent = choice & 1;
+  options.IncludePermits = choice & 2;
+  if (choice & 4) options.Countries = {"US", "MX"};
   return options;
 }
 
@@ -53,11 +54,11 @@ ImportOptions ChosenOptions(std::string_view& bytes) {
 bool AmqList(std::string_view bytes) {
   const ImportOptions options = ChosenOptions(bytes);
   Readings readings;
-  readings.hasAmq = true;
+  readings.HasAmq = true;
   ImportReport report;
   MemoryStream stream(bytes);
   LineStream lines(stream);
-  ReadAmqList(lines, report.AddFile("amq.txt", "AM Query list"), options, readings.amq, report);
+  ReadAmqList(lines, report.AddFile("amq.txt", "AM Query list"), options, readings.Amq, report);
   return Finish(std::move(readings), options, report);
 }
 
@@ -79,8 +80,8 @@ bool AntennaTables(std::string_view bytes) {
 bool ImportJournal(std::string_view bytes) {
   const std::optional<SwapJournal> journal = ReadJournal(bytes);
   if (!journal) return false;
-  QStringList names = journal->oldFiles + journal->newFiles;
-  for (const QString& name : names << journal->source)
+  QStringList names = journal->OldFiles + journal->NewFiles;
+  for (const QString& name : names << journal->Source)
     Hold(!name.isEmpty() && name != "." && name != ".." && !name.contains('/'),
          "a name of the folder itself");
   const std::string text = JournalText(*journal);
@@ -99,7 +100,7 @@ bool ZipIntake(std::string_view bytes) {
   bool whole = static_cast<bool>(intake);
   std::uint64_t total = 0;
   for (std::size_t part = 0; intake && part < (*intake)->Parts().size(); ++part) {
-    const std::uint64_t size = (*intake)->Parts()[part].size;
+    const std::uint64_t size = (*intake)->Parts()[part].Size;
     total += size;
     const auto stream = (*intake)->Open(part);
     whole = whole && static_cast<bool>(stream);

@@ -53,34 +53,34 @@ void WriteFindings(JsonWriter& json, const ImportReport& report, std::size_t fir
   json.BeginArray();
   for (std::size_t i = first; i <= last; ++i) {
     const ImportReport::Count& count = report.Of(static_cast<Finding>(i));
-    if (count.rows == 0) continue;
+    if (count.Rows == 0) continue;
     json.BeginObject()
         .Key("reason")
         .Text(FindingTitle(static_cast<Finding>(i)))
         .Key("count")
-        .Whole(count.rows);
+        .Whole(count.Rows);
     json.Key("examples").BeginArray();
-    for (const std::string& example : count.examples) json.Text(example);
+    for (const std::string& example : count.Examples) json.Text(example);
     json.EndArray().EndObject();
   }
   json.EndArray();
 }
 
 void WriteChange(JsonWriter& json, const Change& change) {
-  json.BeginObject().Key("frequency").Whole(change.channel).Key("call").Text(change.CallSign());
+  json.BeginObject().Key("frequency").Whole(change.Channel).Key("call").Text(change.CallSign());
   json.Key("hours").Text(change.Hours()).Key("place").Text(change.Place());
-  switch (change.kind) {
+  switch (change.Kind) {
     case ChangeKind::Moved:
-      json.Key("distance_km").Number(change.after);
+      json.Key("distance_km").Number(change.After);
       break;
     case ChangeKind::Power:
-      json.Key("power_kw_before").Number(change.before).Key("power_kw").Number(change.after);
+      json.Key("power_kw_before").Number(change.Before).Key("power_kw").Number(change.After);
       break;
     case ChangeKind::Pattern:
       json.Key("towers_before")
-          .Whole(static_cast<int>(change.before))
+          .Whole(static_cast<int>(change.Before))
           .Key("towers")
-          .Whole(static_cast<int>(change.after));
+          .Whole(static_cast<int>(change.After));
       break;
     case ChangeKind::CallSign:
       json.Key("call_before").Text(change.FormerCallSign());
@@ -91,7 +91,7 @@ void WriteChange(JsonWriter& json, const Change& change) {
   json.EndObject();
 }
 
-void WriteChanges(JsonWriter& json, const Changes& changes) {
+void WriteChanges(JsonWriter& json, const ChangeList& changes) {
   json.BeginObject();
   for (const ChangeKind kind : {ChangeKind::New, ChangeKind::Gone, ChangeKind::Moved, ChangeKind::Power,
                                 ChangeKind::Pattern, ChangeKind::CallSign}) {
@@ -99,39 +99,39 @@ void WriteChanges(JsonWriter& json, const Changes& changes) {
     std::replace(key.begin(), key.end(), ' ', '_');
     json.Key(key).BeginArray();
     for (const Change& change : changes)
-      if (change.kind == kind) WriteChange(json, change);
+      if (change.Kind == kind) WriteChange(json, change);
     json.EndArray();
   }
   json.EndObject();
 }
 
 std::string Json(const ImportOutcome& outcome, bool dryRun) {
-  const ImportReport& report = outcome.report;
+  const ImportReport& report = outcome.Report;
   const ImportReport::File total = report.Total();
   JsonWriter json;
   json.BeginObject();
-  json.Key("written").Truth(!outcome.failure && !dryRun).Key("source").Text(outcome.stationsLine);
-  json.Key("stations").Whole(report.stations).Key("records").Whole(report.records);
-  json.Key("rows").Whole(total.rows).Key("taken").Whole(total.taken).Key("left_out").Whole(total.leftOut);
+  json.Key("written").Truth(!outcome.Failure && !dryRun).Key("source").Text(outcome.StationsLine);
+  json.Key("stations").Whole(report.Stations).Key("records").Whole(report.Records);
+  json.Key("rows").Whole(total.Rows).Key("taken").Whole(total.Taken).Key("left_out").Whole(total.LeftOut);
   json.Key("files").BeginArray();
   for (const ImportReport::File& file : report.Files()) {
-    json.BeginObject().Key("file").Text(file.name).Key("content").Text(file.content);
+    json.BeginObject().Key("file").Text(file.Name).Key("content").Text(file.Content);
     json.Key("rows")
-        .Whole(file.rows)
+        .Whole(file.Rows)
         .Key("taken")
-        .Whole(file.taken)
+        .Whole(file.Taken)
         .Key("left_out")
-        .Whole(file.leftOut)
+        .Whole(file.LeftOut)
         .EndObject();
   }
   json.EndArray().Key("refused").BeginArray();
   for (const ImportReport::Refusal& refusal : report.Refusals())
-    json.BeginObject().Key("file").Text(refusal.file).Key("reason").Text(refusal.reason).EndObject();
+    json.BeginObject().Key("file").Text(refusal.File).Key("reason").Text(refusal.Reason).EndObject();
   json.EndArray();
   constexpr auto kLastLeftOut = static_cast<std::size_t>(Finding::LastLeftOut);
   WriteFindings(json.Key("reasons"), report, 0, kLastLeftOut);
   WriteFindings(json.Key("remarks"), report, kLastLeftOut + 1, FindingCount - 1);
-  WriteChanges(json.Key("changes"), outcome.changes);
+  WriteChanges(json.Key("changes"), outcome.Changes);
   return json.EndObject().Finish();
 }
 
@@ -146,7 +146,7 @@ void Import(const Request& request, const ImportArguments& arguments) {
   const auto platform = StartPlatform(Platform::Files);
   const DataFolder folder = DataFor(request);
   ImportRequest import{{}, arguments.options, arguments.dryRun};
-  for (const std::string& file : arguments.files) import.files << QString::fromStdString(file);
+  for (const std::string& file : arguments.files) import.Files << QString::fromStdString(file);
 
   const ImportOutcome outcome = [&] {
     ProgressBar bar;
@@ -154,12 +154,12 @@ void Import(const Request& request, const ImportArguments& arguments) {
                      [&](double done, std::string_view what) { return bar.Show(done, what); });
   }();
   constexpr std::size_t kShownChanges = 20;
-  const bool imported = !outcome.failure && !arguments.dryRun;
+  const bool imported = !outcome.Failure && !arguments.dryRun;
   Print(request.Json ? Json(outcome, arguments.dryRun) : OutcomeText(outcome, kShownChanges));
   if (arguments.report)
     WriteReport(*arguments.report, request.Json ? Json(outcome, arguments.dryRun) : OutcomeText(outcome, 0),
                 imported);
-  if (outcome.failure) throw Failure(outcome.failure->Message() + "; nothing was written");
+  if (outcome.Failure) throw Failure(outcome.Failure->Message() + "; nothing was written");
 }
 
 void Undo(const Request& request) {
@@ -183,8 +183,8 @@ std::vector<std::string> WantedCountries(const std::string& list) {
 void Choose(const Request& request, const ImportArguments& arguments) {
   if (arguments.undo) {
     const ImportOptions& options = arguments.options;
-    if (!arguments.files.empty() || arguments.dryRun || arguments.report || options.includeSilent ||
-        options.includePermits || !options.countries.empty())
+    if (!arguments.files.empty() || arguments.dryRun || arguments.report || options.IncludeSilent ||
+        options.IncludePermits || !options.Countries.empty())
       throw WrongUse("import --undo: takes no files and no other options than --data and --json");
     return Undo(request);
   }
@@ -205,14 +205,14 @@ void AddImportCommand(CLI::App& app, Request& request) {
   command.add_flag("--undo", arguments->undo,
                    "bring back what the last import replaced; once more, the import");
   AddFileName(command, "--report", arguments->report, "write the whole report there too");
-  command.add_flag("--include-silent", arguments->options.includeSilent,
+  command.add_flag("--include-silent", arguments->options.IncludeSilent,
                    "licensed stations that are silent too");
-  command.add_flag("--include-permits", arguments->options.includePermits,
+  command.add_flag("--include-permits", arguments->options.IncludePermits,
                    "US stations not yet licensed too");
   command
       .add_option_function<std::string>(
           "--countries",
-          [arguments](const std::string& list) { arguments->options.countries = WantedCountries(list); },
+          [arguments](const std::string& list) { arguments->options.Countries = WantedCountries(list); },
           "only these, by the FCC's codes, as in US,CA,MX")
       ->type_name("LIST");
   AddJson(command, request);

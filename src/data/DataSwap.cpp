@@ -134,21 +134,21 @@ class Exchange {
 /// Whichever of the moves have been made already, makes the others.
 void Exchange::Forward(const SwapJournal& journal) {
   MakeFolder(kOldSet);
-  for (const QString& name : journal.oldFiles)
+  for (const QString& name : journal.OldFiles)
     if (!Exists(kOldSet + '/' + name)) Move("", kOldSet + '/', name);
-  for (const QString& name : journal.newFiles)
-    if (Exists(journal.source + '/' + name)) Move(journal.source + '/', "", name);
+  for (const QString& name : journal.NewFiles)
+    if (Exists(journal.Source + '/' + name)) Move(journal.Source + '/', "", name);
 }
 
 /// Whichever of the moves have been made, takes them back.
 void Exchange::Back(const SwapJournal& journal) {
-  for (const QString& name : journal.newFiles)
-    if (!Exists(journal.source + '/' + name)) Move("", journal.source + '/', name);
-  for (const QString& name : journal.oldFiles)
+  for (const QString& name : journal.NewFiles)
+    if (!Exists(journal.Source + '/' + name)) Move("", journal.Source + '/', name);
+  for (const QString& name : journal.OldFiles)
     if (Exists(kOldSet + '/' + name)) Move(kOldSet + '/', "", name);
   RemoveFile(kJournal);  // before the folders: without them it would read as nothing moved yet
   RemoveFolder(kOldSet);
-  if (journal.source == kNewSet) RemoveFolder(kNewSet);
+  if (journal.Source == kNewSet) RemoveFolder(kNewSet);
 }
 
 /// Keeps the replaced set. The old set is still under its first name as long as the kept one has to go.
@@ -157,12 +157,12 @@ void Exchange::ClearUp(const SwapJournal& journal) {
     RemoveFolder(kKeptSet);
     RenameFolder(kOldSet, kKeptSet);
   }
-  if (journal.source == kNewSet) RemoveFolder(kNewSet);
+  if (journal.Source == kNewSet) RemoveFolder(kNewSet);
   RemoveFile(kJournal);
 }
 
 Result<Done> Exchange::Run(SwapJournal journal) {
-  if (!journal.moved) {
+  if (!journal.Moved) {
     Forward(journal);
     if (stopped_ && !stopped_->abandoned) {
       const Error why = stopped_->error;
@@ -171,7 +171,7 @@ Result<Done> Exchange::Run(SwapJournal journal) {
       return why;
     }
     moved_ = !stopped_;
-    journal.moved = true;
+    journal.Moved = true;
     Write(kJournal, JournalText(journal));
   }
   ClearUp(journal);
@@ -204,8 +204,8 @@ QStringList PresentFiles(const QString& folder) {
 /// Whether the journal could be our own. A folder that came from elsewhere may bring one that moves other
 /// files about.
 bool IsOurs(const SwapJournal& journal) {
-  const QStringList files = journal.oldFiles + journal.newFiles;
-  return (journal.source == kNewSet || journal.source == kKeptSet) &&
+  const QStringList files = journal.OldFiles + journal.NewFiles;
+  return (journal.Source == kNewSet || journal.Source == kKeptSet) &&
          std::all_of(files.begin(), files.end(), IsOfTheSet);
 }
 
@@ -245,7 +245,7 @@ Result<Done> SwapInStations(const DataFolder& folder, const FileSource& source, 
   exchange.MakeFolder(kNewSet);
   source([&](const std::string& name, const std::string& bytes) {
     exchange.Write(kNewSet + '/' + QString::fromStdString(name), bytes);
-    journal.newFiles << QString::fromStdString(name);
+    journal.NewFiles << QString::fromStdString(name);
   });
   exchange.Write(kJournal, JournalText(journal));
   if (const auto failure = exchange.Failure()) {

@@ -20,10 +20,10 @@ bool IsPlainName(const QString& name) {
 }  // namespace
 
 std::string JournalText(const SwapJournal& journal) {
-  std::string text(journal.moved ? kMoved : kMoving);
-  text += '\n' + std::string(kSource) + journal.source.toStdString() + '\n';
-  for (const QString& name : journal.oldFiles) text += std::string(kOld) + name.toStdString() + '\n';
-  for (const QString& name : journal.newFiles) text += std::string(kNew) + name.toStdString() + '\n';
+  std::string text(journal.Moved ? kMoved : kMoving);
+  text += '\n' + std::string(kSource) + journal.Source.toStdString() + '\n';
+  for (const QString& name : journal.OldFiles) text += std::string(kOld) + name.toStdString() + '\n';
+  for (const QString& name : journal.NewFiles) text += std::string(kNew) + name.toStdString() + '\n';
   return text + std::string(kEnd) + '\n';
 }
 
@@ -32,19 +32,19 @@ std::optional<SwapJournal> ReadJournal(std::string_view text) {
   LineReader lines(text);
   const auto first = lines.Next();
   if (!first || (*first != kMoved && *first != kMoving)) return std::nullopt;
-  journal.moved = *first == kMoved;
+  journal.Moved = *first == kMoved;
   while (const auto line = lines.Next()) {
-    if (*line == kEnd) return journal.source.isEmpty() ? std::nullopt : std::optional(journal);
+    if (*line == kEnd) return journal.Source.isEmpty() ? std::nullopt : std::optional(journal);
     const std::string_view key = line->substr(0, line->find(' ') + 1);
     const QString name =
         QString::fromUtf8(line->data() + key.size(), static_cast<qsizetype>(line->size() - key.size()));
     if (!IsPlainName(name)) return std::nullopt;
     if (key == kSource)
-      journal.source = name;
+      journal.Source = name;
     else if (key == kOld)
-      journal.oldFiles << name;
+      journal.OldFiles << name;
     else if (key == kNew)
-      journal.newFiles << name;
+      journal.NewFiles << name;
     else
       return std::nullopt;
   }

@@ -10,10 +10,10 @@ namespace kestrel {
 
 /// How far the exchange of two sets of files has come, and what it is to become.
 struct SwapJournal {
-  bool moved = false;    ///< every file is in its place; only clearing up is left
-  QString source;        ///< the folder, beside the files, that the new set comes from
-  QStringList oldFiles;  ///< the files to be replaced, by the names they have
-  QStringList newFiles;  ///< the files to be put in
+  bool Moved = false;    ///< every file is in its place; only clearing up is left
+  QString Source;        ///< the folder, beside the files, that the new set comes from
+  QStringList OldFiles;  ///< the files to be replaced, by the names they have
+  QStringList NewFiles;  ///< the files to be put in
 };
 
 /// A line for each value; the last one says that the text is whole.

@@ -27,7 +27,7 @@ constexpr std::size_t kShownChanges =
     20;  // of a kind; the list beside the report and a saved report have all
 
 QStringList ChangeCells(const Change& change) {
-  return {Text(ChangeName(change.kind)), QString::number(change.channel),
+  return {Text(ChangeName(change.Kind)), QString::number(change.Channel),
           Text(change.CallSign()),       Text(change.Hours()),
           Text(change.Place()),          Text(ChangeDetail(change))};
 }
@@ -145,11 +145,11 @@ void frmImport::Import() {
     return txtCountries_->selectAll();
   }
   ImportRequest request;
-  request.options.countries = *countries;
-  for (int i = 0; i < lstFiles_->count(); ++i) request.files << lstFiles_->item(i)->text();
-  request.options.includeSilent = chkSilent_->isChecked();
-  request.options.includePermits = chkPermits_->isChecked();
-  request.dryRun = chkDryRun_->isChecked();
+  request.Options.Countries = *countries;
+  for (int i = 0; i < lstFiles_->count(); ++i) request.Files << lstFiles_->item(i)->text();
+  request.Options.IncludeSilent = chkSilent_->isChecked();
+  request.Options.IncludePermits = chkPermits_->isChecked();
+  request.DryRun = chkDryRun_->isChecked();
 
   cancelled_ = false;
   SetRunning(true);
@@ -161,23 +161,23 @@ void frmImport::Import() {
         return !cancelled_;
       });
   SetRunning(false);
-  if (!outcome.failure && !request.dryRun) dataChanged_ = true;
-  ShowOutcome(outcome, request.dryRun);
+  if (!outcome.Failure && !request.DryRun) dataChanged_ = true;
+  ShowOutcome(outcome, request.DryRun);
   UpdateCommands();
 }
 
 void frmImport::ShowOutcome(const ImportOutcome& outcome, bool dryRun) {
-  std::string heading = "Imported: " + outcome.stationsLine;
+  std::string heading = "Imported: " + outcome.StationsLine;
   if (dryRun) heading = "Nothing was written: this is what would change";
-  if (outcome.failure) heading = "Nothing was written: " + outcome.failure->Message();
+  if (outcome.Failure) heading = "Nothing was written: " + outcome.Failure->Message();
   heading += "\n\n";
   txtReport_->setPlainText(Text(heading + OutcomeText(outcome, kShownChanges)));
   wholeReport_ = heading + OutcomeText(outcome, 0);
-  ShowChanges(outcome.changes);
+  ShowChanges(outcome.Changes);
   results_->setCurrentWidget(txtReport_);
 }
 
-void frmImport::ShowChanges(Changes changes) {
+void frmImport::ShowChanges(ChangeList changes) {
   changes_ = std::move(changes);
   constexpr int kWhat = 5;
   lstChanges_->SetRows(

@@ -44,7 +44,7 @@ class frmImport final : public Form {
   void SaveReport();
   void Undo();
   void ShowOutcome(const ImportOutcome& outcome, bool dryRun);
-  void ShowChanges(Changes changes);
+  void ShowChanges(ChangeList changes);
   void SetRunning(bool running);
   void UpdateCommands();
 
@@ -57,7 +57,7 @@ class frmImport final : public Form {
   QTabWidget* results_;
   QPlainTextEdit* txtReport_;
   RowsTable* lstChanges_;
-  Changes changes_;
+  ChangeList changes_;
   std::string wholeReport_;
   bool running_ = false;
   bool cancelled_ = false;

@@ -11,10 +11,11 @@
 #include "data/DataSwap.h"
 #include "data/FileIo.h"
 #include "data/StationFile.h"
-#include "import/Intake.h"
-#include "import/Merge.h"
-#include "import/ReadFiles.h"
-#include "import/StationSet.h"
+#include "import/merge/CallIndex.h"
+#include "import/merge/Merge.h"
+#include "import/merge/StationFiles.h"
+#include "import/read/OpenIntake.h"
+#include "import/read/ReadFiles.h"
 
 namespace kestrel {
 namespace {
@@ -52,13 +53,13 @@ std::optional<Error> ReadAll(const ImportRequest& request, const ImportProgress&
   };
   std::vector<std::pair<std::unique_ptr<Intake>, QDateTime>> intakes;
   std::uint64_t total = 1;
-  for (const QString& path : request.files) {
+  for (const QString& path : request.Files) {
     Result<std::unique_ptr<Intake>> intake = OpenIntake(path);
     if (!intake) {
       fail(intake.error());
       continue;
     }
-    for (const Intake::Part& part : (*intake)->Parts()) total += part.size;
+    for (const Intake::Part& part : (*intake)->Parts()) total += part.Size;
     if ((*intake)->Parts().empty())
       report.Refuse(QFileInfo(path).fileName().toStdString(), "is a zip without files");
     intakes.emplace_back(std::move(*intake), QFileInfo(path).lastModified());
@@ -67,7 +68,7 @@ std::optional<Error> ReadAll(const ImportRequest& request, const ImportProgress&
   std::uint64_t done = 0;
   bool cancelled = false;
   for (const auto& [intake, time] : intakes) {
-    const int rowsBefore = report.Total().rows;
+    const int rowsBefore = report.Total().Rows;
     for (std::size_t i = 0; i < intake->Parts().size() && !cancelled; ++i) {
       const Intake::Part& part = intake->Parts()[i];
       Result<std::unique_ptr<ByteStream>> stream = intake->Open(i);
@@ -78,15 +79,15 @@ std::optional<Error> ReadAll(const ImportRequest& request, const ImportProgress&
       const std::function<bool(std::size_t)> passed = [&](std::size_t count) {
         done += count;
         const double share = kReadingShare * static_cast<double>(done) / static_cast<double>(total);
-        cancelled = cancelled || (progress && !progress(std::min(share, kReadingShare), part.name));
+        cancelled = cancelled || (progress && !progress(std::min(share, kReadingShare), part.Name));
         return !cancelled;
       };
       ProgressStream counted(**stream, passed);
-      ReadSourceFile(counted, part.name, request.options, readings, report);
+      ReadSourceFile(counted, part.Name, request.Options, readings, report);
       if (const std::string problem = counted.Problem(); !problem.empty())
-        fail({Error::Kind::Malformed, part.name, 0, problem});
+        fail({Error::Kind::Malformed, part.Name, 0, problem});
     }
-    if (report.Total().rows > rowsBefore) newest = std::max(newest, time);
+    if (report.Total().Rows > rowsBefore) newest = std::max(newest, time);
   }
   return cancelled ? kCancelled : failure;
 }
@@ -94,16 +95,16 @@ std::optional<Error> ReadAll(const ImportRequest& request, const ImportProgress&
 /// "The FCC's AM Query list and antenna tables, files of 2 August 2026, 10980 stations"
 std::string StationsLine(const QDateTime& newest, const Readings& readings, int stations) {
   std::string line = "The FCC's ";
-  if (readings.hasAmq) line += "AM Query list";
-  if (readings.hasAmq && readings.hasTables) line += " and ";
-  if (readings.hasTables) line += "antenna tables";
+  if (readings.HasAmq) line += "AM Query list";
+  if (readings.HasAmq && readings.HasTables) line += " and ";
+  if (readings.HasTables) line += "antenna tables";
   line += ", files of " + QLocale::c().toString(newest.date(), "d MMMM yyyy").toStdString();
   return line + ", " + std::to_string(stations) + " stations";
 }
 
 /// Takes note of what the file changes in the folder, and hands it on.
 void CompareAndPass(const std::string& name, std::string bytes, const DataFolder& folder,
-                    const TakeFile& take, Changes& changes) {
+                    const TakeFile& take, ChangeList& changes) {
   if (!name.ends_with("x.dat")) return take(name, std::move(bytes));
   const int channel = std::stoi(name);
   const ListedAntennas antennas = ReadAntennas(channel, name, bytes);
@@ -120,45 +121,45 @@ ImportOutcome Import(const ImportRequest& request, const DataFolder& folder, con
   ImportOutcome outcome;
   Readings readings;
   QDateTime newest;
-  outcome.failure = ReadAll(request, progress, readings, outcome.report, newest);
-  if (outcome.failure && outcome.failure->text == kCancelled.text) {
-    outcome.report = {};  // its counts would not add up
+  outcome.Failure = ReadAll(request, progress, readings, outcome.Report, newest);
+  if (outcome.Failure && outcome.Failure->text == kCancelled.text) {
+    outcome.Report = {};  // its counts would not add up
     return outcome;
   }
   const auto goesOn = [&](double done, std::string_view what) {
-    if (progress && !progress(done, what) && !outcome.failure) outcome.failure = kCancelled;
+    if (progress && !progress(done, what) && !outcome.Failure) outcome.Failure = kCancelled;
   };
 
   goesOn(kReadingShare, "putting the stations together");
   Stations stations =
-      MergeStations(std::move(readings.amq), readings.tables, request.options, outcome.report);
-  readings.tables = {};
-  CountStations(stations, outcome.report);
-  outcome.stationsLine = StationsLine(newest, readings, outcome.report.stations);
-  if (stations.empty() && !outcome.failure)
-    outcome.failure =
+      MergeStations(std::move(readings.Amq), readings.Tables, request.Options, outcome.Report);
+  readings.Tables = {};
+  CountStations(stations, outcome.Report);
+  outcome.StationsLine = StationsLine(newest, readings, outcome.Report.Stations);
+  if (stations.empty() && !outcome.Failure)
+    outcome.Failure =
         Error{Error::Kind::Malformed, "", 0, "no station was found; the station files are as they were"};
   goesOn(0.9, "making the station files");
 
   const auto makeFiles = [&](const TakeFile& take) {
-    MakeStationFiles(std::move(stations), outcome.stationsLine, outcome.report, take);
+    MakeStationFiles(std::move(stations), outcome.StationsLine, outcome.Report, take);
   };
   const TakeFile drop = [](const std::string&, const std::string&) {};
-  if (outcome.failure) {
+  if (outcome.Failure) {
     makeFiles(drop);  // for what the report has to say of them
     return outcome;
   }
   const FileSource compared = [&](const TakeFile& take) {
     makeFiles([&](const std::string& name, std::string bytes) {
-      CompareAndPass(name, std::move(bytes), folder, take, outcome.changes);
+      CompareAndPass(name, std::move(bytes), folder, take, outcome.Changes);
     });
   };
-  if (request.dryRun) {
+  if (request.DryRun) {
     compared(drop);
     return outcome;
   }
   if (const Result<Done> swapped = SwapInStations(folder, compared); !swapped) {
-    outcome.failure = swapped.error();
+    outcome.Failure = swapped.error();
     return outcome;
   }
   if (progress) progress(1, "done");  // it is too late for cancelling
@@ -173,7 +174,7 @@ ImportOutcome RunImport(const ImportRequest& request, const DataFolder& folder,
     return Import(request, folder, progress);
   } catch (const std::bad_alloc&) {
     ImportOutcome outcome;
-    outcome.failure =
+    outcome.Failure =
         Error{Error::Kind::Refused, "", 0,
               "there is not enough memory for so long files; the station files are as they were"};
     return outcome;
@@ -181,10 +182,10 @@ ImportOutcome RunImport(const ImportRequest& request, const DataFolder& folder,
 }
 
 std::string OutcomeText(const ImportOutcome& outcome, std::size_t mostChanges) {
-  if (outcome.report.Files().empty() && outcome.report.Refusals().empty()) return {};
-  const std::string text = ReportText(outcome.report);
-  if (outcome.failure) return text;
-  return text + "\nChanges\n" + ChangesText(outcome.changes, mostChanges);
+  if (outcome.Report.Files().empty() && outcome.Report.Refusals().empty()) return {};
+  const std::string text = ReportText(outcome.Report);
+  if (outcome.Failure) return text;
+  return text + "\nChanges\n" + ChangesText(outcome.Changes, mostChanges);
 }
 
 }  // namespace kestrel

@@ -8,18 +8,18 @@
 
 #include "core/Result.h"
 #include "data/DataFolder.h"
-#include "import/Changes.h"
 #include "import/ImportOptions.h"
 #include "import/ImportReport.h"
+#include "import/merge/Changes.h"
 
 // From the files that the listener downloaded to the station files of the map.
 
 namespace kestrel {
 
 struct ImportRequest {
-  QStringList files;  ///< paths, plain or zipped, in the order of precedence: the last one counts most
-  ImportOptions options;
-  bool dryRun = false;  ///< write nothing
+  QStringList Files;  ///< paths, plain or zipped, in the order of precedence: the last one counts most
+  ImportOptions Options;
+  bool DryRun = false;  ///< write nothing
 };
 
 /// Called now and then with the share done, 0 to 1, and what is being done; false cancels, except at 1, when
@@ -27,11 +27,11 @@ struct ImportRequest {
 using ImportProgress = std::function<bool(double done, std::string_view what)>;
 
 struct ImportOutcome {
-  ImportReport report;
-  Changes changes;           ///< against what the folder held before, by channel
-  std::string stationsLine;  ///< the new line of "Stations.txt"
+  ImportReport Report;
+  ChangeList Changes;        ///< against what the folder held before, by channel
+  std::string StationsLine;  ///< the new line of "Stations.txt"
   std::optional<Error>
-      failure;  ///< why nothing was written; the report says what was read, cancelled nothing
+      Failure;  ///< why nothing was written; the report says what was read, cancelled nothing
 };
 
 /// Reads the files, puts the stations together, compares them with those in `folder` and puts them in their

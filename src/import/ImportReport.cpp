@@ -13,7 +13,7 @@ std::string RightAligned(int number, std::size_t width) {
 }
 
 std::string Counts(const ImportReport::File& file) {
-  return RightAligned(file.rows, 9) + RightAligned(file.taken, 9) + RightAligned(file.leftOut, 9);
+  return RightAligned(file.Rows, 9) + RightAligned(file.Taken, 9) + RightAligned(file.LeftOut, 9);
 }
 
 std::string FindingsText(const ImportReport& report, std::size_t first, std::size_t last) {
@@ -21,9 +21,9 @@ std::string FindingsText(const ImportReport& report, std::size_t first, std::siz
   for (std::size_t i = first; i <= last; ++i) {
     const auto finding = static_cast<Finding>(i);
     const ImportReport::Count& count = report.Of(finding);
-    if (count.rows == 0) continue;
-    text += RightAligned(count.rows, 9) + "  " + std::string(FindingTitle(finding)) + '\n';
-    for (const std::string& example : count.examples) text += "             " + example + '\n';
+    if (count.Rows == 0) continue;
+    text += RightAligned(count.Rows, 9) + "  " + std::string(FindingTitle(finding)) + '\n';
+    for (const std::string& example : count.Examples) text += "             " + example + '\n';
   }
   return text;
 }
@@ -92,44 +92,44 @@ int ImportReport::AddFile(std::string name, std::string content) {
 }
 
 void ImportReport::LeaveOut(RowPlace row, Finding why, std::string_view text) {
-  ++FileOf(row).leftOut;
+  ++FileOf(row).LeftOut;
   Add(row, why, text);
 }
 
 void ImportReport::Add(RowPlace row, Finding finding, std::string_view text) {
   Count& count = counts_[static_cast<std::size_t>(finding)];
-  ++count.rows;
-  if (count.examples.size() < MostExamples)
-    count.examples.push_back(FileOf(row).name + ':' + std::to_string(row.line) + ": " + std::string(text));
+  ++count.Rows;
+  if (count.Examples.size() < MostExamples)
+    count.Examples.push_back(FileOf(row).Name + ':' + std::to_string(row.Line) + ": " + std::string(text));
 }
 
 ImportReport::File ImportReport::Total() const {
   File total{"all files", ""};
   for (const File& file : files_) {
-    total.rows += file.rows;
-    total.taken += file.taken;
-    total.leftOut += file.leftOut;
+    total.Rows += file.Rows;
+    total.Taken += file.Taken;
+    total.LeftOut += file.LeftOut;
   }
   return total;
 }
 
 std::string ReportText(const ImportReport& report) {
   std::size_t width = 9;
-  for (const ImportReport::File& file : report.Files()) width = std::max(width, CharacterCount(file.name));
+  for (const ImportReport::File& file : report.Files()) width = std::max(width, CharacterCount(file.Name));
 
   std::string text = PadTo("File", width) + "     rows    taken left out\n";
   for (const ImportReport::File& file : report.Files())
-    text += PadTo(file.name, width) + Counts(file) + "  " + file.content + '\n';
+    text += PadTo(file.Name, width) + Counts(file) + "  " + file.Content + '\n';
   text += PadTo("all files", width) + Counts(report.Total()) + '\n';
   for (const ImportReport::Refusal& refusal : report.Refusals())
-    text += refusal.file + ": " + refusal.reason + '\n';
+    text += refusal.File + ": " + refusal.Reason + '\n';
 
   constexpr auto kLastLeftOut = static_cast<std::size_t>(Finding::LastLeftOut);
   const std::string leftOut = FindingsText(report, 0, kLastLeftOut);
   if (!leftOut.empty()) text += "\nLeft out\n" + leftOut;
   const std::string remarks = FindingsText(report, kLastLeftOut + 1, FindingCount - 1);
   if (!remarks.empty()) text += "\nTaken, but\n" + remarks;
-  text += "\n" + std::to_string(report.stations) + " stations with " + std::to_string(report.records) +
+  text += "\n" + std::to_string(report.Stations) + " stations with " + std::to_string(report.Records) +
           " antennas by hours\n";
   return text;
 }

@@ -10,8 +10,8 @@ namespace kestrel {
 
 /// Where a row stands: an index into ImportReport::Files and a line counted from 1.
 struct RowPlace {
-  int file = 0;
-  int line = 0;
+  int File = 0;
+  int Line = 0;
 };
 
 /// What the importer has to say about a row. Those up to `LastLeftOut` say why a row was left out, one for
@@ -49,27 +49,33 @@ inline constexpr std::size_t FindingCount = static_cast<std::size_t>(Finding::In
 /// "rows off the channel raster": how the report names a kind of finding.
 std::string_view FindingTitle(Finding finding);
 
+/// Why a row is left out.
+struct Fault {
+  Finding Why;
+  std::string Text;
+};
+
 /// What one import read, took and left out. Every row read is either taken or left out, once.
 class ImportReport {
  public:
   static constexpr std::size_t MostExamples = 5;
 
   struct File {
-    std::string name;     ///< "amq.txt", or "am.zip/am_towers.dat"
-    std::string content;  ///< "AM Query list", "am_towers table"
-    int rows = 0;
-    int taken = 0;
-    int leftOut = 0;
+    std::string Name;     ///< "amq.txt", or "am.zip/am_towers.dat"
+    std::string Content;  ///< "AM Query list", "am_towers table"
+    int Rows = 0;
+    int Taken = 0;
+    int LeftOut = 0;
   };
 
   struct Refusal {
-    std::string file;
-    std::string reason;
+    std::string File;
+    std::string Reason;
   };
 
   struct Count {
-    int rows = 0;
-    std::vector<std::string> examples;  ///< the first ones: "amq.txt:17: 567 kHz is not a channel of ..."
+    int Rows = 0;
+    std::vector<std::string> Examples;  ///< the first ones: "amq.txt:17: 567 kHz is not a channel of ..."
   };
 
   /// Returns the index for RowPlace.
@@ -80,8 +86,8 @@ class ImportReport {
     refusals_.push_back({std::move(file), std::move(reason)});
   }
 
-  void Read(RowPlace row) { ++FileOf(row).rows; }
-  void Take(RowPlace row) { ++FileOf(row).taken; }
+  void Read(RowPlace row) { ++FileOf(row).Rows; }
+  void Take(RowPlace row) { ++FileOf(row).Taken; }
   void LeaveOut(RowPlace row, Finding why, std::string_view text);
   void Remark(RowPlace row, Finding what, std::string_view text) { Add(row, what, text); }
 
@@ -91,11 +97,11 @@ class ImportReport {
   /// The sums over all files.
   File Total() const;
 
-  int stations = 0;  ///< sites of a call sign on a channel, as in the call-sign index
-  int records = 0;   ///< antennas by hours written to the station files
+  int Stations = 0;  ///< sites of a call sign on a channel, as in the call-sign index
+  int Records = 0;   ///< antennas by hours written to the station files
 
  private:
-  File& FileOf(RowPlace row) { return files_[static_cast<std::size_t>(row.file)]; }
+  File& FileOf(RowPlace row) { return files_[static_cast<std::size_t>(row.File)]; }
   void Add(RowPlace row, Finding finding, std::string_view text);
 
   std::vector<File> files_;

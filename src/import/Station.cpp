@@ -1,7 +1,6 @@
 #include "import/Station.h"
 
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <tuple>
 
@@ -11,15 +10,6 @@
 #include "data/StationLineText.h"
 
 namespace kestrel {
-
-std::optional<FacilityId> ReadFacilityId(std::string_view text) {
-  text = Trim(text);
-  if (text.empty() || text == "-") return 0;
-  FacilityId id = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), id);
-  if (error != std::errc{} || end != text.data() + text.size()) return std::nullopt;
-  return id;
-}
 
 StationNames::StationNames(std::string_view callSign, std::string_view city, std::string_view state,
                            std::string_view country) {
@@ -33,13 +23,13 @@ StationNames::StationNames(std::string_view callSign, std::string_view city, std
 
 bool IdentityLess(const Station& a, const Station& b) {
   const auto place = [](const Station& s) {
-    return s.facility != 0
+    return s.Facility != 0
                ? std::tuple<std::string_view, std::string_view, std::string_view, std::string_view>{}
-               : std::tuple(s.names.CallSign(), s.names.Country(), s.names.State(), s.names.City());
+               : std::tuple(s.Names.CallSign(), s.Names.Country(), s.Names.State(), s.Names.City());
   };
-  const auto number = [](const Station& s) { return s.facility != 0 ? 0 : s.channel; };
-  return std::tuple(a.facility, number(a), place(a), a.hours) <
-         std::tuple(b.facility, number(b), place(b), b.hours);
+  const auto number = [](const Station& s) { return s.Facility != 0 ? 0 : s.Channel; };
+  return std::tuple(a.Facility, number(a), place(a), a.Hours) <
+         std::tuple(b.Facility, number(b), place(b), b.Hours);
 }
 
 bool IsOnRaster(double kilohertz) {

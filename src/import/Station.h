@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <deque>
 #include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,11 +16,11 @@ namespace kestrel {
 
 /// A tower as the pattern needs it: its place counted from the reference point of the array.
 struct Tower {
-  float field = 1;    ///< ratio, above 0
-  float height = 90;  ///< electrical degrees
-  float phase = 0;    ///< degrees
-  float spacing = 0;  ///< electrical degrees
-  float bearing = 0;  ///< degrees true, 0 to 360
+  float Field = 1;    ///< ratio, above 0
+  float Height = 90;  ///< electrical degrees
+  float Phase = 0;    ///< degrees
+  float Spacing = 0;  ///< electrical degrees
+  float Bearing = 0;  ///< degrees true, 0 to 360
 };
 
 /// The towers of an antenna. Stations that have the same ones share them.
@@ -29,10 +28,6 @@ using SharedTowers = std::shared_ptr<const std::vector<Tower>>;
 
 /// The number by which the FCC knows a station; 0 when the source has none.
 using FacilityId = std::uint32_t;
-
-/// Reads a facility id; 0, "-" and a blank one are none. Nothing when the text is no whole number, or one of
-/// more than 4294967295.
-std::optional<FacilityId> ReadFacilityId(std::string_view text);
 
 /// The names of a station. Of one of more than 200 bytes the first 50 characters are held; no file has room
 /// for as many.
@@ -53,17 +48,17 @@ class StationNames {
 
 /// One antenna of a station for its hours of operation, whichever file told of it.
 struct Station {
-  StationNames names;
-  RowPlace row;  ///< that it comes from
-  FacilityId facility = 0;
-  std::int16_t channel = 0;  ///< kHz, on the raster of the Americas
-  Hours hours = Hours::Unlimited;
-  std::uint8_t preference : 6 = 0;  ///< of the status: the lower, the better
-  bool permit : 1 = false;          ///< not yet licensed (US)
-  bool directional : 1 = false;
-  SitePosition position;  ///< in the Americas
-  double powerKW = 0;     ///< above 0
-  SharedTowers towers;    ///< none: the antenna is not known
+  StationNames Names;
+  RowPlace Row;  ///< that it comes from
+  FacilityId Facility = 0;
+  std::int16_t Channel = 0;  ///< kHz, on the raster of the Americas
+  kestrel::Hours Hours = kestrel::Hours::Unlimited;
+  std::uint8_t Preference : 6 = 0;  ///< of the status: the lower, the better
+  bool Permit : 1 = false;          ///< not yet licensed (US)
+  bool Directional : 1 = false;
+  SitePosition Position;  ///< in the Americas
+  double PowerKW = 0;     ///< above 0
+  SharedTowers Towers;    ///< none: the antenna is not known
 };
 
 /// Stations without end; no large piece of memory has to be found, or copied, for them.

@@ -1,4 +1,4 @@
-#include "import/AmqList.h"
+#include "import/read/AmqList.h"
 
 #include <gtest/gtest.h>
 
@@ -15,7 +15,7 @@ TextImport ImportRows(const std::string& text, const ImportOptions& options = {}
 TEST(AmqList, TakesAStation) {
   const TextImport import = ImportRows(ListRow{.power = "0.118  kW"}.Text());
   ASSERT_EQ(import.stations.size(), 1U);
-  EXPECT_EQ(import.stations.front().facility, 900001U);
+  EXPECT_EQ(import.stations.front().Facility, 900001U);
   EXPECT_EQ(import.files.at("1230x.dat"),
             "1230, QAAA, SPRINGFIELD             , IL  , United States, U, 39.7817, 89.6501, 0.118,-,-, 1\r\n"
             "0,1,90,0,0,0\r\n");
@@ -82,7 +82,7 @@ TEST(AmqList, NumbersAreTakenUpToTheirLimits) {
   };
   for (const auto& [row, taken] : cases) {
     const TextImport import = ImportRows(row.Text());
-    EXPECT_EQ(import.report.Total().taken, taken ? 1 : 0) << row.Text();
+    EXPECT_EQ(import.report.Total().Taken, taken ? 1 : 0) << row.Text();
   }
 }
 
@@ -98,7 +98,7 @@ TEST(AmqList, RowsOfTheWrongFormAreNamed) {
             "amq.txt:4: 2 fields, 31 to 33 expected\n"
             "amq.txt:5: the row is longer than 64 KB\n"
             "amq.txt:6: 0 fields, 31 to 33 expected\n");
-  EXPECT_EQ(import.report.Files().front().taken, 1);
+  EXPECT_EQ(import.report.Files().front().Taken, 1);
 }
 
 TEST(AmqList, WhoIsOnTheAir) {
@@ -122,7 +122,7 @@ TEST(AmqList, WhoIsOnTheAir) {
   for (const auto& [call, country, status, byDefault, withPermits] : cases) {
     const std::string text = ListRow{.call = call, .status = status, .country = country}.Text();
     EXPECT_EQ(ImportRows(text).stations.size(), byDefault ? 1U : 0U) << text;
-    EXPECT_EQ(ImportRows(text, {.includePermits = true}).stations.size(), withPermits ? 1U : 0U) << text;
+    EXPECT_EQ(ImportRows(text, {.IncludePermits = true}).stations.size(), withPermits ? 1U : 0U) << text;
   }
   EXPECT_EQ(ImportRows(ListRow{.status = "CNL"}.Text()).Examples(Finding::NotOnAir),
             "amq.txt:1: QAAA, status CNL\n");
@@ -140,7 +140,7 @@ TEST(AmqList, OlderRowsPreambleAndLineEndsDoNotMatter) {
         newer.substr(0, newer.size() - 1)}) {
     const TextImport import = ImportRows(text);
     EXPECT_EQ(import.files, expected) << text;
-    EXPECT_EQ(import.report.Files().front().rows, 1);
+    EXPECT_EQ(import.report.Files().front().Rows, 1);
   }
 }
 
@@ -158,7 +158,7 @@ TEST(AmqList, NamesComeOutWhole) {
   for (const auto& [given, city] : cases) {
     const TextImport import = ImportRows(ListRow{.city = given}.Text());
     ASSERT_EQ(import.stations.size(), 1U);
-    EXPECT_EQ(import.stations.front().names.City(), city);
+    EXPECT_EQ(import.stations.front().Names.City(), city);
   }
 }
 
@@ -171,16 +171,16 @@ TEST(AmqList, CountriesAreChosenByTheListsCodes) {
   EXPECT_NE(all.files.at("1230x.dat").find(", Mexico       ,"), std::string::npos);
   EXPECT_NE(all.files.at("1230x.dat").find(", QQ           ,"), std::string::npos);
   EXPECT_EQ(all.Examples(Finding::CountryUnknown), "amq.txt:3: QAAA, \"QQ\"\n");
-  const TextImport mexico = ImportRows(text, {.countries = {"MX", "CA"}});
+  const TextImport mexico = ImportRows(text, {.Countries = {"MX", "CA"}});
   EXPECT_EQ(mexico.stations.size(), 1U);
-  EXPECT_EQ(mexico.report.Of(Finding::OtherCountry).rows, 2);
+  EXPECT_EQ(mexico.report.Of(Finding::OtherCountry).Rows, 2);
 }
 
 TEST(AmqList, ARowBehindSomethingElseIsNotLostUnseen) {
   const TextImport import = ImportRows("<pre>" + ListRow{}.Text() + "Call | Frequency | Service\n" +
                                        ListRow{.facility = "2"}.Text());
   EXPECT_EQ(import.stations.size(), 1U);
-  EXPECT_EQ(import.report.Total().rows, 2);
+  EXPECT_EQ(import.report.Total().Rows, 2);
   EXPECT_EQ(import.Examples(Finding::WrongForm), "amq.txt:1: something stands before the first bar\n");
 }
 

@@ -1,10 +1,10 @@
-#include "import/AntennaTables.h"
+#include "import/read/AntennaTables.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "ImportTesting.h"
-#include "import/TowerArray.h"
+#include "import/merge/TowerArray.h"
 #include "pattern/Pattern.h"
 
 namespace kestrel {
@@ -14,11 +14,11 @@ using testing::FloatNear;
 
 TowerRow Row(int number, float field, float spacing, float bearing, bool fromPrevious) {
   TowerRow row;
-  row.number = static_cast<std::int16_t>(number);
-  row.field = field;
-  row.spacing = spacing;
-  row.bearing = bearing;
-  row.fromPrevious = fromPrevious;
+  row.Number = static_cast<std::int16_t>(number);
+  row.Field = field;
+  row.Spacing = spacing;
+  row.Bearing = bearing;
+  row.FromPrevious = fromPrevious;
   return row;
 }
 
@@ -26,39 +26,39 @@ TEST(TowerArray, AChainAddsUp) {
   const TowerArray array = ResolveTowers(
       {Row(4, 1, 60, 350, true), Row(1, 1, 0, 0, true), Row(3, 1, 120, 130, true), Row(2, 1, 90, 40, false)},
       4);
-  ASSERT_EQ(array.towers.size(), 4U);
-  EXPECT_EQ(array.towers[1].spacing, 90);
-  EXPECT_EQ(array.towers[1].bearing, 40);
-  EXPECT_THAT(array.towers[2].spacing, FloatNear(150.000F, 5e-4F));
-  EXPECT_THAT(array.towers[2].bearing, FloatNear(93.1301F, 5e-5F));
-  EXPECT_THAT(array.towers[3].spacing, FloatNear(148.3613F, 5e-5F));
-  EXPECT_THAT(array.towers[3].bearing, FloatNear(69.9361F, 5e-5F));
+  ASSERT_EQ(array.Towers.size(), 4U);
+  EXPECT_EQ(array.Towers[1].Spacing, 90);
+  EXPECT_EQ(array.Towers[1].Bearing, 40);
+  EXPECT_THAT(array.Towers[2].Spacing, FloatNear(150.000F, 5e-4F));
+  EXPECT_THAT(array.Towers[2].Bearing, FloatNear(93.1301F, 5e-5F));
+  EXPECT_THAT(array.Towers[3].Spacing, FloatNear(148.3613F, 5e-5F));
+  EXPECT_THAT(array.Towers[3].Bearing, FloatNear(69.9361F, 5e-5F));
 }
 
 TEST(TowerArray, ATowerWithoutFieldStillCarriesTheNext) {
   const TowerArray array =
       ResolveTowers({Row(1, 1, 10, 0, true), Row(2, 0, 90, 90, false), Row(3, 1, 90, 90, true)}, 3);
-  ASSERT_EQ(array.towers.size(), 2U);
-  EXPECT_EQ(array.towers[0].spacing, 10);  // the first is never placed from another
-  EXPECT_THAT(array.towers[1].spacing, FloatNear(180.0F, 1e-4F));
-  EXPECT_THAT(array.towers[1].bearing, FloatNear(90.0F, 1e-4F));
-  EXPECT_EQ(array.fieldless.size(), 1U);
+  ASSERT_EQ(array.Towers.size(), 2U);
+  EXPECT_EQ(array.Towers[0].Spacing, 10);  // the first is never placed from another
+  EXPECT_THAT(array.Towers[1].Spacing, FloatNear(180.0F, 1e-4F));
+  EXPECT_THAT(array.Towers[1].Bearing, FloatNear(90.0F, 1e-4F));
+  EXPECT_EQ(array.Fieldless.size(), 1U);
 }
 
 TEST(TowerArray, WhatCannotBeAnArrayIsNamed) {
-  EXPECT_EQ(ResolveTowers({Row(1, 1, 0, 0, false), Row(2, 1, 90, 0, false)}, 3).fault, "2 of 3 towers");
-  EXPECT_EQ(ResolveTowers({Row(1, 0, 0, 0, false), Row(2, 0, 90, 0, false)}, 2).fault,
+  EXPECT_EQ(ResolveTowers({Row(1, 1, 0, 0, false), Row(2, 1, 90, 0, false)}, 3).Fault, "2 of 3 towers");
+  EXPECT_EQ(ResolveTowers({Row(1, 0, 0, 0, false), Row(2, 0, 90, 0, false)}, 2).Fault,
             "no tower with a field");
   TowerRow blank = Row(2, 1, 90, 0, false);
-  blank.field.reset();
-  EXPECT_EQ(ResolveTowers({Row(1, 1, 0, 0, false), blank}, 0).fault, "tower 2 without a field ratio");
+  blank.Field.reset();
+  EXPECT_EQ(ResolveTowers({Row(1, 1, 0, 0, false), blank}, 0).Fault, "tower 2 without a field ratio");
 
   std::vector<TowerRow> many;
   for (int number = 1; number <= 13; ++number)
     many.push_back(Row(number, number == 5 ? 0 : 1, static_cast<float>(number), 0, false));
-  EXPECT_FALSE(ResolveTowers(many, 13).tooMany);  // 12 of them radiate
-  many[4].field = 1;
-  EXPECT_TRUE(ResolveTowers(many, 13).tooMany);
+  EXPECT_FALSE(ResolveTowers(many, 13).TooMany);  // 12 of them radiate
+  many[4].Field = 1;
+  EXPECT_TRUE(ResolveTowers(many, 13).TooMany);
 }
 
 TEST(AntennaTables, TheWholeChainComesOutInTheStationFile) {
@@ -74,7 +74,7 @@ TEST(AntennaTables, TheWholeChainComesOutInTheStationFile) {
   EXPECT_EQ(import.files.at("800x.dat"),
             "800, XQBB, CHARLIE                 , -   , Mexico       , U, 31.7362, 106.4848, 50,-,-, 1\r\n"
             "0,1,90,0,0,0\r\n");
-  EXPECT_EQ(import.report.Total().leftOut, 0);
+  EXPECT_EQ(import.report.Total().LeftOut, 0);
 
   // The same array with its chain, computed without the importer's sums.
   StationFileReader chained(
@@ -109,9 +109,9 @@ TEST(AntennaTables, BothOrdersMakeTheSameFiles) {
       EXPECT_EQ(import.files, expected);
       ASSERT_TRUE(import.report.Refusals().empty()) << ReportText(import.report);
       for (const ImportReport::File& file : import.report.Files())
-        EXPECT_EQ(file.content, Replaced(file.name, ".dat", " table"));
-      EXPECT_EQ(import.report.Of(Finding::NotUsed).rows, 1);
-      EXPECT_EQ(import.report.Total().leftOut, 1);
+        EXPECT_EQ(file.Content, Replaced(file.Name, ".dat", " table"));
+      EXPECT_EQ(import.report.Of(Finding::NotUsed).Rows, 1);
+      EXPECT_EQ(import.report.Total().LeftOut, 1);
 
       for (auto& [name, text] : texts)  // and with CR LF
         for (std::size_t at = text.find('\n'); at != std::string::npos; at = text.find('\n', at + 2))
@@ -161,7 +161,7 @@ TEST(AntennaTables, EveryKindOfBadRowIsNamed) {
   for (const auto& [table, from, to, finding, example] : cases) {
     const TextImport import = ImportChanged(table, from, to);
     EXPECT_EQ(import.Examples(finding), example) << table << ' ' << from << ' ' << to;
-    EXPECT_TRUE(import.stations.size() < 3 || import.report.Of(Finding::TowersUnknown).rows == 1)
+    EXPECT_TRUE(import.stations.size() < 3 || import.report.Of(Finding::TowersUnknown).Rows == 1)
         << from << ' ' << to;
   }
 }
@@ -195,7 +195,7 @@ TEST(AntennaTables, NumbersAreTakenUpToTheirLimits) {
       auto texts = SampleTables(Order::A, true);
       texts.emplace_back("more",
                          TableText{of.table, Order::A, true, {of.row + of.column + '=' + value}}.Text());
-      return ImportTexts(texts).report.Of(Finding::BadField).rows;
+      return ImportTexts(texts).report.Of(Finding::BadField).Rows;
     };
     for (const std::string& value : of.taken) EXPECT_EQ(badFields(value), 0) << of.column << ' ' << value;
     for (const std::string& value : of.leftOut) EXPECT_EQ(badFields(value), 1) << of.column << ' ' << value;
@@ -225,10 +225,10 @@ TEST(AntennaTables, TablesOfTheCurrentSystemMakeAStation) {
       {"without", Replaced(kTowers, "tower_phasing", "tower_current")},
   });
   ASSERT_EQ(import.stations.size(), 1U) << ReportText(import.report);
-  EXPECT_EQ(import.stations.front().names.City(), "BRAVO");
-  ASSERT_EQ(import.stations.front().towers->size(), 2U);
-  EXPECT_EQ(import.stations.front().towers->at(1).bearing, 45);
-  EXPECT_EQ(import.report.Refusals().front().reason,
+  EXPECT_EQ(import.stations.front().Names.City(), "BRAVO");
+  ASSERT_EQ(import.stations.front().Towers->size(), 2U);
+  EXPECT_EQ(import.stations.front().Towers->at(1).Bearing, 45);
+  EXPECT_EQ(import.report.Refusals().front().Reason,
             "is the app_am_tower table, but without a column for phasing_deg");
 }
 
@@ -257,7 +257,7 @@ TEST(AntennaTables, WhatALaterFileNoLongerHasInForceIsGone) {
 TEST(AntennaTables, AnArrayThatIsNotWholeIsTakenWithoutItsPattern) {
   const TextImport import = ImportChanged("am_towers", "701|", "799|");
   EXPECT_EQ(import.Examples(Finding::TowersUnknown), "am_ant_sys.dat:2: WQAA D, 2 of 3 towers\n");
-  EXPECT_EQ(import.report.Of(Finding::NotReferred).rows, 3);
+  EXPECT_EQ(import.report.Of(Finding::NotReferred).Rows, 3);
   EXPECT_TRUE(
       import.files.at("550x.dat")
           .starts_with(
@@ -265,11 +265,11 @@ TEST(AntennaTables, AnArrayThatIsNotWholeIsTakenWithoutItsPattern) {
 }
 
 TEST(AntennaTables, CodesAndHeights) {
-  EXPECT_EQ(ImportChanged("am_ant_sys", "|D|40|N|", "|R|40|N|").stations[1].hours,
+  EXPECT_EQ(ImportChanged("am_ant_sys", "|D|40|N|", "|R|40|N|").stations[1].Hours,
             Hours::Critical);  // after N
-  EXPECT_EQ(ImportChanged("facility", "BRAVO", "A\\|B").stations.front().names.City(), "A|B");
+  EXPECT_EQ(ImportChanged("facility", "BRAVO", "A\\|B").stations.front().Names.City(), "A|B");
   const auto height = [](const char* to) {
-    return ImportChanged("am_towers", "|1|80|10|||", to).stations.back().towers->front().height;
+    return ImportChanged("am_towers", "|1|80|10|||", to).stations.back().Towers->front().Height;
   };
   EXPECT_EQ(height("|2|||70|15|"), 85);
   EXPECT_EQ(height("|1|||70|15|"), 85);

@@ -1,4 +1,4 @@
-#include "import/Changes.h"
+#include "import/merge/Changes.h"
 
 #include <gtest/gtest.h>
 
@@ -93,8 +93,8 @@ TEST(Changes, AFullChannelOfOneCallSignIsCompared) {
 }
 
 TEST(Changes, TheTextStopsWhereItIsTold) {
-  Changes changes(3);
-  for (Change& change : changes) change.texts = PackedTexts<4>({"QAAA", "", "", ""});
+  ChangeList changes(3);
+  for (Change& change : changes) change.Texts = PackedTexts<4>({"QAAA", "", "", ""});
   EXPECT_EQ(ChangesText(changes, 2), "new: 3\n  0 QAAA , \n  0 QAAA , \n  and 1 more\n");
 }
 

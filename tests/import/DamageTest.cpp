@@ -55,7 +55,7 @@ TEST(Damage, LongLinesAndManyFilesAreReadInPieces) {
   const TextImport import = ImportTexts({{"amq.txt", text}});
   EXPECT_EQ(import.stations.size(), 3000U);
   EXPECT_EQ(import.Examples(Finding::WrongForm), "amq.txt:1501: the row is longer than 64 KB\n");
-  EXPECT_EQ(import.report.Files().front().rows, 3001);
+  EXPECT_EQ(import.report.Files().front().Rows, 3001);
 }
 
 }  // namespace

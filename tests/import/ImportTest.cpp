@@ -22,7 +22,7 @@ class RunImportTest : public testing::Test {
 
   void ImportOld() {
     folder_.Put("old.txt", ListRow{.call = "QOLD"}.Text());
-    ASSERT_FALSE(RunImport({{folder_.Path("old.txt")}, {}, false}, folder_.Folder()).failure);
+    ASSERT_FALSE(RunImport({{folder_.Path("old.txt")}, {}, false}, folder_.Folder()).Failure);
   }
 
   /// The call sign of the folder's station.
@@ -44,9 +44,9 @@ TEST_F(RunImportTest, CancelledAtAnyMomentItTellsWhatTheFolderHolds) {
     });
     const bool cancelled = calls >= cancelAt && last < 1;
     EXPECT_EQ(Holds(), cancelled ? "QOLD" : "QNEW") << cancelAt;
-    const std::string why = outcome.failure ? outcome.failure->Message() : "";
+    const std::string why = outcome.Failure ? outcome.Failure->Message() : "";
     EXPECT_EQ(why, cancelled ? "cancelled; the station files are as they were" : "") << cancelAt;
-    ExpectCountsAddUp(outcome.report);
+    ExpectCountsAddUp(outcome.Report);
   }
   EXPECT_GT(calls, 4);
 }
@@ -57,8 +57,8 @@ TEST_F(RunImportTest, WantOfMemoryAtAnyMomentLeavesTheFiles) {
       if (done >= moment) throw std::bad_alloc();
       return true;
     });
-    ASSERT_TRUE(outcome.failure);
-    EXPECT_EQ(outcome.failure->Message(),
+    ASSERT_TRUE(outcome.Failure);
+    EXPECT_EQ(outcome.Failure->Message(),
               "there is not enough memory for so long files; the station files are as they were");
     EXPECT_EQ(Holds(), "QOLD");
   }
@@ -78,9 +78,9 @@ TEST_F(RunImportTest, TheDateIsThatOfTheNewestFileWithRows) {
     QFile file(folder_.Path(name));
     ASSERT_TRUE(file.open(QIODevice::ReadWrite));
     ASSERT_TRUE(file.setFileTime(date.startOfDay(), QFileDevice::FileModificationTime));
-    request.files << folder_.Path(name);
+    request.Files << folder_.Path(name);
   }
-  EXPECT_EQ(RunImport(request, folder_.Folder()).stationsLine,
+  EXPECT_EQ(RunImport(request, folder_.Folder()).StationsLine,
             "The FCC's AM Query list, files of 2 August 2026, 2 stations");
   EXPECT_EQ(folder_.Text("Stations.txt"), "The FCC's AM Query list, files of 2 August 2026, 2 stations\r\n");
 }

@@ -6,9 +6,12 @@
 #include <map>
 #include <sstream>
 
-#include "import/Merge.h"
-#include "import/ReadFiles.h"
-#include "import/TableColumns.h"
+#include "MemoryStream.h"
+#include "import/merge/CallIndex.h"
+#include "import/merge/Merge.h"
+#include "import/merge/StationFiles.h"
+#include "import/read/ReadFiles.h"
+#include "import/read/TableColumns.h"
 
 namespace kestrel {
 
@@ -23,8 +26,8 @@ std::string ListRow::Text() const {
 std::string TableText::Text() const {
   const auto& known = KnownTables();
   const auto table =
-      std::find_if(known.begin(), known.end(), [&](const TableColumns& t) { return t.name == name; });
-  std::vector<std::string> columns(table->columns.begin(), table->columns.end());
+      std::find_if(known.begin(), known.end(), [&](const TableColumns& t) { return t.Name == name; });
+  std::vector<std::string> columns(table->Columns.begin(), table->Columns.end());
   if (order == Order::B) std::sort(columns.begin(), columns.end());
   std::string text;
   if (header) {
@@ -93,15 +96,15 @@ std::string Replaced(std::string text, std::string_view from, std::string_view t
 
 std::string TextImport::Examples(Finding finding) const {
   std::string all;
-  for (const std::string& example : report.Of(finding).examples) all += example + '\n';
+  for (const std::string& example : report.Of(finding).Examples) all += example + '\n';
   return all;
 }
 
 std::string TextImport::Hours(std::string_view call) const {
   std::string text;
   for (const Station& station : stations)
-    if (call.empty() || station.names.CallSign() == call)
-      text += HoursLetter(station.hours) + std::to_string(station.towers ? station.towers->size() : 0);
+    if (call.empty() || station.Names.CallSign() == call)
+      text += HoursLetter(station.Hours) + std::to_string(station.Towers ? station.Towers->size() : 0);
   return text;
 }
 
@@ -112,8 +115,11 @@ TextImport ImportTexts(const NamedTexts& texts, const ImportOptions& options) {
     MemoryStream stream(text);
     ReadSourceFile(stream, name, options, readings, import.report);
   }
-  import.stations = MergeStations(std::move(readings.amq), readings.tables, options, import.report);
-  import.files = MakeStationSet(import.stations, "A test", import.report);
+  import.stations = MergeStations(std::move(readings.Amq), readings.Tables, options, import.report);
+  CountStations(import.stations, import.report);
+  MakeStationFiles(import.stations, "A test", import.report, [&](const std::string& name, std::string bytes) {
+    import.files[name] = std::move(bytes);
+  });
   ExpectCountsAddUp(import.report);
   return import;
 }
@@ -128,11 +134,11 @@ TextImport ImportChanged(const std::string& table, std::string_view from, std::s
 
 void ExpectCountsAddUp(const ImportReport& report) {
   for (const ImportReport::File& file : report.Files())
-    EXPECT_EQ(file.rows, file.taken + file.leftOut) << file.name;
+    EXPECT_EQ(file.Rows, file.Taken + file.LeftOut) << file.Name;
   int reasons = 0;
   for (std::size_t i = 0; i <= static_cast<std::size_t>(Finding::LastLeftOut); ++i)
-    reasons += report.Of(static_cast<Finding>(i)).rows;
-  EXPECT_EQ(report.Total().leftOut, reasons);
+    reasons += report.Of(static_cast<Finding>(i)).Rows;
+  EXPECT_EQ(report.Total().LeftOut, reasons);
 }
 
 }  // namespace kestrel

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -8,7 +9,6 @@
 #include "import/ImportOptions.h"
 #include "import/ImportReport.h"
 #include "import/Station.h"
-#include "import/StationSet.h"
 
 namespace kestrel {
 
@@ -54,6 +54,9 @@ NamedTexts SampleTables(Order order, bool header);
 /// `text` with `to` in place of the first `from` behind the first `behind`, which must be there.
 std::string Replaced(std::string text, std::string_view from, std::string_view to,
                      std::string_view behind = {});
+
+/// The files that an import replaces, by name.
+using StationSet = std::map<std::string, std::string>;
 
 /// What an import makes of named texts, without a disk.
 struct TextImport {

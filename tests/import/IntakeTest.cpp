@@ -1,4 +1,4 @@
-#include "import/Intake.h"
+#include "import/read/OpenIntake.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -66,13 +66,13 @@ TEST_F(IntakeTest, AZipGivesWhatItsFilesGive) {
   }
   entries.push_back({"../../readme", "Nothing to see\n"});
   const ImportOutcome zipped = Run({Zip("no suffix", entries), Zip("empty.zip", {{"x/", ""}})});
-  ASSERT_FALSE(zipped.failure) << zipped.failure->Message();
-  EXPECT_EQ(zipped.report.records, 3);
-  EXPECT_EQ(zipped.report.Total().rows, Run(plain).report.Total().rows);
-  EXPECT_EQ(zipped.report.Files().front().name, "no suffix/am/am_ant_sys.dat");
-  ASSERT_EQ(zipped.report.Refusals().size(), 2U);
-  EXPECT_EQ(zipped.report.Refusals()[0].reason, "is a zip without files");
-  EXPECT_EQ(zipped.report.Refusals()[1].file, "no suffix/../../readme");
+  ASSERT_FALSE(zipped.Failure) << zipped.Failure->Message();
+  EXPECT_EQ(zipped.Report.Records, 3);
+  EXPECT_EQ(zipped.Report.Total().Rows, Run(plain).Report.Total().Rows);
+  EXPECT_EQ(zipped.Report.Files().front().Name, "no suffix/am/am_ant_sys.dat");
+  ASSERT_EQ(zipped.Report.Refusals().size(), 2U);
+  EXPECT_EQ(zipped.Report.Refusals()[0].Reason, "is a zip without files");
+  EXPECT_EQ(zipped.Report.Refusals()[1].File, "no suffix/../../readme");
 }
 
 TEST_F(IntakeTest, WhatCannotBeReadStopsTheImportAndIsNamed) {
@@ -94,10 +94,10 @@ TEST_F(IntakeTest, WhatCannotBeReadStopsTheImportAndIsNamed) {
   };
   for (const auto& [file, message] : cases) {
     const ImportOutcome outcome = Run({good, file}, false);
-    ASSERT_TRUE(outcome.failure) << message;
-    EXPECT_NE(outcome.failure->Message().find(message), std::string::npos) << outcome.failure->Message();
-    EXPECT_EQ(outcome.report.Refusals().size(), 1U);
-    EXPECT_EQ(outcome.report.records, 1);  // the report tells of the others all the same
+    ASSERT_TRUE(outcome.Failure) << message;
+    EXPECT_NE(outcome.Failure->Message().find(message), std::string::npos) << outcome.Failure->Message();
+    EXPECT_EQ(outcome.Report.Refusals().size(), 1U);
+    EXPECT_EQ(outcome.Report.Records, 1);  // the report tells of the others all the same
     EXPECT_FALSE(folder_.Folder().Has("1230x.dat"));
   }
 }
@@ -150,8 +150,8 @@ TEST_F(IntakeTest, AFileThatChangesWhileItIsReadStopsTheImport) {
       return QFile::resize(path, static_cast<qint64>(list.size()) + change);
     };
     const ImportOutcome outcome = RunImport({{path}, {}, false}, folder_.Folder(), resize);
-    ASSERT_TRUE(outcome.failure);
-    EXPECT_EQ(outcome.failure->Message(), "amq.txt: changed while it was read");
+    ASSERT_TRUE(outcome.Failure);
+    EXPECT_EQ(outcome.Failure->Message(), "amq.txt: changed while it was read");
     EXPECT_FALSE(folder_.Folder().Has("1230x.dat"));
   }
 }
@@ -191,23 +191,23 @@ TEST_F(IntakeTest, EveryTruncationOfAZipIsNamedOrRead) {
   const std::string whole = ZipBytes({{"a", ListRow{}.Text()}, {"b", ListRow{}.Text()}});
   for (std::size_t length = 0; length < whole.size(); ++length) {
     const ImportOutcome outcome = Run({Plain("cut.zip", whole.substr(0, length))});
-    ASSERT_TRUE(outcome.failure) << length;
-    ASSERT_EQ(outcome.report.Refusals().size(), 1U) << length;
+    ASSERT_TRUE(outcome.Failure) << length;
+    ASSERT_EQ(outcome.Report.Refusals().size(), 1U) << length;
   }
 }
 
 TEST_F(IntakeTest, AnImportIsWrittenUnlessItIsDry) {
   const QString list = Plain("amq.txt", ListRow{}.Text());
-  EXPECT_FALSE(Run({list}).failure);
+  EXPECT_FALSE(Run({list}).Failure);
   EXPECT_FALSE(folder_.Folder().Has("1230x.dat"));
   const ImportOutcome outcome = Run({list}, false);
-  EXPECT_FALSE(outcome.failure);
+  EXPECT_FALSE(outcome.Failure);
   EXPECT_TRUE(folder_.Folder().Has("1230x.dat"));
-  EXPECT_EQ(outcome.changes.size(), 1U);
-  EXPECT_EQ(folder_.Folder().StationsLine(), outcome.stationsLine);
-  EXPECT_TRUE(outcome.stationsLine.ends_with(", 1 stations")) << outcome.stationsLine;
-  EXPECT_TRUE(Run({list}, false).changes.empty());
-  EXPECT_EQ(Run({Plain("notes", "x\n")}, false).failure->Message(),
+  EXPECT_EQ(outcome.Changes.size(), 1U);
+  EXPECT_EQ(folder_.Folder().StationsLine(), outcome.StationsLine);
+  EXPECT_TRUE(outcome.StationsLine.ends_with(", 1 stations")) << outcome.StationsLine;
+  EXPECT_TRUE(Run({list}, false).Changes.empty());
+  EXPECT_EQ(Run({Plain("notes", "x\n")}, false).Failure->Message(),
             "no station was found; the station files are as they were");
 }
 

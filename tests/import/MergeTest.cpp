@@ -1,4 +1,4 @@
-#include "import/Merge.h"
+#include "import/merge/Merge.h"
 
 #include <gtest/gtest.h>
 
@@ -42,12 +42,12 @@ TEST(Merge, JoinsByCallSignWhereTheFacilityIsNotKnown) {
     EXPECT_TRUE(WithTables(row.Text()).Hours("WQAA").starts_with("D3")) << facility;
   }
   row.frequency = "560 kHz";
-  EXPECT_EQ(WithTables(row.Text()).report.Of(Finding::TowersUnknown).rows, 1);
+  EXPECT_EQ(WithTables(row.Text()).report.Of(Finding::TowersUnknown).Rows, 1);
   row.frequency = "550 kHz";
   ListRow namesake = row;  // with two of the name no one can tell whose towers they are
   namesake.city = "ELSEWHERE";
   namesake.facility = "778";
-  EXPECT_EQ(WithTables(row.Text() + namesake.Text()).report.Of(Finding::TowersUnknown).rows, 2);
+  EXPECT_EQ(WithTables(row.Text() + namesake.Text()).report.Of(Finding::TowersUnknown).Rows, 2);
 
   NamedTexts texts = SampleTables(Order::A, false);  // nor with two of them in the tables
   texts[0].second = Replaced(texts[0].second, "|U|31|", "|D|31|");
@@ -92,7 +92,7 @@ TEST(Merge, OnlyANonDirectionalStationHasATowerWhateverTheTablesLack) {
     texts.emplace_back("amq.txt", listed.Text());
     const TextImport result = ImportTexts(texts);
     EXPECT_EQ(result.Hours("WQAA"), "D1N1");
-    EXPECT_EQ(result.report.Of(Finding::TowersUnknown).rows, 0);
+    EXPECT_EQ(result.report.Of(Finding::TowersUnknown).Rows, 0);
     return result;
   };
   EXPECT_EQ(import(TablesWithManyTowers()).Examples(Finding::TooManyTowers),
@@ -112,11 +112,11 @@ TEST(Merge, TheBestStatusCountsAndOfEqualsTheLast) {
   const auto listed = [](const char* status, const char* power) {
     return ListRow{.status = status, .power = power}.Text();
   };
-  const ImportOptions permits{.includePermits = true};
+  const ImportOptions permits{.IncludePermits = true};
   const auto power = [&](const std::string& text) {
     const TextImport import = ImportTexts({{"amq.txt", text}}, permits);
     EXPECT_EQ(import.stations.size(), 1U);
-    return import.stations.front().powerKW;
+    return import.stations.front().PowerKW;
   };
   EXPECT_EQ(
       power(listed("CP", "4 kW") + listed("MOD", "3 kW") + listed("LIC", "1 kW") + listed("STA", "2 kW")), 1);
@@ -130,7 +130,7 @@ TEST(Merge, TheLastListCountsMost) {
   const TextImport later =
       ImportTexts({{"old", old}, {"new", ListRow{.status = "STA", .power = "2 kW"}.Text()}});
   ASSERT_EQ(later.stations.size(), 1U);
-  EXPECT_EQ(later.stations.front().powerKW, 2);
+  EXPECT_EQ(later.stations.front().PowerKW, 2);
   EXPECT_EQ(later.Examples(Finding::Superseded), "old:1: QAAA 1230 U\n");
 
   // Day and night in place of unlimited.
@@ -178,7 +178,7 @@ TEST(Merge, AChannelHoldsItsStrongestStations) {
     list += ListRow{.frequency = "550 kHz", .facility = std::to_string(i + 1'000'000)}.Text();
   texts.emplace_back("amq.txt", list);
   const TextImport full = ImportTexts(texts);
-  EXPECT_EQ(full.report.records, MaxRecords + 1) << "one of the tables is on another channel";
+  EXPECT_EQ(full.report.Records, MaxRecords + 1) << "one of the tables is on another channel";
   EXPECT_EQ(full.Examples(Finding::ChannelFull),
             "am_ant_sys.dat:1: WQAA 550 D\nam_ant_sys.dat:2: WQAA 550 N\n");
 
@@ -187,7 +187,7 @@ TEST(Merge, AChannelHoldsItsStrongestStations) {
   EXPECT_TRUE(over.Examples(Finding::ChannelFull).starts_with("amq.txt:1: QWEAK 550 U\n"))
       << over.Examples(Finding::ChannelFull);
   EXPECT_EQ(over.Hours("QMORE"), "U1");
-  EXPECT_EQ(over.report.Files().back().taken, MaxRecords);
+  EXPECT_EQ(over.report.Files().back().Taken, MaxRecords);
   StationFileReader reader("550x.dat", over.files.at("550x.dat"));
   while (reader.Next()) {
   }
@@ -202,7 +202,7 @@ TEST(Merge, TheListOverrulesTheTablesOnWhoIsOnTheAir) {
   EXPECT_EQ(cancelled.Examples(Finding::NotOnAir),
             "amq.txt:1: WQAA, status CNL\nam_ant_sys.dat:1: WQAA 550 D, by the AM Query list\n"
             "am_ant_sys.dat:2: WQAA 550 N, by the AM Query list\n");
-  EXPECT_EQ(cancelled.report.Of(Finding::NotReferred).rows, 6);  // four towers and what joins them
+  EXPECT_EQ(cancelled.report.Of(Finding::NotReferred).Rows, 6);  // four towers and what joins them
   // A row without the facility ends the day by its names; the night, which no row speaks of, stays.
   row.facility = "";
   row.city = "BRAVO";
@@ -212,7 +212,7 @@ TEST(Merge, TheListOverrulesTheTablesOnWhoIsOnTheAir) {
   row.hours = "Unlimited";  // in place of the tables' day and night
   const TextImport unlimited = WithTables(row.Text());
   EXPECT_EQ(unlimited.Hours("WQAA"), "U0");
-  EXPECT_EQ(unlimited.report.Of(Finding::Superseded).rows, 2);
+  EXPECT_EQ(unlimited.report.Of(Finding::Superseded).Rows, 2);
 }
 
 TEST(Merge, SilentStationsAndPermitsOnlyWhenWanted) {
@@ -222,10 +222,10 @@ TEST(Merge, SilentStationsAndPermitsOnlyWhenWanted) {
     const char* hours;  // of the day and of the night; the day's antenna record is the first
   } cases[] = {
       {"facility", "LICEN", "LICSL", {}, ""},
-      {"facility", "LICEN", "LICSL", {.includeSilent = true}, "D3N1"},
-      {"facility", "LICEN", "LICAN", {.includeSilent = true}, ""},
+      {"facility", "LICEN", "LICSL", {.IncludeSilent = true}, "D3N1"},
+      {"facility", "LICEN", "LICAN", {.IncludeSilent = true}, ""},
       {"am_ant_sys", "|L|", "|C|", {}, "N1"},
-      {"am_ant_sys", "|L|", "|C|", {.includePermits = true}, "D3N1"},
+      {"am_ant_sys", "|L|", "|C|", {.IncludePermits = true}, "D3N1"},
       {"am_ant_sys", "|L|", "||", {}, "N1"},  // only abroad it is blank
       {"am_eng_data", "|L|", "|C|", {}, ""},
       {"facility", "|US|", "|MX|", {}, ""},
@@ -237,7 +237,7 @@ TEST(Merge, SilentStationsAndPermitsOnlyWhenWanted) {
   // A permit's list row does not take the towers of the licence.
   ListRow row = ListedWqaa();
   row.status = "CP";
-  EXPECT_EQ(WithTables(row.Text(), {.includePermits = true}).Hours("WQAA"), "D0N1");
+  EXPECT_EQ(WithTables(row.Text(), {.IncludePermits = true}).Hours("WQAA"), "D0N1");
 }
 
 }  // namespace

@@ -34,9 +34,9 @@ TEST_F(SampleData, EveryRowOfTheRealListsIsAccountedFor) {
   for (const auto& [name, rows] :
        {std::pair{"amq-rows-ne-sd-ks.txt", 272}, std::pair{"amq-band-2026-08.txt", 20785}}) {
     const TextImport import = ImportTexts({{name, Read(name)}});
-    EXPECT_EQ(import.report.Total().rows, rows);
-    EXPECT_EQ(import.report.Total().taken, static_cast<int>(import.stations.size()));
-    EXPECT_EQ(import.report.Of(Finding::WrongForm).rows + import.report.Of(Finding::BadField).rows, 0);
+    EXPECT_EQ(import.report.Total().Rows, rows);
+    EXPECT_EQ(import.report.Total().Taken, static_cast<int>(import.stations.size()));
+    EXPECT_EQ(import.report.Of(Finding::WrongForm).Rows + import.report.Of(Finding::BadField).Rows, 0);
   }
 }
 

@@ -1,4 +1,4 @@
-#include "import/TableLayout.h"
+#include "import/read/TableLayout.h"
 
 #include <gtest/gtest.h>
 
@@ -9,8 +9,8 @@ namespace {
 
 std::string Refusal(const std::string& text) {
   const ImportReport report = ImportTexts({{"file", text}}).report;
-  return report.Refusals().empty() ? "read as " + report.Files().front().content
-                                   : report.Refusals().front().reason;
+  return report.Refusals().empty() ? "read as " + report.Files().front().Content
+                                   : report.Refusals().front().Reason;
 }
 
 TEST(TableLayout, ColumnsUnderAHeaderMayStandInAnyOrderAmongOthers) {
@@ -19,7 +19,7 @@ TEST(TableLayout, ColumnsUnderAHeaderMayStandInAnyOrderAmongOthers) {
                                           "lat_deg|lat_dir|lon_deg|lon_min|lon_sec|lon_dir|^|\n"
                                           "5.0|?|1|2|U|0|30|40|N|90|15|0|W|^|\n"}});
   EXPECT_TRUE(import.report.Refusals().empty());
-  EXPECT_EQ(import.report.Of(Finding::NoStation).rows, 1);
+  EXPECT_EQ(import.report.Of(Finding::NoStation).Rows, 1);
 }
 
 TEST(TableLayout, WhatIsNoTableIsRefusedWithTheReason) {
