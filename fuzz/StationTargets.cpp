@@ -9,6 +9,7 @@
 #include "data/StationLineText.h"
 #include "data/StationLookup.h"
 #include "data/TowerTable.h"
+#include "field/Ranking.h"
 #include "pattern/Pattern.h"
 
 namespace kestrel::fuzz {
@@ -43,6 +44,25 @@ void UseRecord(const StationRecord& record) {
   StationRecord scratch = record;
   if (ComputePattern(scratch, values))
     for (const float value : values) HoldFinite(value);
+}
+
+/// Whatever the file holds, at night and at noon every record in force has its levels and its reason.
+void RankRecords(const std::vector<StationRecord>& records) {
+  static const ChannelRanking none(kChannel, {33.24278F, 96.54139F}, AverageConductivity);
+  ChannelRanking channel = none;
+  for (const StationRecord& record : records) channel.Add(record, 1);
+  for (const int hour : {6, 18}) {
+    const Moment moment = std::chrono::sys_days(std::chrono::year(2026) / 11 / 22) + std::chrono::hours(hour);
+    const Ranking ranking = channel.Rank(moment, {});
+    Hold(ranking.Rows.size() + ranking.Silent.size() <= records.size(), "a record is on the air or not");
+    HoldFinite(ranking.Needed);
+    for (const auto& [record, levels, chance] : ranking.Rows) {
+      for (const double level :
+           {levels.GroundWave, levels.SkyMedian, levels.SkyUpperDecile, levels.Total, levels.High})
+        HoldFinite(level);
+      Hold(!channel.Records()[record].Field.ReasonFor(levels).empty(), "every level has its reason");
+    }
+  }
 }
 
 void HoldSame(const StationRecord& a, const StationRecord& b) {
@@ -86,6 +106,7 @@ bool StationFile(std::string_view bytes) {
     HoldSame(records[i], wanted.Records[i]);
     UseRecord(records[i]);
   }
+  RankRecords(records);
   HoldNotes(notes, wanted.FaultyLines);
 
   StationLineReader lines(bytes);

@@ -112,6 +112,7 @@ StationRecord* StationFileReader::Next() {
       break;
     }
     ++recordCount_;
+    recordLine_ = lines_.LineNumber();
     const double towers = StoreStationLine(CutStationLine(*line), record_);
     if (towers < 0 || towers > MaxTowers) {
       Note(NumberText(static_cast<float>(towers)) +

@@ -84,6 +84,9 @@ class StationFileReader {
   /// the record.
   StationRecord* Next();
 
+  /// The number of the present record's station line in the file, from 1.
+  int RecordLine() const { return recordLine_; }
+
   /// What was left out so far, one line each, at most MaxNotes and a line that says so.
   const std::vector<std::string>& Notes() const { return notes_; }
 
@@ -95,6 +98,7 @@ class StationFileReader {
   LineReader lines_;
   StationRecord record_;
   int recordCount_ = 0;
+  int recordLine_ = 0;
   bool skipping_ = false;  // on the way to the next station line, the reason already noted
   std::vector<std::string> notes_;
 };

@@ -1,0 +1,123 @@
+#include "field/Ranking.h"
+
+#include <algorithm>
+#include <array>
+
+#include "core/Geodesy.h"
+#include "core/Text.h"
+
+namespace kestrel {
+namespace {
+
+constexpr double kWithinStrongest = 6;  // dB
+
+/// Which calls are struck, and which of the struck are on the channel at all.
+class StruckCalls {
+ public:
+  explicit StruckCalls(const std::vector<std::string>& calls) {
+    for (const std::string& call : calls) calls_.push_back({UpperCase(Trim(call)), false});
+  }
+
+  bool Has(const std::string& callSign) {
+    if (calls_.empty()) return false;
+    const std::string upper = UpperCase(callSign);
+    bool has = false;
+    for (Call& call : calls_)
+      if (call.Name == upper) has = call.Found = true;
+    return has;
+  }
+
+  std::vector<std::string> NotFound() const {
+    std::vector<std::string> names;
+    for (const Call& call : calls_)
+      if (!call.Found) names.push_back(call.Name);
+    return names;
+  }
+
+ private:
+  struct Call {
+    std::string Name;
+    bool Found;
+  };
+  std::vector<Call> calls_;
+};
+
+/// Sorts and judges. Struck rows stay behind all others.
+void Judge(Ranking& ranking, double neededLevel) {
+  const auto isStruck = [](const RankedRecord& row) { return row.Chance == Likelihood::Struck; };
+  std::stable_sort(ranking.Rows.begin(), ranking.Rows.end(), [&](const auto& a, const auto& b) {
+    return isStruck(a) != isStruck(b) ? isStruck(b) : a.Levels.Total > b.Levels.Total;
+  });
+  ranking.Needed = neededLevel;
+  if (ranking.Rows.empty() || isStruck(ranking.Rows.front())) return;
+  ranking.Needed = std::max(neededLevel, ranking.Rows.front().Levels.Total - kWithinStrongest);
+  for (RankedRecord& row : ranking.Rows)
+    if (!isStruck(row))
+      row.Chance = row.Levels.Total >= ranking.Needed  ? Likelihood::Likely
+                   : row.Levels.High >= ranking.Needed ? Likelihood::Possible
+                                                       : Likelihood::Unlikely;
+}
+
+}  // namespace
+
+std::string_view WordOf(Likelihood likelihood) {
+  constexpr std::array<std::string_view, 4> kWords = {"likely", "possible", "unlikely", "struck"};
+  return kWords[static_cast<std::size_t>(likelihood)];
+}
+
+ChannelRanking::ChannelRanking(double frequencyKHz, const Position& home, double conductivity)
+    : home_(home), ground_(frequencyKHz, conductivity) {}
+
+void ChannelRanking::Add(const StationRecord& record, int line) {
+  const std::size_t station = StationOf(record);
+  const Hours hours = HoursOf(record.HoursCode);
+  stations_[station].Hours.Add(hours);
+  stationOfRecord_.push_back(station);
+  clocks_.emplace_back(SunSite(record.Latitude, record.Longitude), record.Country == "United States");
+  const GreatCircleResult course = GreatCircle(home_, record.At());
+  records_.push_back({record.CallSign, record.City, record.State, record.Country, hours, record.PowerKW,
+                      record.TowerCount, line, course.Distance, course.Bearing,
+                      FieldAtHome(record, home_, ground_)});
+}
+
+std::vector<std::string> ChannelRanking::AddFile(const std::string& name, std::string_view bytes) {
+  StationFileReader reader(name, bytes);
+  while (const StationRecord* record = reader.Next()) Add(*record, reader.RecordLine());
+  return reader.Notes();
+}
+
+std::size_t ChannelRanking::StationOf(const StationRecord& record) {
+  std::string name;
+  for (const std::string* part : {&record.CallSign, &record.City, &record.State, &record.Country})
+    name += *part + '\n';
+  const auto [found, isNew] = stationByName_.emplace(std::move(name), stations_.size());
+  if (isNew) stations_.push_back({records_.size(), {}});
+  return found->second;
+}
+
+Ranking ChannelRanking::Rank(Moment moment, const RankingChoices& choices) {
+  const Sun sun(moment);
+  StruckCalls struck(choices.StruckCalls);
+  std::vector<bool> onAir(stations_.size());
+  std::vector<TimeOfDay> timeOfFirst(stations_.size());
+  Ranking ranking;
+  for (std::size_t i = 0; i < records_.size(); ++i) {
+    const std::size_t index = stationOfRecord_[i];
+    const Station& station = stations_[index];
+    const TimeOfDay time = clocks_[i].At(moment, sun, choices.Rule);
+    if (station.FirstRecord == i) timeOfFirst[index] = time;
+    const bool isStruck = struck.Has(records_[i].CallSign);
+    if (HoursInForce(station.Hours, time) != records_[i].OnAir) continue;
+    onAir[index] = true;
+    ranking.Rows.push_back(
+        {i, records_[i].Field.LevelsAt(sun), isStruck ? Likelihood::Struck : Likelihood::Unlikely});
+  }
+  for (std::size_t i = 0; i < stations_.size(); ++i)
+    if (!onAir[i])
+      ranking.Silent.push_back({stations_[i].FirstRecord, SilenceReason(stations_[i].Hours, timeOfFirst[i])});
+  Judge(ranking, choices.NeededLevel);
+  ranking.NotOnChannel = struck.NotFound();
+  return ranking;
+}
+
+}  // namespace kestrel
