@@ -16,6 +16,9 @@ void AddDistanceCommand(CLI::App& app, Request& request);
 void AddMapCommand(CLI::App& app, Request& request);
 void AddScanCommand(CLI::App& app, Request& request);
 void AddSessionCommand(CLI::App& app, Request& request);
+void AddWhoCommand(CLI::App& app, Request& request);
+void AddBandCommand(CLI::App& app, Request& request);
+void AddSunCommand(CLI::App& app, Request& request);
 void AddImportCommand(CLI::App& app, Request& request);
 
 }  // namespace kestrel::cli

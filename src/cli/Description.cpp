@@ -15,8 +15,9 @@ void Describe(CLI::App& app, Request& request) {
   AddFileName(app, "--data", request.Data, "the folder with the station, outline and list files")
       ->type_name("DIR");
   AddFileName(app, "--session", request.SessionFile, "take home, channel and view from a last-session file");
-  for (const auto add : {AddStationsCommand, AddPatternCommand, AddHetsCommand, AddDistanceCommand,
-                         AddMapCommand, AddScanCommand, AddSessionCommand, AddImportCommand})
+  for (const auto add :
+       {AddStationsCommand, AddPatternCommand, AddHetsCommand, AddDistanceCommand, AddMapCommand,
+        AddScanCommand, AddSessionCommand, AddWhoCommand, AddBandCommand, AddSunCommand, AddImportCommand})
     add(app, request);
 }
 

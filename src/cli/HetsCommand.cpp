@@ -1,5 +1,6 @@
 #include "cli/Commands.h"
 #include "cli/Console.h"
+#include "cli/Csv.h"
 #include "cli/Json.h"
 #include "cli/Options.h"
 #include "core/Heterodynes.h"
@@ -39,9 +40,27 @@ std::string Json(const Heterodynes& heterodynes) {
   return json.EndArray().EndObject().Finish();
 }
 
+std::string Csv(const Heterodynes& heterodynes) {
+  CsvWriter csv(
+      {"frequency", "below_beat_khz", "below_frequency", "above_beat_khz", "above_frequency", "on_grid"});
+  const auto add = [&](std::string_view beat, std::string_view frequency,
+                       const std::optional<Heterodyne>& heterodyne) {
+    csv.Key(beat);
+    heterodyne ? csv.Number(heterodyne->BeatKHz) : csv.Null();
+    csv.Key(frequency);
+    heterodyne ? csv.Whole(heterodyne->GridChannel) : csv.Null();
+  };
+  csv.BeginObject().Key("frequency").Number(heterodynes.Frequency);
+  add("below_beat_khz", "below_frequency", heterodynes.Below);
+  add("above_beat_khz", "above_frequency", heterodynes.Above);
+  csv.Key("on_grid").Truth(heterodynes.OnGrid).EndObject();
+  return csv.Finish();
+}
+
 void ShowHeterodynes(const Request& request) {
   const Heterodynes heterodynes = FindHeterodynes(SessionFor(request).CurrentFrequency);
   if (request.Json) return Print(Json(heterodynes));
+  if (request.Csv) return Print(Csv(heterodynes));
   std::string text;
   for (const std::string& line : Lines(heterodynes)) text += line + '\n';
   Print(text);
@@ -53,7 +72,7 @@ void AddHetsCommand(CLI::App& app, Request& request) {
   CLI::App& command =
       *app.add_subcommand("hets", "Tell the beat notes that stations of the 9 kHz grid make on a channel");
   AddFrequency(command, request);
-  AddJson(command, request);
+  AddJsonOrCsv(command, request);
   command.callback([&request] { ShowHeterodynes(request); });
 }
 

@@ -63,6 +63,13 @@ JsonWriter& JsonWriter::Number(float value) {
   return *this;
 }
 
+JsonWriter& JsonWriter::Decimals(double value) {
+  if (!std::isfinite(value)) return Null();
+  BeforeValue();
+  document_ += FixedText(value, 4);
+  return *this;
+}
+
 JsonWriter& JsonWriter::Whole(int value) {
   BeforeValue();
   document_ += std::to_string(value);

@@ -21,6 +21,8 @@ class JsonWriter {
   JsonWriter& Text(std::string_view text);
   /// The shortest digits that read back to the same single; null when it is no finite number.
   JsonWriter& Number(float value);
+  /// Four decimals; null when it is no finite number.
+  JsonWriter& Decimals(double value);
   JsonWriter& Whole(int value);
   JsonWriter& Truth(bool value);
   JsonWriter& Null();

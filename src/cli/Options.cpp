@@ -70,6 +70,17 @@ void AddNumber(CLI::App& command, const std::string& name, const Limits& limits,
   command.add_option_function<std::string>(name, store, help + ", " + range)->type_name("NUMBER");
 }
 
+void AddNumberAboveZero(CLI::App& command, const std::string& name, double highest,
+                        std::optional<float>& number, const std::string& help) {
+  const std::string limit = NumberWithZero(static_cast<float>(highest));
+  const auto store = [=, &number](const std::string& given) {
+    number = WholeNumber(given);
+    if (!number || !(*number > 0 && *number <= highest))
+      Refuse(name, given, "a number above 0, at most " + limit);
+  };
+  command.add_option_function<std::string>(name, store, help + ", above 0 to " + limit)->type_name("NUMBER");
+}
+
 CLI::Option* AddPosition(CLI::App& command, const std::string& name, std::optional<Position>& position,
                          const std::string& help) {
   const auto store = [name, &position](const std::string& given) {
@@ -110,19 +121,11 @@ void AddScale(CLI::App& command, Request& request) {
 }
 
 void AddAspect(CLI::App& command, Request& request) {
-  const auto store = [&request](const std::string& given) {
-    request.Aspect = WholeNumber(given);
-    if (!request.Aspect || !(*request.Aspect > 0 && *request.Aspect <= LargestAspect))
-      Refuse("--aspect", given, "a number above 0, at most " + NumberWithZero(LargestAspect));
-  };
-  command
-      .add_option_function<std::string>(
-          "--aspect", store,
-          "widens the patterns, above 0 to " + NumberWithZero(LargestAspect) + "; 1 keeps circles round")
-      ->type_name("NUMBER");
+  AddNumberAboveZero(command, "--aspect", LargestAspect, request.Aspect,
+                     "widens the patterns (1 keeps circles round)");
 }
 
-void AddPicture(CLI::App& command, Request& request) {
+CLI::Option* AddPicture(CLI::App& command, Request& request) {
   const auto storeSize = [&request](const std::string& given) {
     const std::optional<QSize> size = ReadSize(given);
     if (!size) Refuse("--size", given, "WIDTHxHEIGHT in pixels, 64 to 16384 each");
@@ -144,7 +147,7 @@ void AddPicture(CLI::App& command, Request& request) {
     if (!NamesPicture(given)) Refuse("-o", given, "a file name that ends in .png, .svg or .pdf");
     request.Output = given;
   };
-  command
+  return command
       .add_option_function<std::string>("-o", storeOutput, "the picture's file, ending in .png, .svg or .pdf")
       ->type_name("FILE")
       ->required();
@@ -152,6 +155,15 @@ void AddPicture(CLI::App& command, Request& request) {
 
 void AddJson(CLI::App& command, Request& request) {
   command.add_flag("--json", request.Json, "one JSON document in place of a table");
+}
+
+CLI::Option* AddCsv(CLI::App& command, Request& request) {
+  return command.add_flag("--csv", request.Csv, "a table for other programs, points in numbers");
+}
+
+void AddJsonOrCsv(CLI::App& command, Request& request) {
+  AddJson(command, request);
+  AddCsv(command, request)->excludes("--json");
 }
 
 }  // namespace kestrel::cli

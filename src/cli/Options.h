@@ -15,12 +15,18 @@ void AddFrequency(CLI::App& command, Request& request);
 void AddHome(CLI::App& command, Request& request);
 void AddScale(CLI::App& command, Request& request);
 void AddAspect(CLI::App& command, Request& request);
-void AddPicture(CLI::App& command, Request& request);  ///< --size and -o
+CLI::Option* AddPicture(CLI::App& command, Request& request);  ///< --size and -o, which is returned
 void AddJson(CLI::App& command, Request& request);
+void AddJsonOrCsv(CLI::App& command, Request& request);
+CLI::Option* AddCsv(CLI::App& command, Request& request);
 
 /// A number option of its own that must lie within `low` to `high`.
 void AddNumber(CLI::App& command, const std::string& name, const Limits& limits, std::optional<float>& number,
                const std::string& help);
+
+/// One that must lie above 0 and be at most `highest`.
+void AddNumberAboveZero(CLI::App& command, const std::string& name, double highest,
+                        std::optional<float>& number, const std::string& help);
 
 /// "33.24278,96.54139", latitude north and longitude WEST positive, a negative one east.
 CLI::Option* AddPosition(CLI::App& command, const std::string& name, std::optional<Position>& position,

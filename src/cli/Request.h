@@ -9,6 +9,7 @@
 #include "core/Distance.h"
 #include "core/SessionState.h"
 #include "data/DataFolder.h"
+#include "field/Ranking.h"
 #include "map/Labels.h"
 
 namespace kestrel::cli {
@@ -27,6 +28,12 @@ struct Request {
   LabelChoice Labels = LabelChoice::Fitting;
   std::string Output;
   bool Json = false;
+  bool Csv = false;
+  std::optional<std::string> Time;
+  std::optional<float> Ground;
+  std::optional<float> Need;
+  std::optional<float> Top;
+  RankingChoices Choices;  ///< but for Need
 };
 
 /// What a last-session file that was named and is missing means.

@@ -5,6 +5,8 @@
 #include "cli/Commands.h"
 #include "cli/Console.h"
 #include "cli/Options.h"
+#include "cli/StationList.h"
+#include "core/Band.h"
 #include "core/Numbers.h"
 #include "draw/Fonts.h"
 #include "draw/Picture.h"
@@ -49,7 +51,30 @@ void DrawBand(const DataFolder& folder, const MapProjection& projection, Canvas&
     Say(folder.Path().toStdString() + ": no station file was drawn; name another folder with --data");
 }
 
+/// The stations of all channels.
+void ListBand(const Request& request) {
+  const auto platform = StartPlatform(Platform::Files);
+  const SessionState state = SessionFor(request);
+  const DataFolder folder = DataFor(request);
+  CsvWriter csv = StationCsv();
+  int channels = 0;
+  for (float channel = LowestChannel; channel <= HighestChannel; channel += ChannelStep) {
+    const Result<QByteArray> bytes = folder.Read(StationFileName(channel));
+    if (bytes) {
+      AddStations(csv, channel, ListedStations(*bytes, channel, state));
+      ++channels;
+    } else if (bytes.error().kind != Error::Kind::NotFound) {
+      Say(bytes.error().Message());
+    }
+  }
+  if (channels == 0)
+    Say(folder.Path().toStdString() + ": no station file was read; name another folder with --data");
+  Print(csv.Finish());
+}
+
 void Scan(const Request& request) {
+  if (request.Csv) return ListBand(request);
+  if (request.Output.empty()) throw WrongUse("-o is required; kestrel-cli scan --help tells more");
   const auto platform = StartPlatform(Platform::Pictures);
   const SessionState state = SessionFor(request);
   const DataFolder folder = DataFor(request);
@@ -70,7 +95,10 @@ void AddScanCommand(CLI::App& app, Request& request) {
   CLI::App& command = *app.add_subcommand("scan", "Draw where the stations of all channels stand");
   AddHome(command, request);
   AddScale(command, request);
-  AddPicture(command, request);
+  CLI::Option* const output = AddPicture(command, request)->required(false);
+  AddCsv(command, request)
+      ->excludes(output)
+      ->description("the stations of all channels in place of the picture");
   command.callback([&request] { Scan(request); });
 }
 

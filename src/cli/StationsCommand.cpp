@@ -4,36 +4,28 @@
 #include "cli/Console.h"
 #include "cli/Json.h"
 #include "cli/Options.h"
+#include "cli/StationList.h"
 #include "cli/Table.h"
-#include "core/Geodesy.h"
 #include "core/Numbers.h"
-#include "data/StationFile.h"
-#include "map/MapProjection.h"
 
 namespace kestrel::cli {
 namespace {
 
-struct ListedStation {
-  StationRecord Record;
-  GreatCircleResult Course;    // clockwise from home
-  std::optional<Point> Place;  // on the map's sheet
-};
-
 std::string Json(const std::vector<ListedStation>& stations) {
   JsonWriter json;
   json.BeginArray();
-  for (const auto& [record, course, place] : stations) {
+  for (const ListedStation& station : stations) {
     json.BeginObject();
-    json.Key("call").Text(record.CallSign).Key("city").Text(record.City);
-    json.Key("state").Text(record.State).Key("country").Text(record.Country);
-    json.Key("hours").Text(record.HoursCode);
-    json.Key("latitude").Number(record.Latitude).Key("longitude").Number(record.Longitude);
-    json.Key("power_kw").Number(record.PowerKW).Key("towers").Whole(record.TowerCount);
-    json.Key("distance_km").Number(course.Distance).Key("bearing_deg").Number(course.Bearing);
-    json.Key("x").Number(place ? place->x : NAN).Key("y").Number(place ? place->y : NAN);
+    WriteStation(json, station);
     json.EndObject();
   }
   return json.EndArray().Finish();
+}
+
+std::string Csv(float frequency, const std::vector<ListedStation>& stations) {
+  CsvWriter csv = StationCsv();
+  AddStations(csv, frequency, stations);
+  return csv.Finish();
 }
 
 std::string Tenths(double value) {
@@ -65,15 +57,10 @@ std::string ForPeople(const std::vector<ListedStation>& stations) {
 void ListStations(const Request& request) {
   const auto platform = StartPlatform(Platform::Files);
   const SessionState state = SessionFor(request);
-  const QByteArray bytes = ReadChannel(DataFor(request), state.CurrentFrequency);
-  const MapProjection projection(state.Home(), state.ScaleFactor);
-  StationFileReader reader(StationFileName(state.CurrentFrequency).toStdString(),
-                           {bytes.constData(), static_cast<std::size_t>(bytes.size())});
-  std::vector<ListedStation> stations;
-  while (const StationRecord* record = reader.Next())
-    stations.push_back({*record, GreatCircle(state.Home(), record->At()), projection.Station(record->At())});
-  Say(reader.Notes());
-  Print(request.Json ? Json(stations) : ForPeople(stations));
+  const float frequency = state.CurrentFrequency;
+  const QByteArray bytes = ReadChannel(DataFor(request), frequency);
+  const std::vector<ListedStation> stations = ListedStations(bytes, frequency, state);
+  Print(request.Json ? Json(stations) : request.Csv ? Csv(frequency, stations) : ForPeople(stations));
 }
 
 }  // namespace
@@ -83,7 +70,7 @@ void AddStationsCommand(CLI::App& app, Request& request) {
   AddFrequency(command, request);
   AddHome(command, request);
   AddScale(command, request);
-  AddJson(command, request);
+  AddJsonOrCsv(command, request);
   command.callback([&request] { ListStations(request); });
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cassert>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -206,6 +207,16 @@ std::string SignedNumberText(float value) {
 
 std::string DisplayNumberText(float value) {
   return SignedNumberText(value) + ' ';
+}
+
+std::string FixedText(double value, int decimals) {
+  std::array<char, 400> text;
+  const auto [end, error] =
+      std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, decimals);
+  assert(error == std::errc());
+  const std::string_view written(text.data(), end);
+  const bool isZero = written.find_first_of("123456789") == std::string_view::npos;
+  return std::string(written.substr(isZero && written.front() == '-' ? 1 : 0));
 }
 
 float TruncateToTenth(double value) {

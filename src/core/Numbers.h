@@ -45,6 +45,10 @@ std::string SignedNumberText(float value);
 /// The display form: the signed form and one blank behind it: " .75 ".
 std::string DisplayNumberText(float value);
 
+/// So many decimals, rounded, a digit before the point: "-0.5000". Zero has no sign.
+/// REQUIRES: the value is finite and 0 <= decimals <= 20.
+std::string FixedText(double value, int decimals);
+
 /// One decimal, truncated toward minus infinity: 123.96 gives 123.9, -0.05 gives -0.1.
 float TruncateToTenth(double value);
 

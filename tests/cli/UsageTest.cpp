@@ -33,6 +33,14 @@ TEST(UsageTest, WrongUseIsStatusTwoWithOneLineThatSaysWhatToDo) {
        "--size 64x16385: give WIDTHxHEIGHT in pixels, 64 to 16384 each"},
       {{"map", "-o", "map.gif"}, "-o map.gif: give a file name that ends in .png, .svg or .pdf"},
       {{"pattern", "--call", "QAAA", "--hours", "d"}, "--hours d: give D, N, C or U"},
+      {{"scan"}, "-o is required; kestrel-cli scan --help tells more"},
+      {{"who", "--time", "yesterday"},
+       "--time yesterday: give a time of UTC as in 2026-11-22T03:12Z, or now"},
+      {{"who", "--time", "2101-01-01T00:00Z"}, "--time 2101-01-01T00:00Z: give a year from 1950 to 2100"},
+      {{"band", "--ground", "0"}, "--ground 0: give a number above 0, at most 10000"},
+      {{"who", "--hours", "D"}, "--hours D: give auto, sun or licence"},
+      {{"band", "--top", "0"}, "--top 0: give a number from 1 to 10000"},
+      {{"stations", "--json", "--csv"}, "--json excludes --csv; kestrel-cli stations --help tells more"},
       {{"session", ""}, "file: give a name, it is empty"},
       {{"distance", "--to", "90.1,0"}, position("90.1,0")},
       {{"distance", "--to", "0,-181"}, position("0,-181")},
@@ -55,7 +63,8 @@ TEST(UsageTest, HelpIsAnAnswerAndNamesEveryCommand) {
   const Answer answer = folder.Run({"--help"});
   EXPECT_EQ(answer.Status, 0);
   EXPECT_EQ(answer.Err, "");
-  for (const char* command : {"stations", "pattern", "hets", "distance", "map", "scan", "session"})
+  for (const char* command :
+       {"stations", "pattern", "hets", "distance", "map", "scan", "session", "who", "band", "sun"})
     EXPECT_NE(answer.Out.find(command), std::string::npos) << command;
   EXPECT_EQ(RunIn(folder.Path(), {"--help"}, "/dev/full").Status, 1);
 }
