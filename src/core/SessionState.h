@@ -43,7 +43,6 @@ struct SessionState {
   std::int16_t CompassShown = 0;     ///< 1 when the compass is drawn over the map
   std::int16_t PlotAllStations = 0;  ///< 1 when the whole-band scan was chosen
   bool StopRequested = true;         ///< false only while the whole-band scan runs
-  std::string LookupCallSign;        ///< what the station lookup searched for last
   std::string RememberedCallSign;    ///< the last search text that was not empty; offered at the next opening
   std::vector<std::string> CityList;  ///< lines of "Kestrel.lst"
   std::vector<std::string> CallList;  ///< lines of "StationsCall.DAT"

@@ -10,9 +10,11 @@ namespace {
 
 constexpr std::size_t kCountryLength = 17;
 
-StationSelection SelectionOf(const StationRecord& record) {
-  return {record.CallSign, record.City,      record.State,   record.Country,   record.HoursCode,
-          record.Latitude, record.Longitude, record.PowerKW, record.TowerCount};
+StationSelection SelectionOf(const StationRecord& record, double towers) {
+  const auto towerCount = static_cast<std::int16_t>(std::clamp(towers, -32768.0, 32767.0));
+  return {record.CallSign,           UpperCase(record.City), UpperCase(record.State),
+          UpperCase(record.Country), record.HoursCode,       record.Latitude,
+          record.Longitude,          record.PowerKW,         towerCount};
 }
 
 std::string NoDataMessage(float frequency) {
@@ -23,17 +25,6 @@ std::string NothingListedMessage(const std::string& callSign, float frequency) {
   if (callSign.empty()) return "We need a station callsign entry";
   return "We did not find a station with callsign '" + callSign +
          "'.\r\nIt may be listed on a frequency other than this (" + NumberText(frequency) + ").";
-}
-
-/// Whether the two are one record, its texts in whatever case.
-bool SameRecord(const StationSelection& a, const StationSelection& b) {
-  const auto sameText = [](const std::string& x, const std::string& y) {
-    return UpperCase(x) == UpperCase(y);
-  };
-  return sameText(a.City, b.City) && sameText(a.State, b.State) && sameText(a.Country, b.Country) &&
-         a.SelectedCallSign == b.SelectedCallSign && a.SelectedHoursCode == b.SelectedHoursCode &&
-         a.SelectedTowerCount == b.SelectedTowerCount && a.Latitude == b.Latitude &&
-         a.Longitude == b.Longitude && a.PowerKW == b.PowerKW;
 }
 
 bool IsSelected(const StationRecord& record, const StationSelection& selection) {
@@ -59,13 +50,13 @@ SearchResult SearchStations(const DataFolder& folder, float frequency, std::stri
   StationRecord record;
   while (const std::optional<StationLine> line = reader.Next()) {
     if (Trim(line->CallSign) != result.CallSign) continue;
-    StoreStationLine(*line, record);
+    const double towers = StoreStationLine(*line, record);
     if (record.Latitude == 0 || record.Longitude == 0 || record.PowerKW == 0) continue;
     if (result.Rows.size() == MaxListRows) {
       result.Message = NoDataMessage(frequency);
       return result;
     }
-    result.Rows.push_back({ListLine(*line), SelectionOf(record)});
+    result.Rows.push_back({ListLine(*line), SelectionOf(record, towers)});
   }
   result.Ended = true;
   if (result.Rows.empty()) result.Message = NothingListedMessage(result.CallSign, frequency);
@@ -88,32 +79,6 @@ std::string_view ListHeads() {
   return " Call:   City:                  State: Country:  Hours:  Latitude:   Longitude:  Power: Towers:";
 }
 
-StationSelection ParseListLine(std::string_view line) {
-  const auto text = [&](std::size_t first, std::size_t width) {
-    return std::string(Trim(Columns(line, first, width)));
-  };
-  const auto number = [&](std::size_t first, std::size_t width) {
-    return LeadingNumber(Columns(line, first, width));
-  };
-  StationSelection selection;
-  selection.SelectedCallSign = text(1, 9);
-  selection.City = text(10, 24);
-  selection.State = text(34, 4);
-  selection.Country = text(40, 14);
-  selection.SelectedHoursCode = text(53, 4);
-  selection.Latitude = static_cast<float>(number(57, 9));
-  selection.Longitude = static_cast<float>(number(69, 9));
-  selection.PowerKW = static_cast<float>(number(81, 8));
-  const double towers = RoundToWhole(number(88, 4));
-  selection.SelectedTowerCount = static_cast<std::int16_t>(std::clamp(towers, -32768.0, 32767.0));
-  return selection;
-}
-
-StationSelection SelectRow(const ListRow& row) {
-  const StationSelection parsed = ParseListLine(row.Line);
-  return SameRecord(parsed, row.Own) ? parsed : row.Own;
-}
-
 std::vector<StationRecord> LoadRecords(const DataFolder& folder, float frequency,
                                        const StationSelection& selection) {
   const QString name = StationFileName(frequency);
@@ -130,14 +95,6 @@ bool HasBrokenTowers(const StationRecord& record) {
   const auto first = record.Fields.begin() + 1;
   const auto zeros = std::count(first, first + record.TowerCount, 0.0F);
   return zeros > 0 && zeros < record.TowerCount;
-}
-
-float ListHeight(std::size_t rows) {
-  constexpr float kLongList = 1600;
-  constexpr float kFrame = 200;
-  constexpr float kHighest = 2700;
-  const float lines = rows < 100 ? static_cast<float>(rows) * RowTwips : kLongList;
-  return std::min(lines + kFrame, kHighest);
 }
 
 std::optional<std::string> ChannelLabel(float frequency) {

@@ -9,8 +9,8 @@
 #include "data/DataFolder.h"
 #include "data/StationFile.h"
 
-// Looking up the stations of one call sign on one channel: from the search text to lines of a list, from a
-// line to a selection, from a selection to the record with its towers. Every call reads the station file.
+// Looking up the stations of one call sign on one channel: from the search text to the rows of a list, from a
+// row's selection to the record with its towers. Every call reads the station file.
 
 namespace kestrel {
 
@@ -24,13 +24,14 @@ struct StationSelection {
   float Latitude = 0;   ///< degrees, north positive
   float Longitude = 0;  ///< degrees, WEST positive
   float PowerKW = 0;
-  std::int16_t SelectedTowerCount = 0;
+  std::int16_t SelectedTowerCount = 0;  ///< as the file has it, also beyond MaxTowers
 };
 
-/// One row of the list: what it shows, and the record that it was made of.
+/// One row of the list: what it shows, and what choosing it selects, its texts in capitals as the line has
+/// them.
 struct ListRow {
   std::string Line;
-  StationSelection Own;
+  StationSelection Selection;
 };
 
 /// No search lists more.
@@ -55,14 +56,6 @@ std::string ListLine(const StationLine& line);
 /// The heads of a list's columns, each word over its column.
 std::string_view ListHeads();
 
-/// Cuts a list line at fixed positions: the way back from ListLine for files whose fields have the widths of
-/// docs/formats/station-files.md.
-StationSelection ParseListLine(std::string_view line);
-
-/// The selection that a row stands for: cut from its line, or, where the fixed positions do not give back the
-/// record (a file with fields of other widths), the row's own record.
-StationSelection SelectRow(const ListRow& row);
-
 /// Every record of the channel's file with the selection's call sign, hours code and tower count, in file
 /// order, as the file has them. A missing file gives none.
 std::vector<StationRecord> LoadRecords(const DataFolder& folder, float frequency,
@@ -70,10 +63,6 @@ std::vector<StationRecord> LoadRecords(const DataFolder& folder, float frequency
 
 /// Whether some, but not all, of the record's field ratios are 0: such a record is never drawn.
 bool HasBrokenTowers(const StationRecord& record);
-
-/// Height of a list of so many rows in twips, a row being RowTwips high.
-float ListHeight(std::size_t rows);
-inline constexpr float RowTwips = 195;
 
 /// "in the  1230 kHz list"; nothing when the channel's text is shorter than 3 characters.
 std::optional<std::string> ChannelLabel(float frequency);

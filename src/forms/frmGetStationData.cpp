@@ -30,6 +30,16 @@ constexpr double kListOfWindow = 0.3;    // the list takes no more of the height
 constexpr double kLineOfScreen = 0.92;   // a line's heads take no more of the width
 constexpr double kSmallestPoints = 7.5;  // unless they would be too small to read
 
+/// Rows that the list is high, its frame among them; long ones are scrolled through a lower list.
+double RowsHigh(std::size_t rows) {
+  constexpr double kRow = 195;  // twips, as the others
+  constexpr double kLongList = 1600;
+  constexpr double kFrame = 200;
+  constexpr double kHighest = 2700;
+  const double lines = rows < 100 ? static_cast<double>(rows) * kRow : kLongList;
+  return std::min(lines + kFrame, kHighest) / kRow;
+}
+
 /// The list's font, smaller where the screen is too narrow for a whole line.
 QFont ListFont(int screenWidth) {
   QFont courier = QFontDatabase::systemFont(QFontDatabase::FixedFont);
@@ -183,7 +193,7 @@ void frmGetStationData::Search() {
 
 void frmGetStationData::ShowRecord(int row) {
   if (row < 0 || row >= static_cast<int>(rows_.size())) return;
-  const StationSelection selection = SelectRow(rows_[static_cast<std::size_t>(row)]);
+  const StationSelection selection = rows_[static_cast<std::size_t>(row)].Selection;
   if (selection.SelectedCallSign.empty()) return;
   selection_ = selection;
   plot_->Drawing().Clear();
@@ -205,7 +215,7 @@ void frmGetStationData::OpenOnSelection(QDialog&& form) {
 void frmGetStationData::FitList() {
   const int row =
       lstGetData_->count() > 0 ? lstGetData_->sizeHintForRow(0) : lstGetData_->fontMetrics().height();
-  const double rows = double{ListHeight(rows_.size())} / RowTwips;
+  const double rows = RowsHigh(rows_.size());
   const bool scrolls = lstGetData_->sizeHintForColumn(0) > lstGetData_->viewport()->width();
   const int scrollBar = scrolls ? lstGetData_->horizontalScrollBar()->sizeHint().height() : 0;
   const double wanted = rows * row + scrollBar + 2 * lstGetData_->frameWidth();

@@ -1,11 +1,8 @@
-#include "core/Band.h"
 #include "data/StationLookup.h"
 
 #include <gtest/gtest.h>
 
 #include "TestFolder.h"
-#include "core/Numbers.h"
-#include "core/Text.h"
 #include "data/TowerTable.h"
 
 namespace kestrel {
@@ -71,64 +68,22 @@ TEST(StationLookupTest, AThousandRowsFitAndNoMore) {
   EXPECT_EQ(SearchStations(data.Folder(), 600, "QMNY").Message, "There is no data for 600");
 }
 
-TEST(StationLookupTest, AListLineHasFixedColumnsAndComesBack) {
+TEST(StationLookupTest, ARowShowsItsRecordInFixedColumnsAndSelectsIt) {
   TestFolder data;
   data.Put("1230x.dat", kFile);
   const ListRow row = SearchStations(data.Folder(), 1230, "QABC").Rows.at(1);
   EXPECT_EQ(row.Line,
             " QABC    SPRINGFIELD              IL   UNITED STATES N   39.7817     89.6501     .25    2");
-  const StationSelection parsed = ParseListLine(row.Line);
-  EXPECT_EQ(parsed.City, "SPRINGFIELD");
-  EXPECT_EQ(parsed.State, "IL");
-  EXPECT_EQ(parsed.Country, "UNITED STATES");
-  EXPECT_EQ(SelectRow(row).City, "SPRINGFIELD") << "from the line, in capitals";
-
+  EXPECT_EQ(row.Selection.Country, "UNITED STATES") << "in capitals, as the line has it";
   // A country of more than 17 characters is cut, longer fields of other kinds push the rest to the right.
   EXPECT_EQ(ListLine(CutStationLine("1,A,b,c,Country of seventeen and more,U,1,2,3,x,y,4")),
             "A       B                    C    COUNTRY OF SEVENT U   1           2           3      4");
   EXPECT_EQ(ListLine(CutStationLine("1,LONGCALLSIGN,b,c,d,U,1,2,3,x,y,4")).find("B"), 12U);
-}
 
-TEST(StationLookupTest, EveryRecordThatShipsComesBackFromItsListLine) {
-  const DataFolder share(KESTREL_TEST_SHARE);
-  int records = 0;
-  for (float channel = LowestChannel; channel <= HighestChannel; channel += ChannelStep) {
-    const Result<QByteArray> bytes = share.Read(StationFileName(channel));
-    ASSERT_TRUE(bytes) << channel;
-    StationLineReader reader({bytes->constData(), static_cast<std::size_t>(bytes->size())});
-    StationRecord record;
-    while (const auto line = reader.Next()) {
-      const double towers = StoreStationLine(*line, record);
-      const StationSelection parsed = ParseListLine(ListLine(*line));
-      ++records;
-      ASSERT_EQ(parsed.SelectedCallSign, record.CallSign);
-      ASSERT_EQ(parsed.SelectedHoursCode, record.HoursCode) << record.CallSign;
-      ASSERT_EQ(parsed.SelectedTowerCount, towers) << record.CallSign;
-      ASSERT_EQ(parsed.Latitude, record.Latitude) << record.CallSign;
-      ASSERT_EQ(parsed.Longitude, record.Longitude) << record.CallSign;
-      ASSERT_EQ(parsed.PowerKW, record.PowerKW) << record.CallSign;
-    }
-  }
-  EXPECT_GT(records, 10000);
-}
-
-TEST(StationLookupTest, ARowOfOtherWidthsStandsForItsOwnRecord) {
-  TestFolder data;
-  data.Put("1230x.dat", kFile);
-  const ListRow row = SearchStations(data.Folder(), 1230, "WOWN").Rows.at(0);
-  EXPECT_NE(ParseListLine(row.Line).SelectedHoursCode, "N") << "the long city pushed the hours away";
-  const StationSelection selection = SelectRow(row);
-  EXPECT_EQ(selection.SelectedHoursCode, "N");
-  EXPECT_EQ(selection.Latitude, 45.123456F);
-  EXPECT_EQ(selection.Longitude, -73.987654F);
-  EXPECT_EQ(LoadRecords(data.Folder(), 1230, selection).size(), 1U);
-
-  // Without the blanks in front the numbers still land in their columns, the texts do not.
-  data.Put("1240x.dat", "1240,QABC,Springfield,IL,United States,D,40,75,1,-,-,1\n0,1,90,0,0,0\n");
-  const StationSelection narrow = SelectRow(SearchStations(data.Folder(), 1240, "QABC").Rows.at(0));
-  EXPECT_EQ(UpperCase(narrow.City), "SPRINGFIELD");
-  EXPECT_EQ(UpperCase(narrow.State), "IL");
-  EXPECT_EQ(UpperCase(narrow.Country), "UNITED STATES");
+  const StationSelection wide = SearchStations(data.Folder(), 1230, "WOWN").Rows.at(0).Selection;
+  EXPECT_EQ(wide.SelectedHoursCode, "N") << "though the long city pushed it away in the line";
+  EXPECT_EQ(wide.Latitude, 45.123456F);
+  EXPECT_EQ(LoadRecords(data.Folder(), 1230, wide).size(), 1U);
 }
 
 TEST(StationLookupTest, RecordsAreLoadedByCallHoursAndTowers) {
@@ -136,7 +91,7 @@ TEST(StationLookupTest, RecordsAreLoadedByCallHoursAndTowers) {
   data.Put("1230x.dat", kFile);
   const auto load = [&](const char* callSign, std::size_t row) {
     return LoadRecords(data.Folder(), 1230,
-                       SelectRow(SearchStations(data.Folder(), 1230, callSign).Rows.at(row)));
+                       SearchStations(data.Folder(), 1230, callSign).Rows.at(row).Selection);
   };
   const auto day = load("QABC", 0);
   ASSERT_EQ(day.size(), 1U);

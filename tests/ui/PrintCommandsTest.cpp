@@ -81,7 +81,7 @@ class PrintCommandsTest : public ::testing::Test {
   void PrintTheMap() { PrintMap(system_, data_.Folder(), state_, {drawing_, {}}, nullptr); }
   void PrintTheStation() {
     const SearchResult found = SearchStations(data_.Folder(), 1230, "QABC");
-    PrintStation(system_, data_.Folder(), state_, SelectRow(found.Rows.at(0)), nullptr);
+    PrintStation(system_, data_.Folder(), state_, found.Rows.at(0).Selection, nullptr);
   }
 
   /// What was said since the last look.
