@@ -7,6 +7,7 @@
 namespace kestrel {
 
 void DrawStationPlot(Canvas& canvas, float aspectRatio, std::vector<StationRecord> records) {
+  if (records.empty()) DrawUnknownPattern(canvas, aspectRatio);
   const StationRecord* placed = nullptr;  // the last record, if the places of its towers are known
   for (StationRecord& record : records) {
     const bool broken = HasBrokenTowers(record);

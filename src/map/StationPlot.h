@@ -14,7 +14,8 @@ inline constexpr SheetArea StationPlotArea = {300, 3950, 11200, 5100};
 /// Draws the records of one station and hours, each polar plot over the one before, then the spacing rings
 /// with the towers of the last one, and the legend. A record with a tower that lacks its field ratio has no
 /// polar plot, but its towers stand among the rings; one whose pattern cannot be computed says so, and has no
-/// towers. `records` are as the file holds them.
+/// towers; no records are such a one, as when the reader left out one of too many towers. `records` are as
+/// the file holds them.
 void DrawStationPlot(Canvas& canvas, float aspectRatio, std::vector<StationRecord> records);
 
 }  // namespace kestrel

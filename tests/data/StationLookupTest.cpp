@@ -23,6 +23,7 @@ const QByteArray kFile =
     "1230, qlow, SMALL                   , TX  , United States, D, 30, 100, 1,-,-, 0\r\n"
     "1230,WOWN,A city of a very long name indeed,Quebec,Canada,N,45.123456,-73.987654,.5,x,y,1\r\n"
     "0,1,90,0,0,0\r\n"
+    "1230,WMNY,Town,TX,United States,U,30,100,1,-,-,14\r\n"
     "1230,WBRK,Town,TX,United States,U,30,100,1,-,-,3\r\n"
     "0,1,90,0,0,0\r\n"
     "0,0,90,0,90,0\r\n"
@@ -84,6 +85,9 @@ TEST(StationLookupTest, ARowShowsItsRecordInFixedColumnsAndSelectsIt) {
   EXPECT_EQ(wide.SelectedHoursCode, "N") << "though the long city pushed it away in the line";
   EXPECT_EQ(wide.Latitude, 45.123456F);
   EXPECT_EQ(LoadRecords(data.Folder(), 1230, wide).size(), 1U);
+  const StationSelection tooMany = SearchStations(data.Folder(), 1230, "WMNY").Rows.at(0).Selection;
+  EXPECT_EQ(tooMany.SelectedTowerCount, 14);
+  EXPECT_EQ(LoadRecords(data.Folder(), 1230, tooMany).size(), 0U);
 }
 
 TEST(StationLookupTest, RecordsAreLoadedByCallHoursAndTowers) {
