@@ -50,10 +50,11 @@ void DrawScales(Canvas& canvas, const SessionState& state) {
   canvas.Text({patternLeft, kTop}, pattern);
 }
 
-/// The value against `unit`, cut to three decimals and then to 7 characters. Multiplied first: that is exact,
-/// so that only a true fraction is cut off.
+/// The value against `unit`, cut to three decimals and then to 7 characters. The quotient is stored as a
+/// single, so that a value of which a whole number was meant, such as .02 against .25, is not cut to the one
+/// below it.
 std::string ScaleText(double value, double unit) {
-  const double thousandths = std::floor(value * 1000 / unit);
+  const double thousandths = std::floor(static_cast<float>(value * 1000 / unit));
   return std::string(Columns(NumberText(static_cast<float>(thousandths / 1000)), 1, 7));
 }
 

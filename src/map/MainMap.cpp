@@ -21,11 +21,13 @@ class NoMeasure final : public TextMeasure {
   float TextHeight(const Font&) const override { return 0; }
 };
 
-/// The current channel and its neighbours, when they are shown.
+/// The current channel and its neighbours, when they are shown; none outside the band.
 std::vector<float> ShownChannels(const SessionState& state) {
   const float current = state.CurrentFrequency;
-  if (state.AdjacentsShown != 1) return {current};
-  return {current, current - ChannelStep, current + ChannelStep};
+  std::vector<float> channels = {current};
+  if (state.AdjacentsShown == 1) channels = {current, current - ChannelStep, current + ChannelStep};
+  std::erase_if(channels, [](float channel) { return !IsInBand(channel); });
+  return channels;
 }
 
 /// Whether the files are about as long as those of real channels, the longest of which has 50 KB.
@@ -35,15 +37,17 @@ bool AreOrdinary(const std::vector<float>& channels, const DataFolder& folder) {
                      [&](float channel) { return folder.Size(StationFileName(channel)) <= kLong; });
 }
 
-/// Returns what the first channel met, with the notes of all.
+/// Returns whether the current channel's file is missing, and the notes of all.
 ChannelOutcome PlotChannels(Canvas& canvas, const DataFolder& folder, const SessionState& state,
                             const MapProjection& projection, const std::vector<float>& channels) {
-  ChannelOutcome outcome = PlotChannel(canvas, folder, state, projection, channels.front());
-  for (std::size_t i = 1; i < channels.size(); ++i) {
-    const ChannelOutcome adjacent = PlotChannel(canvas, folder, state, projection, channels[i]);
+  ChannelOutcome outcome;
+  for (const float channel : channels) {
+    const ChannelOutcome plotted = PlotChannel(canvas, folder, state, projection, channel);
+    const bool current = channel == state.CurrentFrequency;
+    if (current) outcome.FileMissing = plotted.FileMissing;
     // A neighbour without a file is nothing to speak of, one whose file cannot be read is.
-    if (!adjacent.FileMissing || folder.Has(StationFileName(channels[i])))
-      outcome.Notes.insert(outcome.Notes.end(), adjacent.Notes.begin(), adjacent.Notes.end());
+    if (current || !plotted.FileMissing || folder.Has(StationFileName(channel)))
+      outcome.Notes.insert(outcome.Notes.end(), plotted.Notes.begin(), plotted.Notes.end());
   }
   return outcome;
 }
@@ -71,8 +75,10 @@ std::vector<std::string> DrawMainMap(Canvas& canvas, const DataFolder& folder, c
     outcome = plot(canvas);
   }
   notes.insert(notes.end(), outcome.Notes.begin(), outcome.Notes.end());
-  DrawLegend(canvas, state);
-  DrawHoursBanner(canvas, state.HoursFilter);
+  if (!channels.empty()) {
+    DrawLegend(canvas, state);
+    DrawHoursBanner(canvas, state.HoursFilter);
+  }
   if (outcome.FileMissing) DrawMissingFileNotice(canvas, state.CurrentFrequency);
   if (state.CompassShown == 1) DrawCompass(canvas, state.AspectRatio);
   return notes;

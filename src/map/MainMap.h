@@ -17,8 +17,9 @@ enum class MapGround {
 
 /// Draws the main map as the session has it, from its files: outlines and home mark, the current channel, the
 /// channels 10 kHz beside it when `AdjacentsShown` is 1, the legend, and the compass when `CompassShown`
-/// is 1. A missing station file of the current channel leaves its notice on the map. Returns what the readers
-/// left out, one line each, and files that are there but cannot be read.
+/// is 1. Channels outside the band are passed over; when all are, there is no legend. A missing station file
+/// of the current channel leaves its notice on the map. Returns what the readers left out, one line each, and
+/// files that are there but cannot be read.
 std::vector<std::string> DrawMainMap(Canvas& canvas, const DataFolder& folder, const SessionState& state,
                                      MapGround ground = MapGround::Empty);
 

@@ -23,7 +23,7 @@ TEST(LegendTest, ScaleTextsAreCutNotRounded) {
   const struct {
     float size;
     const char* text;
-  } patterns[] = {{0.25F, "1"}, {0.5F, "2"}, {2, "8"}, {0.3535534F, "1.414"}, {0.7071068F, "2.828"}};
+  } patterns[] = {{0.25F, "1"}, {0.02F, ".08"}, {0.7F, "2.8"}, {0.3535534F, "1.414"}, {0.7071068F, "2.828"}};
   for (const auto& row : patterns) EXPECT_EQ(PatternScaleText(row.size), row.text) << row.size;
   // Each whole thousandth of the map scale is itself, not the one below it.
   for (int thousandth = 320; thousandth <= 64000; ++thousandth) {

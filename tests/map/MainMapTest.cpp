@@ -76,6 +76,19 @@ TEST_F(MainMapTest, AdjacentsFollowWhenShown) {
   EXPECT_EQ(notes_, Texts{});
 }
 
+TEST_F(MainMapTest, AChannelOutsideTheBandHasNeitherStationsNorLegend) {
+  for (const char* name : {"0x.dat", "1700x.dat", "1710x.dat", "5000x.dat"}) files_.Put(name, kStation);
+  state_.HoursFilter = HoursFilter::Day;
+  for (const float channel : {0.0F, 5000.0F, 1710.0F}) {
+    state_.CurrentFrequency = state_.SelectedFrequency = channel;
+    EXPECT_EQ(Draw(), Texts{}) << channel;
+    EXPECT_EQ(canvas_.All("Polyline").size(), 2U);
+  }
+  state_.AdjacentsShown = 1;
+  EXPECT_EQ(Labels(), (Texts{"1700 WXYZ"})) << "beside 1710";
+  EXPECT_EQ(notes_, Texts{});
+}
+
 TEST_F(MainMapTest, AMissingFileLeavesItsNotice) {
   state_.AdjacentsShown = 1;
   files_.Put("1240x.dat", "1240,A,c,s,u,U,1,2,3,-,-,13\n" + kStation);
