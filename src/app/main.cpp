@@ -4,6 +4,8 @@
 
 #include "core/FreedMemory.h"
 #include "data/DataSwap.h"
+#include "forms/GuideKeys.h"
+#include "forms/GuidePages.h"
 #include "forms/frmOpening.h"
 #include "forms/frmPlot.h"
 
@@ -37,6 +39,7 @@ int main(int argc, char** argv) {
     platform.ShowMessage(nullptr, QString::fromStdString(recovered.error().Message()));
   SessionState state;
   const Workspace workspace{state, *folder, platform};
+  const GuideKeys guide(platform, GuideFolders());
 
   std::unique_ptr<frmPlot> plot;
   frmOpening opening(workspace);

@@ -2,6 +2,7 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
 
@@ -81,8 +82,9 @@ frmAbout::frmAbout(const Workspace& workspace, QWidget* parent)
 }
 
 void frmAbout::StartSystemInformation() {
-  if (!workspace_.System.StartSystemInformation())
-    workspace_.System.ShowMessage(this, "System Information Is Unavailable At This Time");
+  workspace_.System.StartSystemInformation([this, there = QPointer<frmAbout>(this)] {
+    if (there) workspace_.System.ShowMessage(this, "System Information Is Unavailable At This Time");
+  });
 }
 
 }  // namespace kestrel

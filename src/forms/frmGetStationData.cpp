@@ -9,7 +9,6 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QShortcut>
 #include <QStyle>
 #include <algorithm>
 
@@ -18,6 +17,7 @@
 #include "forms/frmShowTowers.h"
 #include "map/StationPlot.h"
 #include "ui/Controls.h"
+#include "ui/Keys.h"
 #include "ui/MapSurface.h"
 #include "ui/PrintCommands.h"
 
@@ -131,11 +131,8 @@ void frmGetStationData::LayOutList(QVBoxLayout* rows) {
           &QScrollBar::setValue);
   connect(lstGetData_, &QListWidget::currentRowChanged, this, [this](int row) { ShowRecord(row); });
   connect(lstGetData_, &QListWidget::itemClicked, this, [this] { ShowRecord(lstGetData_->currentRow()); });
-  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
-    auto* enter = new QShortcut(key, lstGetData_);
-    enter->setContext(Qt::WidgetShortcut);
-    connect(enter, &QShortcut::activated, this, [this] { ShowRecord(lstGetData_->currentRow()); });
-  }
+  AddShortcuts(
+      *this, "lstGetData", [this] { ShowRecord(lstGetData_->currentRow()); }, lstGetData_);
   rows->addWidget(heads);
   rows->addWidget(lstGetData_);
 }

@@ -11,6 +11,7 @@
 #include "draw/PainterCanvas.h"
 #include "map/OverviewMap.h"
 #include "ui/Controls.h"
+#include "ui/Keys.h"
 
 namespace kestrel {
 namespace {
@@ -132,9 +133,9 @@ void frmOpening::resizeEvent(QResizeEvent*) {
 }
 
 void frmOpening::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Escape) {
+  if (IsKeyOf(*event, *this, "cmdExit")) {
     close();
-  } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+  } else if (IsKeyOf(*event, *this, "cmdEnter")) {
     Start();
   } else {
     QWidget::keyPressEvent(event);

@@ -1,11 +1,12 @@
 #include "forms/frmShowContext.h"
 
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QPushButton>
 #include <QScreen>
-#include <QShortcut>
 
+#include "ui/AddressNotice.h"
 #include "ui/Controls.h"
+#include "ui/Keys.h"
 #include "ui/MapSurface.h"
 
 namespace kestrel {
@@ -25,21 +26,24 @@ frmShowContext::frmShowContext(const Workspace& workspace, QWidget* parent, cons
   cmdMore_ = MakeButton("cmdMore", "Zoom &in", "Shows the map twice as large (+)",
                         [this] { Zoom(&ContextZoom::ZoomIn); });
   QPushButton* web = MakeButton("cmdMap", "&Google map", "Opens the place in your browser", [this] {
-    workspace_.System.OpenAddress(Text(WebMapAddress(selection_, workspace_.State.MapLanguage)));
+    notice_->Open(workspace_.System, Text(WebMapAddress(selection_, workspace_.State.MapLanguage)));
   });
   QPushButton* close =
       MakeButton("cmdClose", "&Close", "Back to the station's data (Escape)", [this] { accept(); });
-  connect(new QShortcut(Qt::Key_Minus, this), &QShortcut::activated, cmdLess_, &QPushButton::click);
-  for (const Qt::Key key : {Qt::Key_Plus, Qt::Key_Equal})
-    connect(new QShortcut(key, this), &QShortcut::activated, cmdMore_, &QPushButton::click);
+  AddShortcuts(*this, "cmdLess", [this] { cmdLess_->click(); });
+  AddShortcuts(*this, "cmdMore", [this] { cmdMore_->click(); });
   map_->WheelTurned = [this](int steps) { (steps > 0 ? cmdMore_ : cmdLess_)->click(); };
 
   auto* column = new QVBoxLayout;
   for (QPushButton* button : {cmdLess_, cmdMore_, web, close}) column->addWidget(button);
   column->addStretch();
-  auto* layout = new QHBoxLayout(this);
-  layout->addWidget(map_, 1);
-  layout->addLayout(column);
+  notice_ = new AddressNotice;
+  auto* layout = new QGridLayout(this);
+  layout->addWidget(map_, 0, 0);
+  layout->addLayout(column, 0, 1);
+  layout->addWidget(notice_, 1, 0, 1, 2);
+  layout->setColumnStretch(0, 1);
+  layout->setRowStretch(0, 1);
   resize(screen()->availableSize() * kOfScreen);
   cmdMore_->setFocus();
   Draw();

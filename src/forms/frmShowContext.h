@@ -8,6 +8,7 @@ class QPushButton;
 
 namespace kestrel {
 
+class AddressNotice;
 class MapSurface;
 
 /// Coasts and borders around the selected station, with a way to the same place on a web map.
@@ -22,6 +23,7 @@ class frmShowContext final : public Form {
   StationSelection selection_;
   ContextZoom zoom_;
   MapSurface* map_;
+  AddressNotice* notice_;
   QPushButton* cmdLess_;
   QPushButton* cmdMore_;
 };

@@ -2,7 +2,6 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -11,6 +10,7 @@
 #include "draw/Fonts.h"
 #include "map/TowerSheet.h"
 #include "ui/Controls.h"
+#include "ui/Keys.h"
 #include "ui/MapSurface.h"
 
 namespace kestrel {
@@ -39,13 +39,14 @@ frmShowTowers::frmShowTowers(const Workspace& workspace, QWidget* parent, const 
   for (const StationRecord& record :
        LoadRecords(workspace.Folder, workspace.State.CurrentFrequency, selection))
     rows = TowerTable(record);
-  text_ = Text(TowerTableText(rows));
+  const QString text = Text(TowerTableText(rows));
 
   auto* table = new MapSurface(this, TowerSheetArea(twips), kSmallestXHeight);
   table->setObjectName("Table");
   table->setAccessibleName("Towers");
-  table->setAccessibleDescription(text_);
-  table->setToolTip("Ctrl+C copies the table");
+  table->setAccessibleDescription(text);
+  table->setToolTip(KeysOf(*this, "Table").Tip());
+  AddShortcuts(*this, "Table", [text] { QGuiApplication::clipboard()->setText(text); });
   DrawTowerSheet(table->Drawing(), twips, rows);
   table->ShowDrawing();
   table->setMinimumSize(LegibleSize(twips).boundedTo(screen()->availableSize() * 0.9));
@@ -58,13 +59,6 @@ frmShowTowers::frmShowTowers(const Workspace& workspace, QWidget* parent, const 
   layout->addWidget(table, 1);
   layout->addWidget(close, 0, Qt::AlignLeft);
   resize(screenSize / 2);
-}
-
-void frmShowTowers::keyPressEvent(QKeyEvent* event) {
-  if (event->matches(QKeySequence::Copy))
-    QGuiApplication::clipboard()->setText(text_);
-  else
-    QDialog::keyPressEvent(event);
 }
 
 }  // namespace kestrel

@@ -6,6 +6,8 @@
 
 #include "core/Hours.h"
 #include "core/Numbers.h"
+#include "core/Text.h"
+#include "data/PlaceLists.h"
 #include "data/TowerTable.h"
 #include "map/MapProjection.h"
 #include "map/Outlines.h"
@@ -58,6 +60,16 @@ std::string ChannelsOn(const ShownMap& map, const SessionState& state) {
   std::erase_if(channels, [chosen](int channel) { return static_cast<float>(channel) == chosen; });
   const std::string text = NumberText(chosen) + " kHz";
   return channels.empty() ? text : text + " with " + ChannelsText(channels);
+}
+
+/// "1510 kHz Wichita", after the city of home; without a name the first words alone.
+std::string DocumentName(const std::string& what, const SessionState& state) {
+  const std::string city(Trim(SplitPlaceName(state.HomeName).first));
+  return city.empty() ? what : what + ' ' + city;
+}
+
+std::string ChosenChannel(const SessionState& state) {
+  return NumberText(state.SelectedFrequency > 0 ? state.SelectedFrequency : state.CurrentFrequency) + " kHz";
 }
 
 /// The area shown, or more of the map around it where the place is larger, so that text keeps its 8 to 10
@@ -175,7 +187,12 @@ PrintedPage MapPage(const SessionState& state, const DataFolder& folder, const S
     return TitledMap(page, title, source, map.Area,
                      [&drawing = map.Drawing](Canvas& canvas) { drawing.Play(canvas); });
   };
-  return {"KestrelII map", true, kSmallestMap, kSmallestMap, layout, GreysOf(state)};
+  return {DocumentName(map.Scanned ? "All stations" : ChosenChannel(state), state),
+          true,
+          kSmallestMap,
+          kSmallestMap,
+          layout,
+          GreysOf(state)};
 }
 
 PrintedPage OutlinePage(const SessionState& state, const DataFolder& folder) {
@@ -184,7 +201,7 @@ PrintedPage OutlinePage(const SessionState& state, const DataFolder& folder) {
     return TitledMap(page, title, {}, {},
                      [projection, &folder](Canvas& canvas) { DrawOutlineFiles(canvas, folder, projection); });
   };
-  return {"KestrelII outline map", true, kSmallestMap, kSmallestMap, layout, GreysOf(state)};
+  return {DocumentName("Region 2", state), true, kSmallestMap, kSmallestMap, layout, GreysOf(state)};
 }
 
 PrintedPage StationPage(const SessionState& state, const DataFolder& folder,
@@ -212,8 +229,12 @@ PrintedPage StationPage(const SessionState& state, const DataFolder& folder,
     return std::vector<PagePane>{
         {plot, StationPlotArea, drawPlot}, WordsPane(words, state, shown, source), TablePane(table, rows)};
   };
-  return {"KestrelII station data", false,  kSmallestStation,
-          kSmallestWideStation,     layout, StationPlotGreys()};
+  return {selection.SelectedCallSign + ' ' + NumberText(state.CurrentFrequency) + " kHz",
+          false,
+          kSmallestStation,
+          kSmallestWideStation,
+          layout,
+          StationPlotGreys()};
 }
 
 PageSize LayoutSize(const PrintedPage& page, PageSize paper) {

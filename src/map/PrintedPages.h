@@ -36,7 +36,7 @@ inline bool IsWide(PageSize paper) {
 
 /// One printed page.
 struct PrintedPage {
-  std::string Name;       ///< of the document, as print queues show it
+  std::string Name;  ///< of the document, "1510 kHz Wichita": print queues show it, a file is offered by it
   bool Landscape = true;  ///< how it is offered first
   // On smaller paper the page is laid out in this size and shrunk.
   PageSize Smallest;

@@ -2,10 +2,10 @@
 
 #include <QPushButton>
 #include <QScrollBar>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "ui/Controls.h"
+#include "ui/Keys.h"
 
 namespace kestrel {
 
@@ -19,15 +19,11 @@ CommandColumn::CommandColumn(QWidget* parent) : QScrollArea(parent), column_(new
   setFocusPolicy(Qt::NoFocus);
 }
 
-QPushButton* CommandColumn::AddCommand(const char* name, const QString& caption, const QString& tip,
-                                       const QList<QKeySequence>& shortcuts, std::function<void()> action) {
-  QPushButton* button = MakeButton(
-      name, caption,
-      shortcuts.isEmpty() ? tip : tip + " (" + shortcuts.front().toString(QKeySequence::NativeText) + ')',
-      std::move(action));
+QPushButton* CommandColumn::AddCommand(const char* name, const QString& caption,
+                                       std::function<void()> action) {
+  QPushButton* button = MakeButton(name, caption, KeysOf(*window(), name).Tip(), std::move(action));
   button->setAutoDefault(true);  // Enter presses it too
-  for (const QKeySequence& keys : shortcuts)
-    connect(new QShortcut(keys, window()), &QShortcut::activated, button, &QPushButton::click);
+  AddShortcuts(*window(), name, [button] { button->click(); });
   layout_->addWidget(button);
   return button;
 }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QKeySequence>
-#include <QList>
 #include <QScrollArea>
 #include <functional>
 
@@ -15,9 +13,9 @@ class CommandColumn final : public QScrollArea {
  public:
   explicit CommandColumn(QWidget* parent = nullptr);
 
-  /// Adds a button. Its shortcuts work in the whole window while the button is enabled, and stand in its tip.
-  QPushButton* AddCommand(const char* name, const QString& caption, const QString& tip,
-                          const QList<QKeySequence>& shortcuts, std::function<void()> action);
+  /// Adds a button. Its keys and its tip are those of the window's command of that name; the keys work in the
+  /// whole window while the button is enabled.
+  QPushButton* AddCommand(const char* name, const QString& caption, std::function<void()> action);
 
   /// Leaves some room before the next command.
   void AddGap();

@@ -6,14 +6,15 @@
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QMessageBox>
-#include <QProcess>
 #include <QRegularExpression>
+#include <QStandardPaths>
 #include <QThread>
 #include <QUrl>
 #include <chrono>
 
 #include "draw/PainterCanvas.h"
 #include "ui/PrintPreview.h"
+#include "ui/ProgramStart.h"
 #include "ui/SystemInformation.h"
 
 namespace kestrel {
@@ -52,17 +53,21 @@ QString DesktopPlatform::ChooseFileToWrite(QWidget* parent, const QString& title
   return QFileDialog::getSaveFileName(parent, title, offered);
 }
 
-void DesktopPlatform::OpenAddress(const QString& address) {
+void DesktopPlatform::OpenAddress(const QString& address, const std::function<void()>& failed) {
   // One percent sign that begins no code makes QUrl encode them all, those of true codes too.
   static const QRegularExpression kLonePercent("%(?![0-9A-Fa-f]{2})");
   QString tidy = address;
   tidy.replace(kLonePercent, "%25");
-  QDesktopServices::openUrl(QUrl(tidy, QUrl::TolerantMode));
+  const QUrl url(tidy, QUrl::TolerantMode);
+  // Qt starts the desktop's opener too, but does not hear that it found no browser.
+  const QString opener = QStandardPaths::findExecutable("xdg-open");
+  if (!opener.isEmpty()) return StartProgram({opener, {QString::fromLatin1(url.toEncoded())}}, failed);
+  if (!QDesktopServices::openUrl(url)) failed();
 }
 
-bool DesktopPlatform::StartSystemInformation() {
+void DesktopPlatform::StartSystemInformation(const std::function<void()>& failed) {
   const std::optional<ProgramCall> tool = FindSystemInformation();
-  return tool && QProcess::startDetached(tool->Program, tool->Arguments);
+  tool ? StartProgram(*tool, failed) : failed();
 }
 
 void DesktopPlatform::Pause(double seconds) {

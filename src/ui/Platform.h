@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <functional>
 #include <optional>
 
 #include "core/SessionState.h"
@@ -32,11 +33,12 @@ class Platform {
   virtual QString ChooseFileToWrite(QWidget* parent, const QString& title, const QString& offered) = 0;
 
   /// Lets the platform open a web address; what an address cannot hold is encoded, the rest goes as it
-  /// stands. Failures are silent.
-  virtual void OpenAddress(const QString& address) = 0;
+  /// stands. `failed` is called, perhaps later, when no program took it.
+  virtual void OpenAddress(const QString& address, const std::function<void()>& failed) = 0;
 
-  /// Starts the system's own information tool; false when there is none.
-  virtual bool StartSystemInformation() = 0;
+  /// Starts the system's own information tool. `failed` is called when there is none, or later when it has
+  /// ended at once with an error.
+  virtual void StartSystemInformation(const std::function<void()>& failed) = 0;
 
   /// Lets pending events be processed once, then waits.
   virtual void Pause(double seconds) = 0;
@@ -56,8 +58,8 @@ class DesktopPlatform final : public Platform {
   std::optional<ColorValue> ChooseColor(QWidget* parent, const QString& title, ColorValue current) override;
   QStringList ChooseFiles(QWidget* parent, const QString& title) override;
   QString ChooseFileToWrite(QWidget* parent, const QString& title, const QString& offered) override;
-  void OpenAddress(const QString& address) override;
-  bool StartSystemInformation() override;
+  void OpenAddress(const QString& address, const std::function<void()>& failed) override;
+  void StartSystemInformation(const std::function<void()>& failed) override;
   void Pause(double seconds) override;
   void ProcessEvents() override;
   std::optional<PrintOrder> OfferPrinting(QWidget* parent, const PrintOffer& offer) override;

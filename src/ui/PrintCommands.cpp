@@ -22,6 +22,7 @@ void PrintOutlines(Platform& system, const DataFolder& folder, PrintDevice& devi
   const PrintEnd end = PrintPage(device, page);
   if (end == PrintEnd::NotOpened) system.ShowMessage(parent, "Printer Error");
   if (end == PrintEnd::Failed) system.ShowMessage(parent, problem);
+  if (end == PrintEnd::Printed) system.ShowMessage(parent, "Outline map printed");
 }
 
 }  // namespace
@@ -42,8 +43,9 @@ void PrintStation(Platform& system, const DataFolder& folder, const SessionState
   const std::vector<StationRecord> records = LoadRecords(folder, state.CurrentFrequency, selection);
   const PrintOffer offer{StationPage(state, folder, selection, records), std::nullopt};
   const std::optional<PrintOrder> order = system.OfferPrinting(parent, offer);
-  if (order && PrintPage(*order->Device, offer.Page) != PrintEnd::Printed)
-    system.ShowMessage(parent, "Printer Error");
+  if (!order) return;
+  const bool printed = PrintPage(*order->Device, offer.Page) == PrintEnd::Printed;
+  system.ShowMessage(parent, printed ? "Station data printed" : "Printer Error");
 }
 
 }  // namespace kestrel

@@ -3,7 +3,10 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
+#include <QDir>
+#include <QFileInfo>
 #include <QHBoxLayout>
+#include <QLineEdit>
 #include <QLocale>
 #include <QPageSetupDialog>
 #include <QPainter>
@@ -22,9 +25,18 @@ namespace {
 
 constexpr double kMarginInches = 0.4;
 
+/// Lets a print into a file be offered under the document's name, in the folder that the dialog offers. The
+/// platform's own way works on some of its displays only.
+void OfferFile(QPrintDialog& dialog, const std::string& document) {
+  auto* file = dialog.findChild<QLineEdit*>("filename");
+  if (!file) return;
+  const QString shown = file->text();
+  const QString folder = QFileInfo(shown).isDir() ? shown : QFileInfo(shown).path();
+  file->setText(QDir(folder).filePath(PdfFileName(document)));
+}
+
 std::unique_ptr<QPrinter> MakePrinter(const PrintedPage& page) {
   auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
-  printer->setDocName(Text(page.Name));
   printer->setCreator("KestrelII");
   const bool letter = QLocale().measurementSystem() == QLocale::ImperialUSSystem;
   // A printer of the platform knows its paper; a file takes the paper of the country.
@@ -92,7 +104,10 @@ class PrintPreview final : public QDialog {
   QHBoxLayout* MakeButtons() {
     auto* row = new QHBoxLayout;
     QPushButton* print = MakeButton("cmdPrint", "&Print...", "Chooses the printer and prints", [this] {
+      const std::string& document = (WantsOutlines() ? *offer_.Outlines : offer_.Page).Name;
+      printer_.setDocName(Text(document));
       QPrintDialog dialog(&printer_, this);
+      OfferFile(dialog, document);
       FitToScreen(dialog);
       if (dialog.exec() == QDialog::Accepted) accept();
     });

@@ -40,6 +40,19 @@ bool PrinterDevice::Failed() const {
   return !file.isEmpty() && !IsWholePdf(file);
 }
 
+QString PdfFileName(const std::string& document) {
+  constexpr qsizetype kLongest = 100;
+  static const QString kForbidden = "/\\:*?\"<>|";
+  QString name = QString::fromStdString(document).left(kLongest);
+  for (QChar& character : name)
+    if (!character.isPrint() || kForbidden.contains(character)) character = '-';
+  name = name.simplified();
+  while (name.startsWith('.')) name.remove(0, 1);
+  while (name.endsWith('.')) name.chop(1);
+  name = name.trimmed();
+  return (name.isEmpty() ? "Page" : name) + ".pdf";
+}
+
 PrintEnd PrintPage(PrintDevice& device, const PrintedPage& page) {
   QPagedPaintDevice& paper = device.Paper();
   QPainter painter;

@@ -50,6 +50,11 @@ enum class PrintEnd {
   Failed,     ///< it failed on the way
 };
 
+/// The name under which a document is offered as a file: "1510 kHz Wichita.pdf". What the names of files
+/// cannot hold on every system is a "-", blanks and points at the ends are left out, the rest is cut after
+/// 100 characters; a name of nothing else is "Page.pdf".
+QString PdfFileName(const std::string& document);
+
 /// Prints one page within the paper's margins.
 PrintEnd PrintPage(PrintDevice& device, const PrintedPage& page);
 

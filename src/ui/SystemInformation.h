@@ -5,16 +5,11 @@
 #include <functional>
 #include <optional>
 
+#include "ui/ProgramStart.h"
+
 // Where the system's own information tool is found.
 
 namespace kestrel {
-
-/// A program to start.
-struct ProgramCall {
-  QString Program;  ///< its path
-  QStringList Arguments;
-  bool operator==(const ProgramCall&) const = default;
-};
 
 /// The tool of the system that the program runs on.
 std::optional<ProgramCall> FindSystemInformation();

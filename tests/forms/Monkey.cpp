@@ -29,11 +29,11 @@ const QStringList kTexts = {"",       "0",         "-0",        "620",       "12
                             "inf",    "1e400",     "1e-400",    "QDN630",    "q",    "Pl",  "%s%n", "\t\n\r",
                             "\u0661", "\u202Eabc", "K\u00D6LN", "a b'c\"d;", "qarr"};
 
-const QStringList kKeys = {"Tab",    "Tab",    "Shift+Backtab", "Return",     "Enter",     "Space",
-                           "Esc",    "Up",     "Down",          "Left",       "Right",     "PgUp",
-                           "PgDown", "Home",   "End",           "Del",        "Backspace", "+",
-                           "-",      "=",      "Shift+Up",      "Shift+Down", "F1",        "Menu",
-                           "Ctrl+A", "Ctrl+C", "Ctrl+X",        "Ctrl+Z",     "Print",     "Ctrl+Q"};
+const QStringList kKeys = {
+    "Tab",    "Tab",    "Shift+Backtab", "Return",     "Enter", "Space", "Esc",    "Up",        "Down",
+    "Left",   "Right",  "PgUp",          "PgDown",     "Home",  "End",   "Del",    "Backspace", "+",
+    "-",      "=",      "Shift+Up",      "Shift+Down", "F1",    "?",     "Ctrl+F", "Alt+Left",  "Menu",
+    "Ctrl+A", "Ctrl+C", "Ctrl+X",        "Ctrl+Z",     "Print", "Ctrl+Q"};
 
 /// The controls of a window that a user can reach, in the window's order.
 template <typename Control>
@@ -48,10 +48,12 @@ QList<Control*> Usable(QWidget& window) {
 /// The window that a user could work in, of several any; nullptr: none is open.
 QWidget* WindowInReach(const std::function<int(int)>& below) {
   if (QWidget* popup = QApplication::activePopupWidget()) return popup;
-  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+  const QWidget* modal = QApplication::activeModalWidget();
   QWidgetList windows = QApplication::topLevelWidgets();
-  windows.removeIf(
-      [](QWidget* window) { return !window->isVisible() || window->windowType() == Qt::ToolTip; });
+  windows.removeIf([modal](QWidget* window) {
+    if (!window->isVisible() || window->windowType() == Qt::ToolTip) return true;
+    return modal != nullptr && window != modal && window->objectName() != "frmGuide";
+  });
   if (windows.isEmpty()) return nullptr;
   // The order of the list is that of addresses.
   std::sort(windows.begin(), windows.end(),

@@ -46,14 +46,17 @@ class Monkey final : public QObject, public Platform {
   std::optional<ColorValue> ChooseColor(QWidget* parent, const QString& title, ColorValue current) override;
   QStringList ChooseFiles(QWidget* parent, const QString& title) override;
   QString ChooseFileToWrite(QWidget* parent, const QString& title, const QString& offered) override;
-  void OpenAddress(const QString&) override {}
-  bool StartSystemInformation() override { return Below(2) == 0; }
+  void OpenAddress(const QString&, const std::function<void()>& failed) override { FailOrNot(failed); }
+  void StartSystemInformation(const std::function<void()>& failed) override { FailOrNot(failed); }
   void Pause(double) override {}
   void ProcessEvents() override;
   std::optional<PrintOrder> OfferPrinting(QWidget* parent, const PrintOffer& offer) override;
 
  private:
   int Below(int limit) { return static_cast<int>(random_() % static_cast<unsigned>(limit)); }
+  void FailOrNot(const std::function<void()>& failed) {
+    if (Below(2) == 0) failed();
+  }
   template <typename List>
   auto& OneOf(List& list) {
     return list[static_cast<typename List::size_type>(Below(static_cast<int>(list.size())))];

@@ -12,6 +12,8 @@
 
 #include "AddressSanitizer.h"
 #include "core/SessionFile.h"
+#include "forms/GuideKeys.h"
+#include "forms/GuidePages.h"
 #include "forms/Monkey.h"
 #include "forms/frmOpening.h"
 #include "forms/frmPlot.h"
@@ -44,7 +46,8 @@ std::size_t BytesHeld() {
 /// One life of the program, from the opening screen until its last window is closed.
 class Life final : public QObject {
  public:
-  Life(const DataFolder& folder, Platform& platform) : workspace_{state_, folder, platform} {
+  Life(const DataFolder& folder, Platform& platform)
+      : workspace_{state_, folder, platform}, guide_(platform, GuideFolders()) {
     qApp->installEventFilter(this);
     opening_ = std::make_unique<frmOpening>(workspace_);
     opening_->Started = [this] {
@@ -70,6 +73,7 @@ class Life final : public QObject {
  private:
   SessionState state_;
   Workspace workspace_;
+  GuideKeys guide_;
   std::unique_ptr<frmOpening> opening_;
   std::unique_ptr<frmPlot> plot_;
 };

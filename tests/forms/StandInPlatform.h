@@ -19,6 +19,7 @@ class StandInPlatform final : public Platform {
   // What it answers.
   std::optional<ColorValue> NextColor;  ///< nothing: the colour dialog is cancelled
   bool HasSystemInformation = false;
+  bool HasBrowser = true;
   QStringList NextFiles;    ///< what the dialog for files gives; none: it is cancelled
   QString NextFileToWrite;  ///< likewise
   std::function<std::optional<PrintOrder>(const PrintOffer&)> NextPrint;  ///< none: printing is cancelled
@@ -39,10 +40,12 @@ class StandInPlatform final : public Platform {
   }
   QStringList ChooseFiles(QWidget*, const QString&) override { return NextFiles; }
   QString ChooseFileToWrite(QWidget*, const QString&, const QString&) override { return NextFileToWrite; }
-  void OpenAddress(const QString& address) override { Addresses << address; }
-  bool StartSystemInformation() override {
-    if (HasSystemInformation) ++SystemInformationStarts;
-    return HasSystemInformation;
+  void OpenAddress(const QString& address, const std::function<void()>& failed) override {
+    Addresses << address;
+    if (!HasBrowser) failed();
+  }
+  void StartSystemInformation(const std::function<void()>& failed) override {
+    HasSystemInformation ? void(++SystemInformationStarts) : failed();
   }
   void Pause(double seconds) override { PausedSeconds += seconds; }
   std::optional<PrintOrder> OfferPrinting(QWidget*, const PrintOffer& offer) override {

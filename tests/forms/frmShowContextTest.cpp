@@ -66,10 +66,16 @@ TEST_F(frmShowContextTest, KeysZoomAndOnlyItsButtonOpensTheWebMap) {
     for (int i = 0; i < 9; ++i) QTest::keyClick(form.focusWidget(), Qt::Key_Space);
     EXPECT_EQ(System.Addresses, QStringList());
     Press(form, "cmdMap");
+    ASSERT_EQ(System.Addresses.size(), 1);
+    auto* notice = Find<QLabel>(form, "lblAddress");
+    EXPECT_FALSE(notice->isVisible());
+    System.HasBrowser = false;
+    Press(form, "cmdMap");
+    EXPECT_TRUE(notice->isVisible());
+    EXPECT_TRUE(notice->text().endsWith(' ' + System.Addresses[0])) << notice->text().toStdString();
     Press(form, "cmdClose");
   });
-  EXPECT_EQ(System.Addresses,
-            QStringList("http://maps.google.com/maps?hl=es&q=40.5,+-75.25+%28QABC - NEW TOWN%29"));
+  EXPECT_EQ(System.Addresses[0], "http://maps.google.com/maps?hl=es&q=40.5,+-75.25+%28QABC - NEW TOWN%29");
 }
 
 }  // namespace

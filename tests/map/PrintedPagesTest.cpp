@@ -52,6 +52,12 @@ TEST(PrintedPagesTest, TheMapPageRepeatsTheDrawingUnderItsTitle) {
   EXPECT_EQ(title({}, true), "No stations");
   state.SelectedFrequency = 790;
   EXPECT_EQ(title({620, 790}, false), "790 kHz with 620 kHz");
+
+  const DisplayList drawing(measure);
+  EXPECT_EQ(MapPage(state, data.Folder(), {drawing, {}}).Name, "790 kHz Plano");
+  EXPECT_EQ(MapPage(state, data.Folder(), {drawing, {}, true}).Name, "All stations Plano");
+  state.HomeName.clear();
+  EXPECT_EQ(OutlinePage(state, data.Folder()).Name, "Region 2");
 }
 
 TEST(PrintedPagesTest, ThePageHoldsAllThatTheWindowShows) {
@@ -111,6 +117,8 @@ TEST(PrintedPagesTest, TheStationPageTellsTheRecordInWords) {
   }
   const auto texts = TextsOf(StationPage(state, data.Folder(), selection, {}), kLetterPortrait);
   EXPECT_EQ(std::count(texts.begin(), texts.end(), "No towers are known"), 1);
+
+  EXPECT_EQ(page.Name, "QABC 1230 kHz");
 
   const PageSize small = LayoutSize(page, {5000, 8000});
   EXPECT_NEAR(small.Width / small.Height, 5000 / 8000.0, 1e-4);

@@ -5,6 +5,8 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QDir>
+#include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrintPreviewWidget>
 #include <QTest>
@@ -115,6 +117,11 @@ TEST_F(PrintPreviewTest, CancellingThePrintDialogLeadsBackAndAcceptingItOrders) 
     EXPECT_TRUE(preview.isVisible());
     Press(preview, "chkOutlineMap");
     PressPrint(preview, [&path](QPrintDialog& dialog) {
+      EXPECT_EQ(dialog.printer()->docName(), "Outlines");
+      auto* file = dialog.findChild<QLineEdit*>("filename");
+      ASSERT_NE(file, nullptr);
+      EXPECT_EQ(QFileInfo(file->text()).fileName(), "Outlines.pdf");
+      EXPECT_TRUE(QFileInfo(file->text()).dir().exists()) << file->text().toStdString();
       dialog.printer()->setOutputFileName(path);
       static_cast<QDialog&>(dialog).done(QDialog::Accepted);
     });
@@ -125,6 +132,17 @@ TEST_F(PrintPreviewTest, CancellingThePrintDialogLeadsBackAndAcceptingItOrders) 
   const PdfPage page = ReadPdf(path);
   EXPECT_EQ(page.Pages, 1);
   EXPECT_LT(page.Size.width(), page.Size.height()) << "upright, as was chosen in the preview";
+}
+
+TEST(PdfFileNameTest, HoldsWhatEveryFileSystemTakes) {
+  const std::pair<std::string, QString> rows[] = {{"1510 kHz Wichita", "1510 kHz Wichita.pdf"},
+                                                  {"620 kHz St. Louis", "620 kHz St. Louis.pdf"},
+                                                  {"620 kHz A/B\\C: \"D\"?\n", "620 kHz A-B-C- -D---.pdf"},
+                                                  {"...", "Page.pdf"},
+                                                  {"  .profile. ", "profile.pdf"},
+                                                  {"\xC3\x91", QString(QChar(0xD1)) + ".pdf"},
+                                                  {std::string(300, 'x'), QString(100, 'x') + ".pdf"}};
+  for (const auto& [document, file] : rows) EXPECT_EQ(PdfFileName(document), file) << document;
 }
 
 TEST_F(PrintPreviewTest, AStationHasNoOutlineMapBesideIt) {
