@@ -7,6 +7,7 @@
 #include <QScrollArea>
 
 #include "core/Notices.h"
+#include "forms/GuideKeys.h"
 #include "map/AboutPictures.h"
 #include "ui/Controls.h"
 #include "ui/MapSurface.h"
@@ -63,6 +64,8 @@ frmAbout::frmAbout(const Workspace& workspace, QWidget* parent)
   buttons->addStretch();
   buttons->addWidget(MakeButton("cmdSysInfo", "&System Info", "Starts the system's own information tool",
                                 [this] { StartSystemInformation(); }));
+  buttons->addWidget(
+      MakeButton("cmdGuide", "&Guide", "Opens the guide (F1)", [this] { AskForGuide(*this); }));
   buttons->addWidget(exit);
 
   const SessionState& state = workspace_.State;

@@ -29,12 +29,12 @@ struct Placement {
 constexpr double kNoticeText = 210;
 const std::array kPlacements = {
     Placement{"Label1", {10, 1020, 11980, 1800}, 1300},
-    Placement{"lblNorthAmerica", {10, 2920, 11980, 480}, 330},
+    Placement{"lblNorthAmerica", {10, 2920, 11980, 480}, 260},
     Placement{"lblVersion", {10, 3600, 11980, 360}, 260},
     Placement{"lblMakers", {10, 5100, 11980, 360}, kNoticeText},
     Placement{"cmdEnter", {5160, 6000, 1680, 400}, kNoticeText},
     Placement{"cmdExit", {5160, 6500, 1680, 400}, kNoticeText},
-    Placement{"lblStations", {10, 7500, 11980, 360}, kNoticeText},
+    Placement{"lblStations", {10, 7500, 11980, 360}, 290},
 };
 
 Point PointAt(const QPointF& place) {
@@ -61,8 +61,12 @@ frmOpening::frmOpening(const Workspace& workspace) : MapSurface(nullptr, kDesign
   QLabel* version =
       AddLabel("lblVersion", "Version " + Text(workspace_.State.ProgramVersion), FontFace::Sans);
   version->installEventFilter(this);
-  AddLabel("lblMakers", "Made by the KestrelII authors; free software under the MIT licence", FontFace::Sans);
-  AddLabel("lblStations", Text(workspace_.Folder.StationsLine()), FontFace::Sans);
+  AddLabel("lblMakers",
+           "Made by the KestrelII authors; free software under the MIT licence; F1 opens the guide",
+           FontFace::Sans);
+  // What the listener must not miss under a title that speaks of the FCC.
+  AddLabel("lblStations", Text(workspace_.Folder.StationsLine()), FontFace::SansBold)
+      ->setStyleSheet("color: #ffe066; background: transparent");
   QPushButton* start = MakeButton("cmdEnter", "&Start", {}, [this] { Start(); });
   QPushButton* exit = MakeButton("cmdExit", "E&xit", {}, [this] { close(); });
   for (QPushButton* button : {start, exit}) {
