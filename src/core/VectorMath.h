@@ -25,17 +25,18 @@ constexpr double RoundingShift = 0x1.8p52;
 
 /// Sine and cosine of r + n pi / 2, n the whole number in the last bits of `shifted`; |r| at most pi / 4.
 ///
-/// The polynomials are Chebyshev fits of sin r and of (cos r - 1 + r^2 / 2) / r^4, exact at 0; the results are
-/// within 3.5e-12. A term more in each would make it 2e-14, which no user of them needs.
+/// The polynomials are Chebyshev fits of sin r and of (cos r - 1 + r^2 / 2) / r^4, exact at 0; the results
+/// are within 3.5e-12. A term more in each would make it 2e-14, which no user of them needs.
 static inline SineCosine OfQuadrant(double r, double shifted) {
   const double z = r * r;
   const double s =
       r * (0.9999999999956731 +
            z * (-0.16666666631591165 +
                 z * (0.00833332878245888 + z * (-0.000198392022122311 + z * 2.7173456841089953e-06))));
-  const double c = 1 + z * (-0.5 + z * (0.0416666666643212 +
-                                        z * (-0.001388888767201679 +
-                                             z * (2.480060037715673e-05 - z * 2.730095920390147e-07))));
+  const double c =
+      1 +
+      z * (-0.5 + z * (0.0416666666643212 + z * (-0.001388888767201679 +
+                                                 z * (2.480060037715673e-05 - z * 2.730095920390147e-07))));
   const auto n = std::bit_cast<std::uint64_t>(shifted);
   const std::uint64_t quadrant = n << 62;
   const std::uint64_t minus = quadrant & std::uint64_t{1} << 63;

@@ -29,7 +29,7 @@ class Widths {
     float width = 0;
     for (const char c : text) {
       if (c < ' ' || c > '~') return measure_.TextWidth(font_, text);
-      width += letters_[static_cast<std::size_t>(c)];
+      width += letters_[static_cast<unsigned char>(c)];
     }
     return width;
   }

@@ -132,8 +132,10 @@ void RasterCanvas::DrawText(Point topLeft, std::string_view text, bool rimmed) {
   LayInk();
   if (GlyphCache::Knows(text)) {
     const double rim = std::round(view_.PixelSize());
-    for (int i = 0; rimmed && i < 9; ++i)
-      style.glyphs->Draw(image_, top_, {at.x + rim * (i % 3 - 1), at.y + rim * (i / 3 - 1)}, kWhite, text);
+    if (rimmed)
+      for (const double down : {-rim, 0.0, rim})
+        for (const double across : {-rim, 0.0, rim})
+          style.glyphs->Draw(image_, top_, {at.x + across, at.y + down}, kWhite, text);
     return style.glyphs->Draw(image_, top_, {at.x, at.y}, color_, text);
   }
   QPainter painter(&image_);

@@ -33,8 +33,9 @@ bool CanSweep(const SweepTower* towers, int count);
 ///
 /// The results are the straight way's singles, bit for bit: every value carries a bound on what the two ways
 /// can differ by, and where a single would round differently within that bound, the magnitude is -1 and the
-/// caller computes that azimuth the straight way. That happens about once in 300 azimuths of real arrays, whose
-/// nulls are deep, and always where the magnitude is below 6e-5 of the fields. Returns whether no magnitude is -1. REQUIRES: CanSweep.
+/// caller computes that azimuth the straight way. That happens about once in 300 azimuths of real arrays,
+/// whose nulls are deep, and always where the magnitude is below 6e-5 of the fields. Returns whether no
+/// magnitude is -1. REQUIRES: CanSweep.
 bool SweepPattern(const SweepTower* towers, int count, float* magnitudes);
 
 }  // namespace KESTREL_KERNELS
