@@ -31,7 +31,8 @@ GuideKeys::~GuideKeys() {
 bool GuideKeys::eventFilter(QObject* watched, QEvent* event) {
   if (!watched->isWidgetType()) return false;
   auto& widget = static_cast<QWidget&>(*watched);
-  if (event->type() == QEvent::Hide && guide_ && widget.isWindow() && widget.isModal()) guide_->StayUsable();
+  // The guide, which is not modal, is asked for last: it hides once more while it is being destroyed.
+  if (event->type() == QEvent::Hide && widget.isWindow() && widget.isModal() && guide_) guide_->StayUsable();
   if (event->type() == QEvent::HelpRequest) {
     Open(PageOf(widget), widget);
     return true;

@@ -50,8 +50,8 @@ std::int64_t MostHeld(const QStringList& files, const DataFolder& folder) {
   counting = true;
   const ImportOutcome outcome = RunImport({files, {}, true}, folder);
   counting = false;
-  EXPECT_FALSE(outcome.failure);
-  EXPECT_GT(outcome.report.records, 0);
+  EXPECT_FALSE(outcome.Failure);
+  EXPECT_GT(outcome.Report.Records, 0);
   return most;
 }
 
@@ -96,7 +96,7 @@ void ExpectInProportion(const std::string& what, const std::vector<std::string>&
   std::int64_t size = 0;
   if (!before.empty()) {
     ASSERT_TRUE(folder.Write("before.txt", before));
-    ASSERT_FALSE(RunImport({{dir.filePath("before.txt")}, {}, false}, folder).failure);
+    ASSERT_FALSE(RunImport({{dir.filePath("before.txt")}, {}, false}, folder).Failure);
     size += folder.Read("530x.dat")->size();
   }
   QStringList files;
