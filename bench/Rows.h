@@ -14,6 +14,8 @@ void AddOutlineReaderRow();
 void AddStationReaderRow(const Band& band);
 void AddSearchRow(const Band& band);
 void AddDrawingRows(const Band& band);  ///< whole redraws and the scan
+void AddGroundWaveRow();
+void AddRankingRows(const Band& band);  ///< who it can be, on a channel and on the band
 void PrintProcessRows();                ///< whole programs, after the table; for the machine's clock
 
 }  // namespace kestrel::bench

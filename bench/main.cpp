@@ -14,11 +14,13 @@ int main(int argc, char** argv) {
   AddLevelRows();
   AddProjectionRows();
   AddOutlineReaderRow();
+  AddGroundWaveRow();
   for (const Band& band : Bands()) {
     AddSweepRow(band);
     AddStationReaderRow(band);
     AddSearchRow(band);
     AddDrawingRows(band);
+    AddRankingRows(band);
   }
   MeasureAndPrint(argc, argv);
   if (argc == 1) PrintProcessRows();
