@@ -133,7 +133,7 @@ const CommandKeys& KeysOf(const QWidget& window, const char* command) {
   return *row;
 }
 
-void AddShortcuts(QWidget& window, const char* command, std::function<void()> action, QWidget* where) {
+void AddShortcuts(QWidget& window, const char* command, const std::function<void()>& action, QWidget* where) {
   for (const QKeySequence& keys : KeysOf(window, command).Sequences()) {
     auto* shortcut = new QShortcut(keys, where ? where : &window);
     if (where) shortcut->setContext(Qt::WidgetShortcut);

@@ -37,7 +37,7 @@ const CommandKeys& KeysOf(const QWidget& window, const char* command);
 
 /// Lets the command's keys do `action`, in the whole window or, where `where` is given, while that has the
 /// focus.
-void AddShortcuts(QWidget& window, const char* command, std::function<void()> action,
+void AddShortcuts(QWidget& window, const char* command, const std::function<void()>& action,
                   QWidget* where = nullptr);
 
 /// The same for an action of that object name, which gets its tip as well.

@@ -98,6 +98,8 @@ void Monkey::Schedule() {
 void Monkey::Step() {
   // Before the command: one that opens a modal window returns when that is closed.
   Schedule();
+  // The menu of a tool bar that is too narrow holds its button down until it is closed.
+  if (QWidget* popup = QApplication::activePopupWidget()) return void(popup->close());
   if (AButtonIsDown()) return;
   QWidget* window = WindowInReach([this](int limit) { return Below(limit); });
   constexpr int kRoundsUntilItEnds = 1000;
