@@ -40,6 +40,7 @@ ChannelRanking Prepare(const std::vector<StationRecord>& records) {
 void AddGroundWaveRow() {
   static const std::vector<double> distances = [] {
     std::vector<double> all;
+    all.reserve(kRecords);
     for (int i = 0; i < 1000; ++i) all.push_back(std::exp(i * std::log(3000.0) / 999));
     return all;
   }();
