@@ -1,11 +1,15 @@
 #include <memory>
+#include <optional>
 
 #include "cli/Commands.h"
 #include "cli/Console.h"
 #include "cli/Options.h"
+#include "cli/RankingOptions.h"
 #include "draw/Fonts.h"
 #include "draw/Picture.h"
 #include "map/MainMap.h"
+#include "map/MomentMap.h"
+#include "map/NightShade.h"
 
 namespace kestrel::cli {
 namespace {
@@ -13,7 +17,8 @@ namespace {
 struct View {
   bool Adjacents = false;
   bool Compass = false;
-  kestrel::HoursFilter HoursFilter = kestrel::HoursFilter::All;
+  bool Shade = false;
+  std::optional<kestrel::HoursFilter> HoursFilter;
 };
 
 void DrawMap(const Request& request, const View& view) {
@@ -22,11 +27,20 @@ void DrawMap(const Request& request, const View& view) {
   state.SelectedFrequency = state.CurrentFrequency;
   state.AdjacentsShown = view.Adjacents ? 1 : 0;
   state.CompassShown = view.Compass ? 1 : 0;
-  state.HoursFilter = view.HoursFilter;
+  state.HoursFilter = view.HoursFilter.value_or(HoursFilter::All);
+  if (request.Time && view.HoursFilter && !view.Shade)
+    throw WrongUse("--time chooses the hours at each station; --hours has no part in it without --shade");
 
   const PlatformTextMeasure measure;
   DisplayList drawing(measure);
-  Say(DrawMainMap(drawing, DataFor(request), state));
+  if (view.Shade) DrawNightShade(drawing, state.Home(), state.ScaleFactor, MomentFor(request, state.Home()));
+  if (request.Time && !view.Shade) {
+    MomentMap map(measure);
+    Say(map.Read(DataFor(request), state));
+    map.Draw(drawing, MomentFor(request, state.Home()), HoursRule::Auto);
+  } else {
+    Say(DrawMainMap(drawing, DataFor(request), state));
+  }
   const Result<Done> written =
       WritePicture(drawing, request.Size, QString::fromStdString(request.Output), request.Labels);
   if (!written) Fail(request.Output, written.error(), "the picture was not written");
@@ -54,6 +68,9 @@ void AddMapCommand(CLI::App& app, Request& request) {
   };
   command.add_option_function<std::string>("--hours", storeHours, "the hours shown [all]")
       ->type_name("all|day|night");
+  AddTime(command, request, "records in force at a moment, night shaded: ");
+  command.add_flag("--shade", view->Shade,
+                   "shade the night of --time, or of now, under the stations of --hours");
   command.add_flag("--compass", view->Compass, "the bearing rose over the map");
   AddPicture(command, request);
   command.callback([&request, view] { DrawMap(request, *view); });

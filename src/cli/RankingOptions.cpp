@@ -7,7 +7,7 @@
 
 namespace kestrel::cli {
 
-void AddTime(CLI::App& command, Request& request) {
+void AddTime(CLI::App& command, Request& request, const std::string& purpose) {
   const auto store = [&request](const std::string& given) {
     request.Time = given;
     if (given == "day" || given == "night") return;
@@ -16,7 +16,9 @@ void AddTime(CLI::App& command, Request& request) {
   };
   command
       .add_option_function<std::string>("--time", store,
-                                        "UTC as in 2026-11-22T03:12Z, now, day (noon at home) or night [now]")
+                                        purpose +
+                                            "UTC as in 2026-11-22T03:12Z, now, day (noon at home) or night" +
+                                            (purpose.empty() ? " [now]" : ""))
       ->type_name("TIME");
 }
 

@@ -9,8 +9,8 @@
 
 namespace kestrel::cli {
 
-/// --time: a moment, or "day" or "night" at home today.
-void AddTime(CLI::App& command, Request& request);
+/// --time: a moment, or "day" or "night" at home today. `purpose` begins its description.
+void AddTime(CLI::App& command, Request& request, const std::string& purpose = {});
 /// --ground, --need, --hours and --strike.
 void AddRankingChoices(CLI::App& command, Request& request);
 

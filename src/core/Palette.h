@@ -16,6 +16,9 @@ struct Palette {
   static constexpr ColorValue NoticePaper = 0xFFFFEE;  ///< under the banners of the main map
 
   // The main map.
+  static constexpr ColorValue Twilight = 0xF6EFE8;
+  static constexpr ColorValue Night = 0xEBDDD0;
+  static constexpr ColorValue OffAir = 0x909090;
   static constexpr ColorValue RegionOutline = 0xCC8888;
   static constexpr ColorValue StatesOutline = 0xDD9999;
   static constexpr ColorValue Home = 0x0000FF;

@@ -89,6 +89,14 @@ void PainterCanvas::FilledBox(Point corner, Point opposite) {
   painter_.fillRect(view_.Filled(corner, opposite), color_);
 }
 
+void PainterCanvas::Area(std::string_view, std::span<const Point> outline) {
+  painter_.setPen(Qt::NoPen);
+  painter_.setBrush(color_);
+  painter_.drawPolygon(view_.Filled(outline), Qt::OddEvenFill);
+  painter_.setBrush(Qt::NoBrush);
+  UsePen();
+}
+
 void PainterCanvas::Dot(Point at) {
   if (!view_.Shows(at, 0)) return;
   const Point point = view_.At(at);

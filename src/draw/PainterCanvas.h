@@ -26,6 +26,7 @@ class PainterCanvas final : public Canvas {
   void FilledCircle(Point center, float radius) override;
   void Box(Point corner, Point opposite) override;
   void FilledBox(Point corner, Point opposite) override;
+  void Area(std::string_view name, std::span<const Point> outline) override;
   void Dot(Point at) override;
   void Text(Point topLeft, std::string_view text) override;
   void RimmedText(Point topLeft, std::string_view text) override;

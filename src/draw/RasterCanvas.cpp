@@ -106,6 +106,17 @@ void RasterCanvas::FilledBox(Point corner, Point opposite) {
     std::fill_n(reinterpret_cast<QRgb*>(image_.scanLine(y)) + left, std::max(0, right - left), color_);
 }
 
+void RasterCanvas::Area(std::string_view, std::span<const Point> outline) {
+  LayInk();
+  QPainter painter(&image_);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.scale(1 / image_.devicePixelRatio(), 1 / image_.devicePixelRatio());
+  painter.translate(0, -top_);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(color_));
+  painter.drawPolygon(view_.Filled(outline), Qt::OddEvenFill);
+}
+
 void RasterCanvas::Dot(Point at) {
   if (!view_.Shows(at, 0)) return;
   mask_.AddPoint(view_.At(at));

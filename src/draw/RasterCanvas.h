@@ -30,6 +30,7 @@ class RasterCanvas final : public Canvas {
   void FilledCircle(Point center, float radius) override;
   void Box(Point corner, Point opposite) override;
   void FilledBox(Point corner, Point opposite) override;
+  void Area(std::string_view name, std::span<const Point> outline) override;
   void Dot(Point at) override;
   void Text(Point topLeft, std::string_view text) override { DrawText(topLeft, text, false); }
   void RimmedText(Point topLeft, std::string_view text) override { DrawText(topLeft, text, true); }

@@ -56,6 +56,16 @@ QRectF SurfaceView::Outlined(Point corner, Point opposite) const {
   return Filled(corner, opposite).adjusted(half, half, -half, -half).normalized();
 }
 
+QPolygonF SurfaceView::Filled(std::span<const Point> outline) const {
+  QPolygonF filled;
+  filled.reserve(static_cast<qsizetype>(outline.size()));
+  for (const Point& point : outline) {
+    const Point at = At(point);
+    filled << QPointF(at.x, at.y);
+  }
+  return filled;
+}
+
 bool SurfaceView::Shows(Point sheet, double radiusTwips) const {
   const Point at = At(sheet);
   const double radius = Length(radiusTwips) + 2 * rules_.PixelSize;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPolygonF>
 #include <QRectF>
 #include <span>
 
@@ -55,6 +56,9 @@ class SurfaceView {
 
   /// Likewise for a line around it, which runs through the middle of pixels.
   QRectF Outlined(Point corner, Point opposite) const;
+
+  /// An outline to be filled, its points on the surface.
+  QPolygonF Filled(std::span<const Point> outline) const;
 
   bool Shows(Point sheet, double radiusTwips) const;
 

@@ -152,6 +152,21 @@ void SvgCanvas::Box(Point corner, Point opposite) {
 void SvgCanvas::FilledBox(Point corner, Point opposite) {
   WriteBox(corner, opposite, true);
 }
+void SvgCanvas::Area(std::string_view name, std::span<const Point> outline) {
+  QString text;
+  for (const QPointF& point : view_.Filled(outline))
+    text += Number(point.x()) + ',' + Number(point.y()) + ' ';
+  text.chop(1);
+  Begin("polygon");
+  const QString id = IdText(std::string(name));
+  ids_.insert(id);
+  xml_.writeAttribute("id", id);
+  xml_.writeAttribute("points", text);
+  xml_.writeAttribute("fill", color_);
+  xml_.writeAttribute("fill-rule", "evenodd");
+  xml_.writeEndElement();
+}
+
 void SvgCanvas::Dot(Point at) {
   FilledCircle(at, static_cast<float>(view_.PixelSize() / 2 / view_.Length(1)));
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "core/Geodesy.h"
 #include "core/Text.h"
@@ -69,14 +70,10 @@ ChannelRanking::ChannelRanking(double frequencyKHz, const Position& home, double
     : home_(home), ground_(frequencyKHz, conductivity) {}
 
 void ChannelRanking::Add(const StationRecord& record, int line) {
-  const std::size_t station = StationOf(record);
-  const Hours hours = HoursOf(record.HoursCode);
-  stations_[station].Hours.Add(hours);
-  stationOfRecord_.push_back(station);
-  clocks_.emplace_back(SunSite(record.Latitude, record.Longitude), record.Country == "United States");
+  onAir_.Add(record);
   const GreatCircleResult course = GreatCircle(home_, record.At());
-  records_.push_back({record.CallSign, record.City, record.State, record.Country, hours, record.PowerKW,
-                      record.TowerCount, line, course.Distance, course.Bearing,
+  records_.push_back({record.CallSign, record.City, record.State, record.Country, HoursOf(record.HoursCode),
+                      record.PowerKW, record.TowerCount, line, course.Distance, course.Bearing,
                       FieldAtHome(record, home_, ground_)});
 }
 
@@ -86,35 +83,19 @@ std::vector<std::string> ChannelRanking::AddFile(const std::string& name, std::s
   return reader.Notes();
 }
 
-std::size_t ChannelRanking::StationOf(const StationRecord& record) {
-  std::string name;
-  for (const std::string* part : {&record.CallSign, &record.City, &record.State, &record.Country})
-    name += *part + '\n';
-  const auto [found, isNew] = stationByName_.emplace(std::move(name), stations_.size());
-  if (isNew) stations_.push_back({records_.size(), {}});
-  return found->second;
-}
-
 Ranking ChannelRanking::Rank(Moment moment, const RankingChoices& choices) {
   const Sun sun(moment);
   StruckCalls struck(choices.StruckCalls);
-  std::vector<bool> onAir(stations_.size());
-  std::vector<TimeOfDay> timeOfFirst(stations_.size());
+  OnAirRecords now = onAir_.At(moment, sun, choices.Rule);
   Ranking ranking;
   for (std::size_t i = 0; i < records_.size(); ++i) {
-    const std::size_t index = stationOfRecord_[i];
-    const Station& station = stations_[index];
-    const TimeOfDay time = clocks_[i].At(moment, sun, choices.Rule);
-    if (station.FirstRecord == i) timeOfFirst[index] = time;
+    // Asked of all, so that a struck station off the air is known to be on the channel.
     const bool isStruck = struck.Has(records_[i].CallSign);
-    if (HoursInForce(station.Hours, time) != records_[i].OnAir) continue;
-    onAir[index] = true;
-    ranking.Rows.push_back(
-        {i, records_[i].Field.LevelsAt(sun), isStruck ? Likelihood::Struck : Likelihood::Unlikely});
+    if (now.InForce[i])
+      ranking.Rows.push_back(
+          {i, records_[i].Field.LevelsAt(sun), isStruck ? Likelihood::Struck : Likelihood::Unlikely});
   }
-  for (std::size_t i = 0; i < stations_.size(); ++i)
-    if (!onAir[i])
-      ranking.Silent.push_back({stations_[i].FirstRecord, SilenceReason(stations_[i].Hours, timeOfFirst[i])});
+  ranking.Silent = std::move(now.Silent);
   Judge(ranking, choices.NeededLevel);
   ranking.NotOnChannel = struck.NotFound();
   return ranking;

@@ -2,12 +2,11 @@
 
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "core/Position.h"
 #include "field/FieldAtHome.h"
-#include "field/HoursInForce.h"
+#include "field/OnAirStations.h"
 
 // Who it can be: the records of one channel in the order of their fields at home.
 
@@ -54,12 +53,6 @@ struct RankedRecord {
   Likelihood Chance = Likelihood::Unlikely;
 };
 
-/// A station off the air, told by its first record.
-struct SilentStation {
-  std::size_t Record = 0;
-  std::string_view Reason;
-};
-
 /// One channel at one moment.
 struct Ranking {
   double Needed = 0;                  ///< the level that makes a station likely, dB above 1 uV/m
@@ -91,21 +84,10 @@ class ChannelRanking {
   Ranking Rank(Moment moment, const RankingChoices& choices);
 
  private:
-  /// A call sign, city, state and country; its sites may differ.
-  struct Station {
-    std::size_t FirstRecord;
-    StationHours Hours;
-  };
-
-  std::size_t StationOf(const StationRecord& record);
-
   Position home_;
   GroundWave ground_;
   std::vector<RecordAtHome> records_;
-  std::vector<SiteClock> clocks_;  // of the records
-  std::vector<std::size_t> stationOfRecord_;
-  std::vector<Station> stations_;
-  std::unordered_map<std::string, std::size_t> stationByName_;
+  OnAirStations onAir_;
 };
 
 }  // namespace kestrel

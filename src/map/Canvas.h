@@ -71,6 +71,8 @@ class Canvas {
   virtual void FilledCircle(Point center, float radius) = 0;
   virtual void Box(Point corner, Point opposite) = 0;
   virtual void FilledBox(Point corner, Point opposite) = 0;
+  /// The inside of a closed outline, filled by the even-odd rule. Files that name their parts keep the name.
+  virtual void Area(std::string_view name, std::span<const Point> outline) = 0;
   virtual void Dot(Point at) = 0;                               ///< a single point, one pixel
   virtual void Text(Point topLeft, std::string_view text) = 0;  ///< one line, UTF-8
   /// The same with a white rim, so that lines below do not cut the letters.

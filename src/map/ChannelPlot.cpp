@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cmath>
-#include <unordered_set>
 
 #include "core/Band.h"
 #include "core/Geodesy.h"
@@ -15,6 +14,7 @@ namespace kestrel {
 namespace {
 
 constexpr float kUnknownRadius = 30;
+constexpr float kSilentRadius = 28;
 constexpr Font kLabelFont = {FontFace::Sans, 8};
 constexpr Font kMapFont = {FontFace::Sans, 10};
 
@@ -44,86 +44,11 @@ ColorValue Darkened(ColorValue color) {
   return half(color & 0xFF) | half(color >> 8 & 0xFF) << 8 | half(color >> 16 & 0xFF) << 16;
 }
 
-/// Draws one channel's records; holds what lasts from record to record.
-class ChannelPlotter {
- public:
-  ChannelPlotter(Canvas& canvas, const SessionState& state, const MapProjection& projection,
-                 float plotFrequency)
-      : canvas_(canvas),
-        state_(state),
-        projection_(projection),
-        plotFrequency_(plotFrequency),
-        adjacent_(state.AdjacentsShown == 1 && plotFrequency != state.SelectedFrequency) {
-    canvas_.SetLineWidth(adjacent_ ? 1 : PatternLineWidth);
-  }
-
-  void Draw(StationRecord& record) {
-    const Hours hours = HoursOf(record.HoursCode);
-    if (!Passes(hours, state_.HoursFilter)) return;
-    const std::optional<Point> at = projection_.Station(record.At());
-    if (!at) return;
-    const bool known = record.TowerCount > 0 && ComputePattern(record, values_);
-    ChooseStyle(hours);
-
-    canvas_.BeginStation(
-        {*at, static_cast<int>(plotFrequency_), record.CallSign, record.HoursCode, record.PowerKW});
-    canvas_.SetColor(style_.Color);
-    if (!known) {
-      canvas_.FilledCircle(*at, kUnknownRadius);
-    } else if (style_.Factor == 0) {
-      canvas_.Dot(*at);
-    } else {
-      DrawPattern(canvas_, state_, *at, style_, values_);
-    }
-    DrawLabel(record, *at);
-    canvas_.EndStation();
-  }
-
- private:
-  /// Hours that are none of the four keep the colour of the record before it.
-  void ChooseStyle(Hours hours) {
-    switch (hours) {
-      case Hours::Daytime:
-        style_ = {state_.DayColor, 1.0F};
-        break;
-      case Hours::Nighttime:
-        style_ = {state_.NightColor, 0.96F};
-        break;
-      case Hours::Critical:
-        style_ = {state_.CriticalColor, 0.98F};
-        break;
-      case Hours::Unlimited:
-        style_ = {state_.UnlimitedColor, 1.02F};
-        break;
-      case Hours::Other:
-        style_.Factor = 0;
-        break;
-    }
-    if (adjacent_) style_.Color = state_.AdjacentColor;
-  }
-
-  /// The second record of a station would print the same text on the same spot.
-  void DrawLabel(const StationRecord& record, Point at) {
-    const std::string place = NumberText(at.x) + ' ' + NumberText(at.y);
-    if (!labelled_.insert(record.CallSign + ' ' + place).second) return;
-    canvas_.SetColor(Darkened(style_.Color));
-    canvas_.SetFont(kLabelFont);
-    const std::string text = NumberText(plotFrequency_) + ' ' + record.CallSign;
-    canvas_.Label({at, text, plotFrequency_ == state_.SelectedFrequency, LabelWeight(at, record.PowerKW)});
-    canvas_.SetFont(kMapFont);
-  }
-
-  Canvas& canvas_;
-  const SessionState& state_;
-  const MapProjection& projection_;
-  const float plotFrequency_;
-  const bool adjacent_;
-  PatternValues values_{};
-  PatternStyle style_;
-  std::unordered_set<std::string> labelled_;
-};
-
 }  // namespace
+
+bool HasPattern(StationRecord& record, PatternValues& pattern) {
+  return record.TowerCount > 0 && ComputePattern(record, pattern);
+}
 
 void DrawPattern(Canvas& canvas, const SessionState& state, Point station, const PatternStyle& style,
                  const PatternValues& values) {
@@ -140,18 +65,99 @@ void DrawPattern(Canvas& canvas, const SessionState& state, Point station, const
   canvas.Polygon(outline);
 }
 
-ChannelOutcome PlotChannel(Canvas& canvas, const DataFolder& folder, const SessionState& state,
-                           const MapProjection& projection, float plotFrequency) {
-  if (!IsInBand(plotFrequency)) return {};
-  const QString name = StationFileName(plotFrequency);
+ChannelPlotter::ChannelPlotter(Canvas& canvas, const SessionState& state, const MapProjection& projection,
+                               float plotFrequency)
+    : canvas_(canvas),
+      state_(state),
+      projection_(projection),
+      plotFrequency_(plotFrequency),
+      adjacent_(state.AdjacentsShown == 1 && plotFrequency != state.SelectedFrequency) {
+  canvas_.SetFont(kMapFont);
+  canvas_.SetLineWidth(adjacent_ ? 1 : PatternLineWidth);
+}
+
+void ChannelPlotter::Draw(const StationRecord& record, const PatternValues* pattern) {
+  const std::optional<Point> at = projection_.Station(record.At());
+  if (!at) return;
+  ChooseStyle(HoursOf(record.HoursCode));
+
+  BeginStation(record, *at);
+  canvas_.SetColor(style_.Color);
+  if (!pattern) {
+    canvas_.FilledCircle(*at, kUnknownRadius);
+  } else if (style_.Factor == 0) {
+    canvas_.Dot(*at);
+  } else {
+    DrawPattern(canvas_, state_, *at, style_, *pattern);
+  }
+  DrawLabel(record, *at);
+  canvas_.EndStation();
+}
+
+void ChannelPlotter::DrawSilent(const StationRecord& record) {
+  const std::optional<Point> at = projection_.Station(record.At());
+  if (!at) return;
+  BeginStation(record, *at);
+  canvas_.SetColor(Palette::OffAir);
+  canvas_.Circle(*at, kSilentRadius);
+  canvas_.EndStation();
+}
+
+void ChannelPlotter::BeginStation(const StationRecord& record, Point at) {
+  canvas_.BeginStation(
+      {at, static_cast<int>(plotFrequency_), record.CallSign, record.HoursCode, record.PowerKW});
+}
+
+void ChannelPlotter::ChooseStyle(Hours hours) {
+  switch (hours) {
+    case Hours::Daytime:
+      style_ = {state_.DayColor, 1.0F};
+      break;
+    case Hours::Nighttime:
+      style_ = {state_.NightColor, 0.96F};
+      break;
+    case Hours::Critical:
+      style_ = {state_.CriticalColor, 0.98F};
+      break;
+    case Hours::Unlimited:
+      style_ = {state_.UnlimitedColor, 1.02F};
+      break;
+    case Hours::Other:
+      style_.Factor = 0;
+      break;
+  }
+  if (adjacent_) style_.Color = state_.AdjacentColor;
+}
+
+void ChannelPlotter::DrawLabel(const StationRecord& record, Point at) {
+  const std::string place = NumberText(at.x) + ' ' + NumberText(at.y);
+  if (!labelled_.insert(record.CallSign + ' ' + place).second) return;
+  canvas_.SetColor(Darkened(style_.Color));
+  canvas_.SetFont(kLabelFont);
+  const std::string text = NumberText(plotFrequency_) + ' ' + record.CallSign;
+  canvas_.Label({at, text, plotFrequency_ == state_.SelectedFrequency, LabelWeight(at, record.PowerKW)});
+  canvas_.SetFont(kMapFont);
+}
+
+ChannelOutcome ForEachRecord(const DataFolder& folder, float frequency,
+                             const std::function<void(StationRecord&)>& use) {
+  if (!IsInBand(frequency)) return {};
+  const QString name = StationFileName(frequency);
   const Result<QByteArray> bytes = folder.Read(name);
   if (!bytes) return {true, {bytes.error().Message()}};
-
-  canvas.SetFont(kMapFont);
-  ChannelPlotter plotter(canvas, state, projection, plotFrequency);
   StationFileReader reader(name.toStdString(), {bytes->constData(), static_cast<std::size_t>(bytes->size())});
-  while (StationRecord* record = reader.Next()) plotter.Draw(*record);
+  while (StationRecord* record = reader.Next()) use(*record);
   return {false, reader.Notes()};
+}
+
+ChannelOutcome PlotChannel(Canvas& canvas, const DataFolder& folder, const SessionState& state,
+                           const MapProjection& projection, float plotFrequency) {
+  ChannelPlotter plotter(canvas, state, projection, plotFrequency);
+  PatternValues pattern{};
+  return ForEachRecord(folder, plotFrequency, [&](StationRecord& record) {
+    if (!Passes(HoursOf(record.HoursCode), state.HoursFilter)) return;
+    plotter.Draw(record, HasPattern(record, pattern) ? &pattern : nullptr);
+  });
 }
 
 }  // namespace kestrel

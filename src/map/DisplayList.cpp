@@ -55,6 +55,12 @@ void DisplayList::FilledBox(Point corner, Point opposite) {
   if (panel_) panelBoxes_.push_back({panel_->Anchor, panel_->Smallest, corner, opposite});
   AddPoints(Verb::FilledBox, std::array{corner, opposite});
 }
+void DisplayList::Area(std::string_view name, std::span<const Point> outline) {
+  Command command{Verb::Area};
+  command.first = static_cast<std::uint32_t>(areas_.size());
+  areas_.push_back({std::string(name), {outline.begin(), outline.end()}});
+  commands_.push_back(command);
+}
 void DisplayList::Dot(Point at) {
   AddPoints(Verb::Dot, std::array{at});
 }
@@ -114,6 +120,7 @@ void DisplayList::Clear() {
   commands_.clear();
   points_.clear();
   text_.clear();
+  areas_.clear();
   stations_.clear();
 }
 
@@ -184,6 +191,8 @@ void DisplayList::PlayCommand(const Command& command, Canvas& canvas) const {
       return canvas.Box(points()[0], points()[1]);
     case Verb::FilledBox:
       return canvas.FilledBox(points()[0], points()[1]);
+    case Verb::Area:
+      return canvas.Area(areas_[command.first].Name, areas_[command.first].Outline);
     case Verb::Dot:
       return canvas.Dot(points()[0]);
     case Verb::Text:

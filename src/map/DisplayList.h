@@ -48,6 +48,7 @@ class DisplayList final : public Canvas {
   void FilledCircle(Point center, float radius) override;
   void Box(Point corner, Point opposite) override;
   void FilledBox(Point corner, Point opposite) override;
+  void Area(std::string_view name, std::span<const Point> outline) override;
   void Dot(Point at) override;
   void Text(Point topLeft, std::string_view text) override;
   void RimmedText(Point topLeft, std::string_view text) override;
@@ -103,6 +104,7 @@ class DisplayList final : public Canvas {
     FilledCircle,
     Box,
     FilledBox,
+    Area,
     Dot,
     Text,
     RimmedText,
@@ -118,10 +120,15 @@ class DisplayList final : public Canvas {
     Verb verb;
     FontFace face = FontFace::Sans;
     float number = 0;         // width, radius or font size
-    std::uint32_t first = 0;  // in points_, text_, stations_ or labels_; or the colour
+    std::uint32_t first = 0;  // in points_, text_, areas_, stations_ or labels_; or the colour
     std::uint32_t count = 0;  // of points or bytes of text
     Point at = {};            // the text's place
     SheetBox box = {};        // around lines
+  };
+
+  struct NamedArea {
+    std::string Name;
+    std::vector<Point> Outline;
   };
 
   static bool SetsState(Verb verb) {
@@ -142,6 +149,7 @@ class DisplayList final : public Canvas {
   std::vector<Command> commands_;
   std::vector<Point> points_;
   std::string text_;
+  std::vector<NamedArea> areas_;
   std::vector<StationMark> stations_;
   std::vector<KeptLabel> labels_;
   std::vector<PanelBox> panelBoxes_;

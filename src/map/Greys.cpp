@@ -41,6 +41,8 @@ Recoloring GreysOf(const SessionState& state) {
                     {state.DayColor, {Grey(0x54), 1}},
                     {state.CriticalColor, {Grey(0x7C), 2.2F}},
                     {state.AdjacentColor, {Grey(0xA4), 1.8F}},
+                    {Palette::Twilight, {Grey(0xF0), 1}},
+                    {Palette::Night, {Grey(0xDC), 1}},
                     {Palette::RegionOutline, {Grey(0xB0), 1.2F}},
                     {Palette::StatesOutline, {Grey(0xC8), 0.8F}}});
 }

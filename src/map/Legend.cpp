@@ -34,12 +34,12 @@ void DrawLines(Canvas& canvas, float top, float bottom, float right, std::span<c
   }
 }
 
-void DrawScales(Canvas& canvas, const SessionState& state) {
+void DrawScales(Canvas& canvas, const SessionState& state, std::optional<Moment> moment) {
   constexpr float kTop = 8780;
   constexpr float kPatternLeft = 1700;
   const std::string map = "Map:" + MapScaleText(state.ScaleFactor);
-  const std::string pattern =
-      "Pattern:" + PatternScaleText(state.PatternSize) + "  " + std::string(FilterWord(state.HoursFilter));
+  const std::string hours = moment ? MomentText(*moment) : std::string(FilterWord(state.HoursFilter));
+  const std::string pattern = "Pattern:" + PatternScaleText(state.PatternSize) + "  " + hours;
   const float patternLeft = std::max(kPatternLeft, kTextLeft + canvas.TextWidth(map) + kMargin / 2);
 
   canvas.SetColor(Palette::White);
@@ -68,7 +68,7 @@ std::string PatternScaleText(float patternSize) {
   return ScaleText(patternSize, 0.25);
 }
 
-void DrawLegend(Canvas& canvas, const SessionState& state) {
+void DrawLegend(Canvas& canvas, const SessionState& state, std::optional<Moment> moment) {
   const float frequency = state.SelectedFrequency > 0 ? state.SelectedFrequency : state.CurrentFrequency;
   const std::array hours = {
       LegendLine{6860, state.AdjacentColor, "Adjacents"}, LegendLine{7100, state.UnlimitedColor, "Unlimited"},
@@ -84,7 +84,7 @@ void DrawLegend(Canvas& canvas, const SessionState& state) {
   canvas.SetFont(kLegendFont);
   DrawLines(canvas, 6800, 8080, 1900, hours);
   DrawLines(canvas, 8080, 8800, 4500, places);
-  DrawScales(canvas, state);
+  DrawScales(canvas, state, moment);
   canvas.EndPanel();
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
+#include "core/Moment.h"
 #include "core/SessionState.h"
 #include "map/Canvas.h"
 
@@ -10,8 +12,8 @@
 namespace kestrel {
 
 /// The legend panel: the colours of the hours, channel, home, map and pattern scale. Boxes widen to their
-/// text.
-void DrawLegend(Canvas& canvas, const SessionState& state);
+/// text. On a map of a moment that stands in place of the hours' filter.
+void DrawLegend(Canvas& canvas, const SessionState& state, std::optional<Moment> moment = {});
 
 /// The banner that names the hours shown; nothing when all are.
 void DrawHoursBanner(Canvas& canvas, HoursFilter filter);

@@ -21,7 +21,15 @@ class NoMeasure final : public TextMeasure {
   float TextHeight(const Font&) const override { return 0; }
 };
 
-/// The current channel and its neighbours, when they are shown; none outside the band.
+/// Whether the files are about as long as those of real channels, the longest of which has 50 KB.
+bool AreOrdinary(const std::vector<float>& channels, const DataFolder& folder) {
+  constexpr qint64 kLong = 200'000;
+  return std::all_of(channels.begin(), channels.end(),
+                     [&](float channel) { return folder.Size(StationFileName(channel)) <= kLong; });
+}
+
+}  // namespace
+
 std::vector<float> ShownChannels(const SessionState& state) {
   const float current = state.CurrentFrequency;
   std::vector<float> channels = {current};
@@ -30,35 +38,28 @@ std::vector<float> ShownChannels(const SessionState& state) {
   return channels;
 }
 
-/// Whether the files are about as long as those of real channels, the longest of which has 50 KB.
-bool AreOrdinary(const std::vector<float>& channels, const DataFolder& folder) {
-  constexpr qint64 kLong = 200'000;
-  return std::all_of(channels.begin(), channels.end(),
-                     [&](float channel) { return folder.Size(StationFileName(channel)) <= kLong; });
-}
-
-/// Returns whether the current channel's file is missing, and the notes of all.
-ChannelOutcome PlotChannels(Canvas& canvas, const DataFolder& folder, const SessionState& state,
-                            const MapProjection& projection, const std::vector<float>& channels) {
+ChannelOutcome ForShownChannels(const DataFolder& folder, const SessionState& state,
+                                const std::function<ChannelOutcome(float channel)>& use) {
   ChannelOutcome outcome;
-  for (const float channel : channels) {
-    const ChannelOutcome plotted = PlotChannel(canvas, folder, state, projection, channel);
+  for (const float channel : ShownChannels(state)) {
+    const ChannelOutcome used = use(channel);
     const bool current = channel == state.CurrentFrequency;
-    if (current) outcome.FileMissing = plotted.FileMissing;
+    if (current) outcome.FileMissing = used.FileMissing;
     // A neighbour without a file is nothing to speak of, one whose file cannot be read is.
-    if (current || !plotted.FileMissing || folder.Has(StationFileName(channel)))
-      outcome.Notes.insert(outcome.Notes.end(), plotted.Notes.begin(), plotted.Notes.end());
+    if (current || !used.FileMissing || folder.Has(StationFileName(channel)))
+      outcome.Notes.insert(outcome.Notes.end(), used.Notes.begin(), used.Notes.end());
   }
   return outcome;
 }
-
-}  // namespace
 
 std::vector<std::string> DrawMainMap(Canvas& canvas, const DataFolder& folder, const SessionState& state,
                                      MapGround ground) {
   const MapProjection projection(state.Home(), state.ScaleFactor);
   const std::vector<float> channels = ShownChannels(state);
-  const auto plot = [&](Canvas& on) { return PlotChannels(on, folder, state, projection, channels); };
+  const auto plot = [&](Canvas& on) {
+    return ForShownChannels(
+        folder, state, [&](float channel) { return PlotChannel(on, folder, state, projection, channel); });
+  };
   std::vector<std::string> notes;
   ChannelOutcome outcome;
   if (ground == MapGround::Empty && AreOrdinary(channels, folder)) {

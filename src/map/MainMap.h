@@ -1,11 +1,13 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
 #include "core/SessionState.h"
 #include "data/DataFolder.h"
 #include "map/Canvas.h"
+#include "map/ChannelPlot.h"
 
 namespace kestrel {
 
@@ -22,5 +24,12 @@ enum class MapGround {
 /// files that are there but cannot be read.
 std::vector<std::string> DrawMainMap(Canvas& canvas, const DataFolder& folder, const SessionState& state,
                                      MapGround ground = MapGround::Empty);
+
+/// The channels that the session shows, the current one first; none outside the band.
+std::vector<float> ShownChannels(const SessionState& state);
+
+/// Calls `use` for each of them. Returns whether the current channel's file is missing, and the notes of all.
+ChannelOutcome ForShownChannels(const DataFolder& folder, const SessionState& state,
+                                const std::function<ChannelOutcome(float channel)>& use);
 
 }  // namespace kestrel

@@ -77,6 +77,15 @@ TEST_F(PicturesTest, OptionsChooseWhatIsDrawn) {
   EXPECT_TRUE(MapSvg({"--pattern-size", ".25"}).Texts.contains("Pattern:1  all"));
 }
 
+TEST_F(PicturesTest, AMomentChoosesTheRecordsOrShadesTheNightAlone) {
+  const QString midnight = "2026-06-21T05:00Z";
+  const Svg map = MapSvg({"--time", midnight});
+  EXPECT_EQ(map.Ids, (QStringList{"twilight", "night", "QAAA-620-N", "QAAA-620-N-2", "QB1-620-U"}));
+  EXPECT_TRUE(map.Texts.contains("Pattern:2  " + midnight));
+  EXPECT_EQ(MapSvg({"--time", midnight, "--shade", "--hours", "day"}).Ids,
+            (QStringList{"twilight", "night", "QAAA-620-D", "QB1-620-U"}));
+}
+
 TEST_F(PicturesTest, AChannelWithoutAFileIsAPictureWithItsNotice) {
   EXPECT_EQ(Map("map.svg", {"--frequency", "1230"}),
             (Answer{0, "", "kestrel-cli: 1230x.dat: there is no such file\n"}));

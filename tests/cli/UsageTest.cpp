@@ -28,6 +28,8 @@ TEST(UsageTest, WrongUseIsStatusTwoWithOneLineThatSaysWhatToDo) {
       {map + QStringList{"--pattern-size", ".01"}, "--pattern-size .01: give a number from 0.02 to 2"},
       {map + QStringList{"--aspect", "0"}, "--aspect 0: give a number above 0, at most 10"},
       {map + QStringList{"--hours", "D"}, "--hours D: give all, day or night"},
+      {map + QStringList{"--time", "now", "--hours", "day"},
+       "--time chooses the hours at each station; --hours has no part in it without --shade"},
       {map + QStringList{"--size", "63x64"}, "--size 63x64: give WIDTHxHEIGHT in pixels, 64 to 16384 each"},
       {map + QStringList{"--size", "64x16385"},
        "--size 64x16385: give WIDTHxHEIGHT in pixels, 64 to 16384 each"},

@@ -7,6 +7,7 @@
 #include "RecordingCanvas.h"
 #include "TestFolder.h"
 #include "map/BandScan.h"
+#include "map/MomentMap.h"
 
 namespace kestrel {
 namespace {
@@ -139,6 +140,41 @@ TEST_F(MainMapTest, TheScanMarksStationsWithoutPatterns) {
   EXPECT_EQ(drawn, (std::vector<float>{1230, 1240, 1690, 1700}));
   EXPECT_EQ(faulty, std::vector<float>{1250});
   EXPECT_EQ(canvas.Texts(), (Texts{"1230", "1230", "1240", "1690", "1700"}));
+}
+
+// A station by day and by night, one that sends by day only, and an added channel; nothing is read after
+// Read.
+TEST_F(MainMapTest, DrawsTheRecordsInForceAtAMoment) {
+  files_.Put("1230x.dat",
+             "1230,WXYZ,City,ST,United States,D,40,75,1,-,-,1\n0,1,90,0,0,0\n"
+             "1230,WXYZ,City,ST,United States,N,40,75,.5,-,-,1\n0,1,90,0,0,0\n"
+             "1230,WDAY,Town,ST,United States,D,41,75,1,-,-,1\n0,1,90,0,0,0\n");
+  files_.Put("1240x.dat", "1240,XADD,Town,ST,Mexico,U,39,75,1,-,-,1\n0,1,90,0,0,0\n");
+  const FixedMeasure measure;
+  MomentMap map(measure);
+  state_.HoursFilter = HoursFilter::Day;  // without a part in it
+  EXPECT_TRUE(map.Read(files_.Folder(), state_).empty());
+  state_.CurrentFrequency = state_.SelectedFrequency = 1240;
+  EXPECT_TRUE(map.Read(files_.Folder(), state_, MapGround::AsDrawn).empty());
+  files_.Put("1230x.dat", "");
+
+  const auto drawnAt = [&](const char* moment) {
+    canvas_.Clear();
+    map.Draw(canvas_, *ReadMoment(moment, {}), HoursRule::Auto);
+    Texts stations;
+    for (const Drawn& drawn : canvas_.List) {
+      if (drawn.Verb == "Station") stations.push_back(drawn.Text);
+      if (drawn.Verb == "Circle" && drawn.Color == Palette::OffAir) stations.back() += " off";
+    }
+    return stations;
+  };
+  EXPECT_EQ(drawnAt("2026-06-21T17:00Z"), (Texts{"1230 WXYZ D", "1230 WDAY D", "1240 XADD U"}));
+  EXPECT_EQ(drawnAt("2026-06-21T05:00Z"), (Texts{"1230 WDAY D off", "1230 WXYZ N", "1240 XADD U"}));
+  const std::string drawn = canvas_.Readable();
+  EXPECT_LT(drawn.find("\"night\""), drawn.find("Polyline DD9999"));
+  EXPECT_NE(drawn.find("2026-06-21T05:00Z"), std::string::npos);
+  EXPECT_EQ(drawn.find("Day, critical"), std::string::npos);
+  EXPECT_EQ(drawn.find("WDAY\""), std::string::npos);
 }
 
 }  // namespace

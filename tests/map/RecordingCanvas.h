@@ -79,6 +79,9 @@ class RecordingCanvas final : public Canvas {
   void FilledCircle(Point center, float radius) override { Add("FilledCircle", {center}, radius); }
   void Box(Point corner, Point opposite) override { Add("Box", {corner, opposite}); }
   void FilledBox(Point corner, Point opposite) override { Add("FilledBox", {corner, opposite}); }
+  void Area(std::string_view name, std::span<const Point> outline) override {
+    Add("Area", {outline.begin(), outline.end()}, 0, std::string(name));
+  }
   void Dot(Point at) override { Add("Dot", {at}); }
   void RimmedText(Point topLeft, std::string_view text) override { Text(topLeft, text); }
   void Text(Point topLeft, std::string_view text) override { Add("Text", {topLeft}, 0, std::string(text)); }
