@@ -65,7 +65,8 @@ void TellBand(const Request& request) {
   BandRanking band(folder, state.Home(), GroundFor(request));
   Say(band.Notes());
   if (band.Channels().empty())
-    Say(folder.Path().toStdString() + ": no station file was read; name another folder with --data");
+    throw Failure(folder.Path().toStdString() +
+                  ": no station file was read; name another folder with --data");
   const std::vector<Ranking> rankings = band.Rank(MomentFor(request, state.Home()), ChoicesFor(request));
   for (const std::string& call : NowhereFound(rankings))
     Say("--strike " + call + ": no station of the band has this call");

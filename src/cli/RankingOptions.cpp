@@ -12,7 +12,7 @@ void AddTime(CLI::App& command, Request& request, const std::string& purpose) {
     request.Time = given;
     if (given == "day" || given == "night") return;
     if (const Result<Moment> moment = ReadMoment(given, Now()); !moment)
-      throw WrongUse("--time " + moment.error().Message());
+      throw WrongUse("--time " + moment.error().Message() + "; or day or night");
   };
   command
       .add_option_function<std::string>("--time", store,

@@ -55,8 +55,9 @@ void AddRanked(Table& table, std::vector<std::string> before, const RankedStatio
   const auto whole = [](double value) { return std::to_string(std::lround(value)); };
   for (std::string& cell : std::vector<std::string>{
            record.CallSign, record.City, record.State, std::string(1, HoursLetter(record.OnAir)),
-           NumberWithZero(record.PowerKW), whole(record.Distance), whole(record.Bearing),
-           whole(row.Levels.Total), std::string(WordOf(row.Chance)), record.Field.ReasonFor(row.Levels)})
+           NumberWithZero(record.PowerKW), whole(record.Distance),
+           std::to_string(std::lround(record.Bearing) % 360), whole(row.Levels.Total),
+           std::string(WordOf(row.Chance)), record.Field.ReasonFor(row.Levels)})
     before.push_back(std::move(cell));
   table.AddRow(std::move(before));
 }

@@ -92,7 +92,7 @@ Result<Moment> ReadMoment(std::string_view text, Moment now) {
     second = cutter.Digits(2);
   }
   cutter.Sign('Z');
-  if (!cutter.Done()) return Refusal(text, "give a time of UTC as in 2026-11-22T03:12Z, or now");
+  if (!cutter.Done()) return Refusal(text, "give now, or a time of UTC as in 2026-11-22T03:12Z");
   const auto date = std::chrono::year(year) / month / day;
   if (!date.ok()) return Refusal(text, "there is no such day");
   if (hour > 23 || minute > 59 || second > 59)

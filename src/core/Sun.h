@@ -43,8 +43,16 @@ struct SolarClock {
   double HoursAfterSunset() const;
 };
 
-/// The sun at one moment (J. Meeus, Astronomical Algorithms, chapter 25, low accuracy; dynamical time is
-/// taken as universal time plus 69 s). Within 0.01 degree from 1950 to 2100.
+/// The sun at one moment, within 0.01 degree from 1950 to 2100 (J. Meeus, Astronomical Algorithms, chapter
+/// 25, low accuracy; T in centuries of dynamical time since 2000, which is taken as universal time plus 69
+/// s):
+///
+///     L0 = 280.46646 + 36000.76983 T + 0.0003032 T^2                        mean longitude
+///     M = 357.52911 + 35999.05029 T - 0.0001537 T^2                         mean anomaly
+///     C = (1.914602 - 0.004817 T) sin M + (0.019993 - 0.000101 T) sin 2M + 0.000289 sin 3M
+///     lambda = L0 + C - 0.00569 - 0.00478 sin(125.04 - 1934.136 T)          apparent longitude
+///     sin(declination) = sin(obliquity) sin(lambda)
+///     sin(elevation) = sin(latitude) sin(declination) + cos(latitude) cos(declination) cos(hour angle)
 class Sun {
  public:
   explicit Sun(Moment moment) : Sun(DaysSince2000(moment)) {}

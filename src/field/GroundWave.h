@@ -21,7 +21,7 @@ inline constexpr double AverageConductivity = 5;
 ///     F = exp(-j pi/4) sqrt(pi x) sum exp(-j x t) / (t - q^2),   t the roots of w'(t) = q w(t)
 ///
 /// (K. A. Norton 1941; J. R. Wait 1962; time factor exp(+jwt)). Within 0.03 dB of the exact solution for 530
-/// to 1700 kHz; what the ground is like over a whole path is never known as well: a factor of 2 is worth 3 to
+/// to 1700 kHz; what the ground is like over a whole path is never known as well: a factor of 2 is worth 1 to
 /// 9 dB.
 ///
 /// One object serves a home on a channel: it is a table over distance, 1 to 5,000 km, made once.

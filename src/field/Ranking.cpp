@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/Geodesy.h"
+#include "core/Sphere.h"
 #include "core/Text.h"
 
 namespace kestrel {
@@ -71,9 +72,12 @@ ChannelRanking::ChannelRanking(double frequencyKHz, const Position& home, double
 
 void ChannelRanking::Add(const StationRecord& record, int line) {
   onAir_.Add(record);
-  const GreatCircleResult course = GreatCircle(home_, record.At());
+  const GreatCircleResult shown = GreatCircle(home_, record.At());
+  // That bearing is rounded: by degrees for a station next to home.
+  const double bearing =
+      CourseBetween({home_.Latitude, home_.Longitude}, {record.Latitude, record.Longitude}).Azimuth;
   records_.push_back({record.CallSign, record.City, record.State, record.Country, HoursOf(record.HoursCode),
-                      record.PowerKW, record.TowerCount, line, course.Distance, course.Bearing,
+                      record.PowerKW, record.TowerCount, line, shown.Distance, static_cast<float>(bearing),
                       FieldAtHome(record, home_, ground_)});
 }
 

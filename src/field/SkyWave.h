@@ -16,9 +16,10 @@ inline constexpr double FieldKilometresPerDegree = 111.19492664455873;
 ///
 ///     Fc(50) = 97.5 - 20 log D - (2 pi + 4.95 tan^2 Phi) sqrt(D / 1000),   D = sqrt(40000 + d^2)
 ///     Fc(10) = Fc(50) + 6 below |Phi| = 40, + 10 above 60, + 0.2 |Phi| - 2 between
-///     Phi = arcsin(sin a sin 78.5 + cos a cos 78.5 cos(69 - b)), midpoint a, b; in Fc |Phi| counts 60 at
-///     most theta = arctan(k cot(d / 444.54)) - d / 444.54, not below 0;   k = 0.00752, a layer 96.5 km high
+///     Phi = arcsin(sin a sin 78.5 + cos a cos 78.5 cos(69 - b)), midpoint a, b
+///     theta = arctan(k cot(d / 444.54)) - d / 444.54, not below 0;   k = 0.00752, a layer 96.5 km high
 ///
+/// In Fc |Phi| counts 60 at most.
 /// Measured up to some 4,000 km and hardly below 100. Neither frequency nor season, sunspots, or the sea near
 /// an aerial are in it; within 20 degrees of the geomagnetic equator east-west paths are several dB weaker.
 class SkyWave {

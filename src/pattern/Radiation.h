@@ -13,13 +13,13 @@ namespace kestrel {
 ///     e(phi, theta) = | sum over towers of F f(theta) exp j(S cos theta cos(B - phi) + P) |
 ///     I = integral of e^2 cos theta over the hemisphere
 ///     K0 = sqrt(376.73 x 1000 P_kW / I)                                     without loss
-///     K = K0 sqrt(P / (P + sum of 1 ohm x current^2))                       one ohm a tower, at its current
-///     loop, or at
-///                                                                           its base below 90 degrees
+///     K = K0 sqrt(P / (P + sum of 1 ohm x current^2))                       with loss
 ///     E_th = K e
 ///     E_std = 1.05 sqrt(E_th^2 + Q^2)
 ///     Q = greater of 0.025 g E_rss and 10 g sqrt(P_kW),   E_rss = K sqrt(sum of F^2)
 ///     g = f of the shortest tower, above 180 degrees sqrt(f^2 + 0.0625) / 1.030776
+///
+/// The loss is one ohm a tower, at its current loop, or at its base below 90 degrees.
 ///
 /// A single tower sends E_th; several send the standard pattern E_std, by which stations are allocated and
 /// whose nulls are never complete. A height that is no tower's (0, negative, a multiple of 360) counts as 90.

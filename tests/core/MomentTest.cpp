@@ -23,7 +23,7 @@ TEST(MomentTest, ReadsAndWritesUniversalTime) {
 }
 
 TEST(MomentTest, OtherTextsAreRefusedInWords) {
-  const std::string form = "give a time of UTC as in 2026-11-22T03:12Z, or now";
+  const std::string form = "give now, or a time of UTC as in 2026-11-22T03:12Z";
   const std::string hours = "hours end at 23, minutes and seconds at 59";
   const struct {
     const char* text;
