@@ -51,18 +51,25 @@ void PainterCanvas::Line(Point from, Point to) {
 }
 
 void PainterCanvas::Polyline(std::span<const Point> points) {
-  view_.ForEachRun(points, [&](std::span<const Point> run) {
-    QPolygonF line;
-    for (const Point& point : run) line << QPointF(point.x, point.y);
-    painter_.drawPolyline(line);
-  });
+  view_.ForEachRun(points, [&](std::span<const Point> run) { DrawRun(run); });
+}
+
+void PainterCanvas::DrawRun(std::span<const Point> run) {
+  QPolygonF line;
+  for (const Point& point : run) line << QPointF(point.x, point.y);
+  painter_.drawPolyline(line);
 }
 
 void PainterCanvas::Polygon(std::span<const Point> points) {
   if (points.empty()) return;
   std::vector<Point> closed(points.begin(), points.end());
   closed.push_back(points.front());
-  Polyline(closed);
+  view_.ForEachRun(closed, [&](std::span<const Point> run) {
+    if (IsPoint(run))
+      painter_.drawPoint(QPointF(run.front().x, run.front().y));
+    else
+      DrawRun(run);
+  });
 }
 
 void PainterCanvas::Circle(Point center, float radius) {

@@ -38,6 +38,7 @@ class PainterCanvas final : public Canvas {
   void EndPanel() override;
 
  private:
+  void DrawRun(std::span<const Point> run);
   void UsePen();
   void UseFont();
   /// Where the text's base line begins; nothing when it does not show.

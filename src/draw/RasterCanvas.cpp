@@ -57,7 +57,13 @@ void RasterCanvas::Polygon(std::span<const Point> points) {
   if (points.empty()) return;
   closed_.assign(points.begin(), points.end());
   closed_.push_back(points.front());
-  Polyline(closed_);
+  view_.ForEachRun(closed_, [&](std::span<const Point> run) {
+    if (IsPoint(run))
+      mask_.AddDisc(run.front(), lineWidth_ / 2);
+    else
+      mask_.AddPolyline(run, lineWidth_);
+    inked_ = true;
+  });
 }
 
 void RasterCanvas::Circle(Point center, float radius) {

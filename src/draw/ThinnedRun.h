@@ -65,4 +65,9 @@ class ThinnedRun {
   std::size_t passedCount_ = 0;
 };
 
+/// Whether a run has shrunk to one point, which an outline still shows: as the dot of a round pen.
+inline bool IsPoint(std::span<const Point> run) {
+  return run.size() == 2 && run.front() == run.back();
+}
+
 }  // namespace kestrel

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 #include <cstdlib>
 #include <limits>
@@ -77,6 +78,7 @@ TEST(RasterCanvasTest, FiguresLookAsThePainterDrawsThem) {
     canvas.FilledCircle({9500, 7500}, 600);
     canvas.FilledBox({8000, 500}, {11000, 2000});
     canvas.Box({500, 7000}, {3000, 9000});
+    canvas.Polygon(std::array<Point, 3>{{{500, 5000}, {3500, 5200}, {2000, 6700}}});
     canvas.SetLineWidth(1.5F);
     canvas.Circle({9500, 4500}, 1800);
   };
@@ -84,6 +86,18 @@ TEST(RasterCanvasTest, FiguresLookAsThePainterDrawsThem) {
   const QImage painted = Painted(figures);
   EXPECT_NEAR(Ink(rastered) / Ink(painted), 1, 0.05);
   EXPECT_LT(LargestLocalDifference(rastered, painted), 2.5) << "of 16 pixels";
+}
+
+/// A pattern at a small scale, or of no power.
+TEST(RasterCanvasTest, AnOutlineThatShrinksToAPointIsDrawnAsOne) {
+  for (const float radius : {0.0F, 10.0F}) {  // twips, of which 50 are a pixel
+    const auto outline = [&](Canvas& canvas) {
+      canvas.SetLineWidth(1.5F);
+      canvas.Polygon(std::array<Point, 3>{{{6000, 4500 - radius}, {6000 + radius, 4500}, {6000, 4500}}});
+    };
+    EXPECT_NEAR(Ink(Rastered(outline)), 1.8, 0.5) << radius;
+    EXPECT_NEAR(Ink(Painted(outline)), 1.8, 0.5) << radius;
+  }
 }
 
 TEST(RasterCanvasTest, TextStandsWhereThePainterPutsIt) {
