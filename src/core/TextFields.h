@@ -32,7 +32,8 @@ inline std::optional<std::string_view> CutField(std::string_view& line, char sep
   return field.empty() ? std::nullopt : std::optional(field);
 }
 
-/// Cuts the next comma-separated field off `line`.
+/// Cuts the next comma-separated field off `line`: the rule of the station files, whose readers take all of a
+/// line's fields at once with FirstFields.
 inline std::optional<std::string_view> NextField(std::string_view& line) {
   return CutField(line, ',');
 }
@@ -64,14 +65,14 @@ std::array<std::string_view, N> FirstFields(std::string_view line) {
   return fields;
 }
 
-/// Cuts the next blank-separated field off `line`. Used by the states map.
-inline std::optional<std::string_view> NextWord(std::string_view& line) {
+/// Cuts the next blank-separated field off `line`: the rule of the outline files, for every map.
+inline std::optional<std::string_view> NextBlankField(std::string_view& line) {
   return CutField(line, ' ');
 }
 
-/// Cuts the next blank-separated field off `line`. Used by the outline files.
-inline std::optional<std::string_view> NextBlankField(std::string_view& line) {
-  return CutField(line, ' ');
+/// The same for words of any other line; the program has none so far.
+inline std::optional<std::string_view> NextWord(std::string_view& line) {
+  return NextBlankField(line);
 }
 
 }  // namespace kestrel

@@ -64,12 +64,6 @@ QByteArray PdfBytes(const DisplayList& drawing, QSize size, LabelChoice labels) 
 
 }  // namespace
 
-QImage RenderImage(const DisplayList& drawing, QSize size) {
-  QImage image(size, QImage::Format_RGB32);
-  Renderer().Draw(drawing, RulesFor(QRect({0, 0}, size)), image);
-  return image;
-}
-
 Result<Done> WritePicture(const DisplayList& drawing, QSize size, const QString& path, LabelChoice labels) {
   const QString kind = QFileInfo(path).suffix().toLower();
   SurfaceRules rules = RulesFor(QRect({0, 0}, size));

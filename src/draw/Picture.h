@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QImage>
 #include <QSize>
 #include <QString>
 
@@ -8,12 +7,9 @@
 #include "map/DisplayList.h"
 #include "map/Labels.h"
 
-// Drawings of the main map's sheet as pictures and files.
+// Drawings of the main map's sheet as files.
 
 namespace kestrel {
-
-/// Draws the sheet fitted into an image of `size` pixels, white behind it.
-QImage RenderImage(const DisplayList& drawing, QSize size);
 
 /// Writes the drawing as a picture of `size` pixels, its kind told by the name's end: .png, .svg or .pdf (one
 /// page, 96 pixels to the inch), with the labels chosen. The file is replaced as a whole or left as it was.

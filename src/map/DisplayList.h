@@ -63,8 +63,6 @@ class DisplayList final : public Canvas {
   /// Discards what has been drawn.
   void Clear();
 
-  bool IsEmpty() const { return commands_.empty(); }
-
   /// Draws everything again, in the order it was drawn.
   void Play(Canvas& canvas) const { PlayFrom(0, canvas); }
 

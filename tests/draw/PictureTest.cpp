@@ -3,9 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QImage>
 #include <QTemporaryDir>
 
 #include "draw/Fonts.h"
+#include "draw/Renderer.h"
 
 namespace kestrel {
 namespace {
@@ -23,6 +25,12 @@ class PictureTest : public testing::Test {
     drawing_.FilledCircle({6000, 4500}, 500);
   }
 
+  static QImage Drawn(const DisplayList& drawing, QSize size) {
+    QImage image(size, QImage::Format_RGB32);
+    Renderer().Draw(drawing, RulesFor(QRect({0, 0}, size)), image);
+    return image;
+  }
+
   QString File(const QString& name) const { return dir_.filePath(name); }
 
   QTemporaryDir dir_;
@@ -34,7 +42,7 @@ TEST_F(PictureTest, PngHoldsTheImagePixelForPixel) {
   for (const QSize size : {QSize(64, 64), QSize(333, 222)}) {
     ASSERT_TRUE(WritePicture(drawing_, size, File("a.png")));
     const QImage read = QImage(File("a.png")).convertToFormat(QImage::Format_RGB32);
-    EXPECT_EQ(read, RenderImage(drawing_, size)) << size.width();
+    EXPECT_EQ(read, Drawn(drawing_, size)) << size.width();
   }
 }
 
@@ -44,7 +52,7 @@ TEST_F(PictureTest, APictureDrawnInBandsIsWhole) {
     texts.Text({static_cast<float>(i) * 300, static_cast<float>(i) * 240}, "1230 QABC");
   const QSize size(16384, 1200);
   ASSERT_TRUE(WritePicture(texts, size, File("a.png")));
-  EXPECT_EQ(QImage(File("a.png")).convertToFormat(QImage::Format_RGB32), RenderImage(texts, size));
+  EXPECT_EQ(QImage(File("a.png")).convertToFormat(QImage::Format_RGB32), Drawn(texts, size));
 }
 
 TEST_F(PictureTest, FilesThatCannotBeAreRefusedAndLeftAsTheyWere) {

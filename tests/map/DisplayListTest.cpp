@@ -42,7 +42,7 @@ TEST(DisplayListTest, PlaysBackWhatWasDrawn) {
 
   const FixedMeasure measure;
   DisplayList list(measure);
-  EXPECT_TRUE(list.IsEmpty());
+  EXPECT_EQ(list.Length(), 0U);
   DrawSomething(list);
   DrawSomething(list);
   RecordingCanvas played;
@@ -71,7 +71,7 @@ TEST(DisplayListTest, PlaysAdditionsInTheColoursSetBeforeAndClearForgetsThem) {
   EXPECT_EQ(played.List[0].Face.Points, 8);
 
   list.Clear();
-  EXPECT_TRUE(list.IsEmpty());
+  EXPECT_EQ(list.Length(), 0U);
   EXPECT_TRUE(list.Stations().empty());
   EXPECT_EQ(list.TextWidth("ab"), 200) << "in the font of a new canvas";
   list.Dot({1, 2});
