@@ -1,6 +1,7 @@
 #include "core/SessionFile.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <limits>
 
 #include "core/Lines.h"
@@ -11,62 +12,84 @@
 namespace kestrel {
 namespace {
 
-/// Thrown by the readers below: the file ended before the value.
-struct EndOfValues {};
-/// Thrown by the readers below: the number does not fit its type.
-struct Overflow {};
+/// How reading the values ended. Whether the limits are to be applied to what was read depends on it.
+enum class Ending {
+  Complete,
+  Early,     ///< of the file, before a value or before the colours
+  Overflow,  ///< a number does not fit its type
+};
 
-/// Hands out the values of the file in their order; labels and comments are passed over.
+/// Hands out the values of the file in their order; labels and comments are passed over. Each call stores one
+/// value and returns whether it could; where not, the place stays as it was and Reason() says why.
 class ValueReader {
  public:
   explicit ValueReader(std::string_view bytes) : lines_(bytes) {}
 
   bool AtEnd() const { return lines_.AtEnd(); }
+  Ending Reason() const { return reason_; }
 
-  std::string_view Text() {
+  bool Text(std::string& place) {
+    const auto text = Next();
+    if (text) place = *text;
+    return text.has_value();
+  }
+  bool Suffixed(float& place) {
+    const auto text = Next();
+    if (text) place = ParseNumber(*text);
+    return text.has_value();
+  }
+  bool Plain(float& place) {
+    const auto text = Next();
+    if (text) place = static_cast<float>(LeadingNumber(*text));
+    return text.has_value();
+  }
+  bool Unit(std::int16_t& place) {
+    float value = 0;
+    return Suffixed(value) && Round(value, place);
+  }
+  bool Color(ColorValue& place) {
+    float value = 0;
+    return Plain(value) && Round(value, place);
+  }
+
+ private:
+  std::optional<std::string_view> Next() {
     while (const auto line = lines_.Next()) {
       if (line->empty() || line->front() == '*') continue;
       const std::size_t colon = line->find(':');
       return Trim(colon == std::string_view::npos ? *line : line->substr(colon + 1));
     }
-    throw EndOfValues{};
+    reason_ = Ending::Early;
+    return std::nullopt;
   }
-
-  float Suffixed() { return ParseNumber(Text()); }
-  float Plain() { return static_cast<float>(LeadingNumber(Text())); }
 
   template <typename Whole>
-  Whole Rounded(float value) {
+  bool Round(float value, Whole& place) {
     const double rounded = RoundToWhole(value);
-    if (rounded < std::numeric_limits<Whole>::min() || rounded > std::numeric_limits<Whole>::max())
-      throw Overflow{};
-    return static_cast<Whole>(rounded);
+    if (rounded < std::numeric_limits<Whole>::min() || rounded > std::numeric_limits<Whole>::max()) {
+      reason_ = Ending::Overflow;
+      return false;
+    }
+    place = static_cast<Whole>(rounded);
+    return true;
   }
 
-  ColorValue Color() { return Rounded<ColorValue>(Plain()); }
-
- private:
   LineReader lines_;
+  Ending reason_ = Ending::Complete;
 };
 
-/// Whether the limits are to be applied to what was read.
-enum class Outcome { Complete, EndedEarly };
-
-Outcome ReadValues(ValueReader& values, SessionState& state) {
-  state.CurrentFrequency = values.Suffixed();
-  state.HomeName = values.Text();
-  state.HomeLatitude = values.Suffixed();
-  state.HomeLongitude = values.Suffixed();
-  state.PatternSize = values.Plain();
-  state.ScaleFactor = values.Plain();
-  state.DistanceUnit = values.Rounded<std::int16_t>(values.Suffixed());
-  if (values.AtEnd()) return Outcome::EndedEarly;
-  for (ColorValue* color : {&state.DayColor, &state.NightColor, &state.UnlimitedColor, &state.CriticalColor,
-                            &state.AdjacentColor})
-    *color = values.Color();
-  state.MapLanguage = values.Text();
-  if (!values.AtEnd()) state.AspectRatio = values.Plain();
-  return Outcome::Complete;
+Ending ReadValues(ValueReader& values, SessionState& state) {
+  const bool homeAndView = values.Suffixed(state.CurrentFrequency) && values.Text(state.HomeName) &&
+                           values.Suffixed(state.HomeLatitude) && values.Suffixed(state.HomeLongitude) &&
+                           values.Plain(state.PatternSize) && values.Plain(state.ScaleFactor) &&
+                           values.Unit(state.DistanceUnit);
+  if (homeAndView && values.AtEnd()) return Ending::Early;
+  const bool colorsAndLanguage = homeAndView && values.Color(state.DayColor) &&
+                                 values.Color(state.NightColor) && values.Color(state.UnlimitedColor) &&
+                                 values.Color(state.CriticalColor) && values.Color(state.AdjacentColor) &&
+                                 values.Text(state.MapLanguage);
+  if (colorsAndLanguage && !values.AtEnd()) values.Plain(state.AspectRatio);
+  return values.Reason();
 }
 
 void LimitView(SessionState& state) {
@@ -124,11 +147,13 @@ std::string OneLine(std::string text) {
 void ReadSession(std::optional<std::string_view> bytes, SessionState& state) {
   if (!bytes) return FallBack(state);
   ValueReader values(*bytes);
-  try {
-    if (ReadValues(values, state) == Outcome::Complete) ApplyLimits(state);
-  } catch (const EndOfValues&) {
-  } catch (const Overflow&) {
-    FallBack(state);
+  switch (ReadValues(values, state)) {
+    case Ending::Complete:
+      return ApplyLimits(state);
+    case Ending::Early:
+      return;
+    case Ending::Overflow:
+      return FallBack(state);
   }
 }
 

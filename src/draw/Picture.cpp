@@ -5,7 +5,6 @@
 #include <QPageSize>
 #include <QPdfWriter>
 #include <algorithm>
-#include <new>
 
 #include "data/FileIo.h"
 #include "draw/LabelPlacement.h"
@@ -20,7 +19,7 @@ namespace {
 constexpr int kPixelsPerInch = 96;
 constexpr int kPdfUnitsPerPixel = 20;
 
-QByteArray PngBytes(const DisplayList& drawing, const SurfaceRules& rules, QSize size) {
+Result<QByteArray> PngBytes(const DisplayList& drawing, const SurfaceRules& rules, QSize size) {
   constexpr int kMostPixels = 16 << 20;  // drawn at a time, 64 MB
   const int most = std::max(1, kMostPixels / size.width());
   PngFile file(size);
@@ -28,7 +27,8 @@ QByteArray PngBytes(const DisplayList& drawing, const SurfaceRules& rules, QSize
   for (int top = 0; top < size.height(); top += most) {
     const int rows = std::min(most, size.height() - top);
     QImage band(size.width(), rows, QImage::Format_RGB32);
-    if (band.isNull()) throw std::bad_alloc();
+    if (band.isNull())
+      return Error{Error::Kind::Refused, "", 0, "not enough memory for a picture of this size"};
     renderer.Draw(drawing, rules, band, top);
     file.AddRows(band, 0, rows);
   }
@@ -68,17 +68,18 @@ Result<Done> WritePicture(const DisplayList& drawing, QSize size, const QString&
   const QString kind = QFileInfo(path).suffix().toLower();
   SurfaceRules rules = RulesFor(QRect({0, 0}, size));
   rules.Labels = labels;
-  QByteArray bytes;
+  Result<QByteArray> bytes =
+      Error{Error::Kind::Malformed, "", 0, "a picture's name ends in .png, .svg or .pdf"};
   if (kind == "png")
     bytes = PngBytes(drawing, rules, size);
   else if (kind == "svg")
     bytes = SvgBytes(drawing, rules, size);
   else if (kind == "pdf")
     bytes = PdfBytes(drawing, size, labels);
-  else
-    return Error{Error::Kind::Malformed, path.toStdString(), 0,
-                 "a picture's name ends in .png, .svg or .pdf"};
-  return WriteFile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+  if (bytes) return WriteFile(path, {bytes->constData(), static_cast<std::size_t>(bytes->size())});
+  Error error = bytes.error();
+  error.file = path.toStdString();
+  return error;
 }
 
 }  // namespace kestrel

@@ -3,7 +3,6 @@
 #include <zlib.h>
 
 #include <QtEndian>
-#include <new>
 
 namespace kestrel {
 namespace {
@@ -26,7 +25,7 @@ const Bytef* Bytes(const QByteArray& bytes) {
 }  // namespace
 
 PngFile::PngFile(QSize size) : stream_(std::make_unique<z_stream_s>()) {
-  if (deflateInit(stream_.get(), kFastest) != Z_OK) throw std::bad_alloc();
+  ready_ = deflateInit(stream_.get(), kFastest) == Z_OK;
   file_ = "\x89PNG\r\n\x1A\n";
   QByteArray header = BigEndian(static_cast<quint32>(size.width()));
   header += BigEndian(static_cast<quint32>(size.height()));
@@ -46,6 +45,7 @@ void PngFile::AddChunk(const char* type, const QByteArray& content) {
 }
 
 void PngFile::Compress(const QByteArray& bytes, int flush) {
+  if (!ready_) return;
   QByteArray packed(kChunkLength, Qt::Uninitialized);
   stream_->next_in = const_cast<Bytef*>(Bytes(bytes));
   stream_->avail_in = static_cast<uInt>(bytes.size());
@@ -73,7 +73,8 @@ void PngFile::AddRows(const QImage& image, int first, int count) {
   }
 }
 
-QByteArray PngFile::Finish() {
+Result<QByteArray> PngFile::Finish() {
+  if (!ready_) return Error{Error::Kind::Refused, "", 0, "not enough memory to compress the picture"};
   Compress({}, Z_FINISH);
   AddChunk("IEND", {});
   return std::move(file_);

@@ -5,6 +5,8 @@
 #include <QSize>
 #include <memory>
 
+#include "core/Result.h"
+
 struct z_stream_s;
 
 namespace kestrel {
@@ -20,8 +22,8 @@ class PngFile {
   /// REQUIRES: the image is as wide as the picture, Format_RGB32.
   void AddRows(const QImage& image, int first, int count);
 
-  /// The whole file. Call once, after the last row.
-  QByteArray Finish();
+  /// The whole file. Call once, after the last row. Refused: the compressor had no memory.
+  Result<QByteArray> Finish();
 
  private:
   void AddChunk(const char* type, const QByteArray& content);
@@ -30,6 +32,7 @@ class PngFile {
   QByteArray file_;
   QByteArray row_;
   std::unique_ptr<z_stream_s> stream_;
+  bool ready_ = false;  // to compress
 };
 
 }  // namespace kestrel
