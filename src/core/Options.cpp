@@ -3,13 +3,6 @@
 namespace kestrel {
 namespace {
 
-constexpr ColorValue kGreen = 65280;
-constexpr ColorValue kRed = 255;
-constexpr ColorValue kCyan = 16776960;
-constexpr ColorValue kBlue = 16711680;
-constexpr ColorValue kOrange = 33023;
-constexpr ColorValue kNearBlack = 986895;
-
 void FillUnset(ColorValue& color, ColorValue value) {
   if (color == 0) color = value;
 }
@@ -17,20 +10,20 @@ void FillUnset(ColorValue& color, ColorValue value) {
 }  // namespace
 
 void FillUnsetOptions(SessionState& state) {
-  FillUnset(state.DayColor, kGreen);
-  FillUnset(state.UnlimitedColor, kRed);
-  FillUnset(state.CriticalColor, kCyan);
-  FillUnset(state.AdjacentColor, kBlue);
-  for (ColorValue& color : state.FurtherAdjacentColors) FillUnset(color, kBlue);
+  FillUnset(state.DayColor, Palette::Daytime);
+  FillUnset(state.UnlimitedColor, Palette::Unlimited);
+  FillUnset(state.CriticalColor, Palette::Critical);
+  FillUnset(state.AdjacentColor, Palette::FurtherAdjacent);
+  for (ColorValue& color : state.FurtherAdjacentColors) FillUnset(color, Palette::FurtherAdjacent);
   if (state.MapLanguage != "fr" && state.MapLanguage != "es") state.MapLanguage = "en";
 }
 
 void SetDefaultColors(SessionState& state) {
-  state.DayColor = kGreen;
-  state.NightColor = kNearBlack;
-  state.UnlimitedColor = kRed;
-  state.CriticalColor = kCyan;
-  state.AdjacentColor = kOrange;
+  state.DayColor = Palette::Daytime;
+  state.NightColor = Palette::RecommendedNighttime;
+  state.UnlimitedColor = Palette::Unlimited;
+  state.CriticalColor = Palette::Critical;
+  state.AdjacentColor = Palette::RecommendedAdjacent;
 }
 
 }  // namespace kestrel

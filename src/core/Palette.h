@@ -7,9 +7,18 @@ namespace kestrel {
 /// A colour as 0x00BBGGRR: 255 is red, 16711680 blue, 16777215 white.
 using ColorValue = std::int32_t;
 
-/// The inks of all figures, beside those of the hours, which the listener chooses (SessionState). Some are
-/// equal; each has its own name, so that one can change without the others.
+/// The inks of all figures. Some are equal; each has its own name, so that one can change without the others.
 struct Palette {
+  // The patterns of the main map, until the listener chooses others (SessionState, Options.h).
+  static constexpr ColorValue Daytime = 0x00FF00;
+  static constexpr ColorValue Nighttime = 0;
+  static constexpr ColorValue Unlimited = 0x0000FF;
+  static constexpr ColorValue Critical = 0xFFFF00;
+  static constexpr ColorValue Adjacent = 0x033023;
+  static constexpr ColorValue FurtherAdjacent = 0xFF0000;
+  static constexpr ColorValue RecommendedNighttime = 0x0F0F0F;  ///< differs from 0, which is "never chosen"
+  static constexpr ColorValue RecommendedAdjacent = 0x0080FF;   ///< differs from the map's blue
+
   static constexpr ColorValue Black = 0;
   static constexpr ColorValue White = 0xFFFFFF;
   static constexpr ColorValue Text = 0x202020;

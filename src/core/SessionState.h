@@ -22,16 +22,17 @@ struct SessionState {
   float PatternSize = 0.5F;         ///< relative size of the drawn patterns, within PatternSizeLimits
   float ScaleFactor = 200;          ///< twips per 75 km of ground, within ScaleLimits
   std::int16_t DistanceUnit = 0;    ///< 0 kilometres, 1 statute miles
-  ColorValue DayColor = 65280;
-  ColorValue NightColor = 0;
-  ColorValue UnlimitedColor = 255;
-  ColorValue CriticalColor = 16776960;
-  ColorValue AdjacentColor = 208931;
+  ColorValue DayColor = Palette::Daytime;
+  ColorValue NightColor = Palette::Nighttime;
+  ColorValue UnlimitedColor = Palette::Unlimited;
+  ColorValue CriticalColor = Palette::Critical;
+  ColorValue AdjacentColor = Palette::Adjacent;
   std::string MapLanguage;  ///< "en", "fr" or "es"; empty until the options have been opened once
   float AspectRatio = 1;    ///< widens pattern outlines; twips are square, so 1 keeps a circle round
 
   /// Colours of further adjacent channels; not saved.
-  std::array<ColorValue, 3> FurtherAdjacentColors = {16711680, 16711680, 16711680};
+  std::array<ColorValue, 3> FurtherAdjacentColors = {Palette::FurtherAdjacent, Palette::FurtherAdjacent,
+                                                     Palette::FurtherAdjacent};
 
   // Of this run only.
   std::string ProgramVersion = "3.06";
