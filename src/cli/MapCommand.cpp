@@ -42,7 +42,7 @@ void DrawMap(const Request& request, const View& view) {
     Say(DrawMainMap(drawing, DataFor(request), state));
   }
   const Result<Done> written =
-      WritePicture(drawing, request.Size, QString::fromStdString(request.Output), request.Labels);
+      WritePicture(drawing, request.Size, QString::fromStdString(request.Output), request.Look);
   if (!written) Fail(request.Output, written.error(), "the picture was not written");
 }
 

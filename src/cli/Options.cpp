@@ -136,8 +136,8 @@ CLI::Option* AddPicture(CLI::App& command, Request& request) {
                                         "the picture's size in pixels, 64 to 16384 each way [1600x1200]")
       ->type_name("WxH");
   const auto storeLabels = [&request](const std::string& given) {
-    request.Labels = LabelChoiceOf(given);
-    if (LabelChoiceWord(request.Labels) != given) Refuse("--labels", given, "fitting, all or none");
+    request.Look.Labels = LabelChoiceOf(given);
+    if (LabelChoiceWord(request.Look.Labels) != given) Refuse("--labels", given, "fitting, all or none");
   };
   command
       .add_option_function<std::string>("--labels", storeLabels,

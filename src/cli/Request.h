@@ -10,7 +10,7 @@
 #include "core/SessionState.h"
 #include "data/DataFolder.h"
 #include "field/Ranking.h"
-#include "map/Labels.h"
+#include "map/MapLook.h"
 
 namespace kestrel::cli {
 
@@ -25,7 +25,7 @@ struct Request {
   std::optional<float> PatternSize;
   std::optional<float> Aspect;
   QSize Size = {1600, 1200};
-  LabelChoice Labels = LabelChoice::Fitting;
+  MapLook Look;
   std::string Output;
   bool Json = false;
   bool Csv = false;

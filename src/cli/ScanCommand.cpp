@@ -85,7 +85,7 @@ void Scan(const Request& request) {
   Say(DrawOutlineFiles(drawing, folder, projection));
   DrawBand(folder, projection, drawing);
   const Result<Done> written =
-      WritePicture(drawing, request.Size, QString::fromStdString(request.Output), request.Labels);
+      WritePicture(drawing, request.Size, QString::fromStdString(request.Output), request.Look);
   if (!written) Fail(request.Output, written.error(), "the picture was not written");
 }
 

@@ -83,7 +83,8 @@ void LabelPlacement::TakeFixedBoxes(const DisplayList& list, const SurfaceRules&
          {HomeOnSheet.x + kHomeReach, HomeOnSheet.y + kHomeReach});
   for (; panelsTaken_ < panels.size(); ++panelsTaken_) {
     const PanelBox& panel = panels[panelsTaken_];
-    view.BeginPanel(panel.Anchor, panel.Smallest);
+    if (panel.Layer && !rules.Look.Shows(*panel.Layer)) continue;
+    view.BeginPanel(panel.Anchor, panel.Smallest, panel.Place);
     take(panel.Corner, panel.Opposite);
     view.EndPanel();
   }
@@ -98,8 +99,8 @@ void LabelPlacement::PlaceAll(const DisplayList& list, const SurfaceRules& rules
 
 void LabelPlacement::PlaceMore(const DisplayList& list, const SurfaceRules& rules) {
   const std::vector<KeptLabel>& labels = list.Labels();
-  if (rules.Labels != LabelChoice::Fitting) {
-    if (rules.Labels == LabelChoice::None) places_.assign(labels.size(), std::nullopt);
+  if (rules.Look.Labels != LabelChoice::Fitting) {
+    if (rules.Look.Labels == LabelChoice::None) places_.assign(labels.size(), std::nullopt);
     return;
   }
   const SurfaceView view(rules);
@@ -154,7 +155,7 @@ void LabelPlacement::PlaceMore(const DisplayList& list, const SurfaceRules& rule
 void PlayPlaced(const DisplayList& list, const SurfaceRules& rules, Canvas& canvas) {
   LabelPlacement placement;
   placement.PlaceAll(list, rules);
-  list.PlayFrom(0, canvas, SheetBox::Everything(), placement.Places());
+  list.PlayFrom(0, canvas, SheetBox::Everything(), placement.Places(), rules.Look);
 }
 
 }  // namespace kestrel

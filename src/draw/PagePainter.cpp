@@ -23,6 +23,10 @@ SurfaceRules RulesOf(const PagePane& pane, double unitsPerTwip, double unitsPerI
   SurfaceRules rules = RulesFor(place, pane.Sheet, unitsPerInch / kHairsPerInch);
   const double shrinking = unitsPerTwip * kTwipsPerInch / unitsPerInch;
   const double points = std::min(kSmallestPoints, kMostPointsOfLayout * shrinking);
+  rules.Look = pane.Look;
+  const Point corner = rules.Fit.ToSurface(pane.Moved);
+  rules.Frame =
+      QRectF(corner.x, corner.y, double{rules.Fit.Scale} * SheetWidth, double{rules.Fit.Scale} * SheetHeight);
   rules.SmallestXHeight = points / kPointsPerInch * kHairsPerInch * XHeightShare(FontFace::Sans);
   return rules;
 }

@@ -135,8 +135,8 @@ void PainterCanvas::RimmedText(Point topLeft, std::string_view text) {
   painter_.drawText(*at, string);
 }
 
-void PainterCanvas::BeginPanel(Point anchor, const Font& smallest) {
-  view_.BeginPanel(anchor, smallest);
+void PainterCanvas::BeginPanel(Point anchor, const Font& smallest, PanelPlace place) {
+  view_.BeginPanel(anchor, smallest, place);
   fontStale_ = true;
 }
 

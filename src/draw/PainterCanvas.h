@@ -34,7 +34,7 @@ class PainterCanvas final : public Canvas {
   float TextHeight() const override { return measure_.TextHeight(font_); }
   void BeginStation(const StationMark&) override {}
   void EndStation() override {}
-  void BeginPanel(Point anchor, const Font& smallest) override;
+  void BeginPanel(Point anchor, const Font& smallest, PanelPlace place) override;
   void EndPanel() override;
 
  private:

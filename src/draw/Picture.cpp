@@ -42,7 +42,14 @@ QByteArray SvgBytes(const DisplayList& drawing, SurfaceRules rules, QSize size) 
   return canvas.Finish();
 }
 
-QByteArray PdfBytes(const DisplayList& drawing, QSize size, LabelChoice labels) {
+SurfaceRules PictureRules(const QRectF& surface, double pixelSize, const MapLook& look, Point moved) {
+  SurfaceRules rules = RulesFor(surface, {}, pixelSize);
+  rules.Look = look;
+  MoveSheet(rules, moved);
+  return rules;
+}
+
+QByteArray PdfBytes(const DisplayList& drawing, QSize size, const MapLook& look, Point moved) {
   QBuffer buffer;
   buffer.open(QIODevice::WriteOnly);
   QPdfWriter writer(&buffer);
@@ -52,8 +59,8 @@ QByteArray PdfBytes(const DisplayList& drawing, QSize size, LabelChoice labels) 
   writer.setPageSize(QPageSize(QSizeF(size) / kPixelsPerInch, QPageSize::Inch, {}, QPageSize::ExactMatch));
   writer.setPageMargins(QMarginsF());
   QPainter painter(&writer);
-  SurfaceRules rules = RulesFor({{0, 0}, QSizeF(size) * kPdfUnitsPerPixel}, {}, kPdfUnitsPerPixel);
-  rules.Labels = labels;
+  SurfaceRules rules =
+      PictureRules({{0, 0}, QSizeF(size) * kPdfUnitsPerPixel}, kPdfUnitsPerPixel, look, moved);
   rules.Thinning = 0.25;
   painter.setClipRect(rules.Area);
   PainterCanvas canvas(painter, rules);
@@ -64,10 +71,16 @@ QByteArray PdfBytes(const DisplayList& drawing, QSize size, LabelChoice labels) 
 
 }  // namespace
 
-Result<Done> WritePicture(const DisplayList& drawing, QSize size, const QString& path, LabelChoice labels) {
+QImage RenderImage(const DisplayList& drawing, QSize size, const MapLook& look, Point moved) {
+  QImage image(size, QImage::Format_RGB32);
+  Renderer().Draw(drawing, PictureRules(QRect({0, 0}, size), 1, look, moved), image);
+  return image;
+}
+
+Result<Done> WritePicture(const DisplayList& drawing, QSize size, const QString& path, const MapLook& look,
+                          Point moved) {
   const QString kind = QFileInfo(path).suffix().toLower();
-  SurfaceRules rules = RulesFor(QRect({0, 0}, size));
-  rules.Labels = labels;
+  const SurfaceRules rules = PictureRules(QRect({0, 0}, size), 1, look, moved);
   Result<QByteArray> bytes =
       Error{Error::Kind::Malformed, "", 0, "a picture's name ends in .png, .svg or .pdf"};
   if (kind == "png")
@@ -75,7 +88,7 @@ Result<Done> WritePicture(const DisplayList& drawing, QSize size, const QString&
   else if (kind == "svg")
     bytes = SvgBytes(drawing, rules, size);
   else if (kind == "pdf")
-    bytes = PdfBytes(drawing, size, labels);
+    bytes = PdfBytes(drawing, size, look, moved);
   if (bytes) return WriteFile(path, {bytes->constData(), static_cast<std::size_t>(bytes->size())});
   Error error = bytes.error();
   error.file = path.toStdString();

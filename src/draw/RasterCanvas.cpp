@@ -169,8 +169,8 @@ void RasterCanvas::DrawText(Point topLeft, std::string_view text, bool rimmed) {
   painter.drawText(start, string);
 }
 
-void RasterCanvas::BeginPanel(Point anchor, const Font& smallest) {
-  view_.BeginPanel(anchor, smallest);
+void RasterCanvas::BeginPanel(Point anchor, const Font& smallest, PanelPlace place) {
+  view_.BeginPanel(anchor, smallest, place);
   std::erase_if(styles_, [](const Style& style) { return style.inPanel; });
   inPanel_ = true;
 }

@@ -90,14 +90,14 @@ void Renderer::Draw(const DisplayList& list, const SurfaceRules& rules, QImage& 
   labels_.PlaceAll(list, rules);
   DrawStrips(image, top, list.Length(), rules, [&](QImage& rows, RasterCanvas& canvas, const SheetBox& box) {
     rows.fill(Qt::white);
-    list.PlayFrom(0, canvas, box, labels_.Places());
+    list.PlayFrom(0, canvas, box, labels_.Places(), rules.Look);
   });
 }
 
 void Renderer::DrawMore(const DisplayList& list, std::size_t from, const SurfaceRules& rules, QImage& image) {
   labels_.PlaceMore(list, rules);
   DrawStrips(image, 0, list.Length() - from, rules, [&](QImage&, RasterCanvas& canvas, const SheetBox& box) {
-    list.PlayFrom(from, canvas, box, labels_.Places());
+    list.PlayFrom(from, canvas, box, labels_.Places(), rules.Look);
   });
 }
 

@@ -17,6 +17,31 @@ SurfaceRules RulesFor(const QRectF& surface, const SheetArea& area, double pixel
   return rules;
 }
 
+void MoveSheet(SurfaceRules& rules, Point by) {
+  const SheetFit& fit = rules.Fit;
+  if (!rules.Frame)
+    rules.Frame = QRectF(fit.Left, fit.Top, double{fit.Scale} * SheetWidth, double{fit.Scale} * SheetHeight);
+  const auto pixel = static_cast<float>(rules.PixelSize);
+  const auto whole = [&](float twips) { return std::round(twips * fit.Scale / pixel) * pixel; };
+  rules.Fit.Left -= whole(by.x);
+  rules.Fit.Top -= whole(by.y);
+}
+
+Point MoveWithinLimits(const SurfaceRules& rules, Point by) {
+  const auto held = [](float wanted, float first, float last) {
+    const float least = std::min(-CoordinateLimit - first, 0.0F);
+    const float most = std::max(CoordinateLimit - last, 0.0F);
+    // A surface that shows the whole range already has nowhere to go.
+    return least < most && last - first < 2 * CoordinateLimit ? std::clamp(wanted, least, most) : 0;
+  };
+  const auto corner = [&](const QPointF& at) {
+    return rules.Fit.ToSheet({static_cast<float>(at.x()), static_cast<float>(at.y())});
+  };
+  const Point first = corner(rules.Area.topLeft());
+  const Point last = corner(rules.Area.bottomRight());
+  return {held(by.x, first.x, last.x), held(by.y, first.y, last.y)};
+}
+
 Point SurfaceView::Grown(Point sheet) const {
   const auto growth = static_cast<float>(panelGrowth_);
   return {panelAnchor_.x + (sheet.x - panelAnchor_.x) * growth,
@@ -37,9 +62,21 @@ Point SurfaceView::Baseline(Point topLeft, const Font& font) const {
   return At({topLeft.x, topLeft.y + PlatformTextMeasure().Ascent(font)});
 }
 
-void SurfaceView::BeginPanel(Point anchor, const Font& smallest) {
+void SurfaceView::BeginPanel(Point anchor, const Font& smallest, PanelPlace place) {
   panelAnchor_ = anchor;
-  panelGrowth_ = Growth(smallest);
+  panelGrowth_ = smallest.Points > 0 ? Growth(smallest) : 1;
+  if (place == PanelPlace::OnMap || !rules_.Frame) return;
+  const QRectF& frame = *rules_.Frame;
+  const double scale = fit_.Scale;
+  const bool right = place == PanelPlace::LowerRight;
+  const bool lower = place != PanelPlace::UpperLeft;
+  fit_.Left = static_cast<float>(right ? frame.right() - scale * SheetWidth : frame.left());
+  fit_.Top = static_cast<float>(lower ? frame.bottom() - scale * SheetHeight : frame.top());
+}
+
+void SurfaceView::EndPanel() {
+  panelGrowth_ = 1;
+  fit_ = rules_.Fit;
 }
 
 QRectF SurfaceView::Filled(Point corner, Point opposite) const {

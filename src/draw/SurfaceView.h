@@ -2,10 +2,11 @@
 
 #include <QPolygonF>
 #include <QRectF>
+#include <optional>
 #include <span>
 
 #include "draw/ThinnedRun.h"
-#include "map/Labels.h"
+#include "map/MapLook.h"
 #include "map/Sheet.h"
 
 namespace kestrel {
@@ -22,20 +23,29 @@ struct SurfaceRules {
   double SmallestXHeight = 7;  ///< in pixels; text below it grows; 0: text keeps its size
   double Thinning = 0.5;       ///< vertices closer together than this many pixels are joined into one, those
                                ///< off a straight line by less than a fifth of it left out: 1.2 times at most
-  LabelChoice Labels = LabelChoice::Fitting;
+  MapLook Look;
+  std::optional<QRectF> Frame;  ///< whose corners the panels of corners keep to; nothing: the sheet's
 };
 
 /// The rules for a surface that `area` of the sheet is fitted to.
 SurfaceRules RulesFor(const QRectF& surface, const SheetArea& area = {}, double pixelSize = 1);
+
+/// Shows another part of the sheet, `by` twips farther right and down, to the nearest pixel. Panels of
+/// corners stay where they are.
+void MoveSheet(SurfaceRules& rules, Point by);
+
+/// How far the sheet can be moved towards `by` with the surface showing nothing beyond the coordinate limit,
+/// or no more of it than before. REQUIRES: the rules are those before moving.
+Point MoveWithinLimits(const SurfaceRules& rules, Point by);
 
 /// Takes places and lengths of the sheet to the surface, panels included. Culling and thinning happen here,
 /// when a figure reaches its surface.
 class SurfaceView {
  public:
   explicit SurfaceView(const SurfaceRules& rules)
-      : rules_(rules), run_(static_cast<float>(rules.Thinning * rules.PixelSize)) {}
+      : rules_(rules), fit_(rules.Fit), run_(static_cast<float>(rules.Thinning * rules.PixelSize)) {}
 
-  Point At(Point sheet) const { return rules_.Fit.ToSurface(panelGrowth_ == 1 ? sheet : Grown(sheet)); }
+  Point At(Point sheet) const { return fit_.ToSurface(panelGrowth_ == 1 ? sheet : Grown(sheet)); }
   double Length(double twips) const { return twips * rules_.Fit.Scale * panelGrowth_; }
   double PixelSize() const { return rules_.PixelSize; }
   const QRectF& Area() const { return rules_.Area; }
@@ -47,8 +57,8 @@ class SurfaceView {
   /// corner.
   Point Baseline(Point topLeft, const Font& font) const;
 
-  void BeginPanel(Point anchor, const Font& smallest);
-  void EndPanel() { panelGrowth_ = 1; }
+  void BeginPanel(Point anchor, const Font& smallest, PanelPlace place = PanelPlace::OnMap);
+  void EndPanel();
 
   /// A box on the surface, its edges on whole pixels: boxes that share an edge leave no seam between them
   /// through which lines shine.
@@ -73,6 +83,7 @@ class SurfaceView {
   Point Grown(Point sheet) const;
 
   SurfaceRules rules_;
+  SheetFit fit_;  // the rules', or that of the present panel's corner
   double panelGrowth_ = 1;
   Point panelAnchor_;
   ThinnedRun run_;

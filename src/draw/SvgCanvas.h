@@ -39,7 +39,9 @@ class SvgCanvas final : public Canvas {
   float TextHeight() const override { return measure_.TextHeight(font_); }
   void BeginStation(const StationMark& mark) override;
   void EndStation() override;
-  void BeginPanel(Point anchor, const Font& smallest) override { view_.BeginPanel(anchor, smallest); }
+  void BeginPanel(Point anchor, const Font& smallest, PanelPlace place) override {
+    view_.BeginPanel(anchor, smallest, place);
+  }
   void EndPanel() override { view_.EndPanel(); }
 
  private:

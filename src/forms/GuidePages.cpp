@@ -62,7 +62,8 @@ QStringList GuideContents() {
   QStringList pages;
   for (const GuideWindow& row : kWindows) pages << QString(row.Page).section('#', 0, 0);
   pages.removeDuplicates();
-  return pages << "guide/who.md" << KeysPage;
+  return pages << "guide/view.md"
+               << "guide/who.md" << KeysPage;
 }
 
 QString PageOf(const QWidget& widget) {

@@ -1,5 +1,6 @@
 #include "forms/frmPlot.h"
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -28,6 +29,7 @@
 #include "ui/Controls.h"
 #include "ui/MapSurface.h"
 #include "ui/PrintCommands.h"
+#include "ui/ViewMenu.h"
 
 namespace kestrel {
 namespace {
@@ -42,20 +44,19 @@ auto DrawnSettings(const SessionState& state) {
 
 }  // namespace
 
-frmPlot::frmPlot(const Workspace& workspace) : workspace_(workspace) {
+frmPlot::frmPlot(const Workspace& workspace)
+    : workspace_(workspace), surface_(new MapSurface(this)), view_(workspace.State, *surface_) {
   setObjectName("frmPlot");
   setWindowTitle("KestrelII - Plot");
 
-  surface_ = new MapSurface(this);
   surface_->setObjectName("Map");
-  surface_->WheelTurned = [this](int steps) {
-    for (int i = 0; i < std::abs(steps); ++i) Button(steps > 0 ? "cmdIn" : "cmdOut")->click();
-  };
+  view_.Redraw = [this] { Redraw(); };
   surface_->TipWanted = [this](Point place) { return TipAt(place); };
   surface_->Clicked = [this](Point place) {
     if (!scanning_) ClickAt(place);
   };
 
+  AddViewMenu();
   auto* column = new CommandColumn(this);
   AddCommands(*column);
   column->Finish();
@@ -107,14 +108,17 @@ void frmPlot::ChooseFrequency() {
   frmGetFrequency form(workspace_, this);
   RunForm(form);
   if (form.Choice() == frmGetFrequency::Plot::Nothing) return;
+  const bool otherScale = view_.GoBack();
   workspace_.State.SelectedFrequency = workspace_.State.CurrentFrequency;
-  Redraw(form.Choice() == frmGetFrequency::Plot::OnTop ? MapGround::AsDrawn : MapGround::Empty);
+  Redraw(form.Choice() == frmGetFrequency::Plot::OnTop && !otherScale ? MapGround::AsDrawn
+                                                                      : MapGround::Empty);
 }
 
 void frmPlot::StepChannel(std::optional<std::string> (*step)(SessionState&)) {
   if (scanning_) return;
   if (const auto message = step(workspace_.State)) workspace_.System.ShowMessage(this, Text(*message));
   workspace_.State.SelectedFrequency = workspace_.State.CurrentFrequency;
+  view_.GoBack();
   Redraw();
 }
 
@@ -124,7 +128,9 @@ void frmPlot::LookUp(const QString& callSign) {
 
 void frmPlot::ChooseHome() {
   const auto before = DrawnSettings(workspace_.State);
+  const Position home = workspace_.State.Home();
   RunForm(frmGetHome(workspace_, this));
+  if (workspace_.State.Home() != home) surface_->MoveTo({});
   if (DrawnSettings(workspace_.State) != before) Redraw();
 }
 
@@ -177,23 +183,20 @@ void frmPlot::ToggleCompass() {
   surface_->ShowAdditions();
 }
 
-void frmPlot::ChangeView(void (*change)(SessionState&)) {
-  change(workspace_.State);
-  Redraw();
-}
-
 void frmPlot::Print() {
   const Point corner = surface_->ToSheet({0, 0});
   const Point opposite = surface_->ToSheet(QPointF(surface_->width(), surface_->height()));
   const SheetArea shown = {corner.x, corner.y, opposite.x - corner.x, opposite.y - corner.y};
-  PrintMap(workspace_.System, workspace_.Folder, workspace_.State, {surface_->Drawing(), shown, scanned_},
-           this);
+  const ShownMap map = {surface_->Drawing(), shown, scanned_, surface_->Look(), surface_->Moved()};
+  PrintMap(workspace_.System, workspace_.Folder, workspace_.State, map, this);
 }
 
 void frmPlot::ChooseScan() {
+  const MapView::Present before(view_);
   frmShowStations form(workspace_, this);
   RunForm(form);
   if (form.Choice() == frmShowStations::Plot::Nothing) return;
+  view_.RememberIfChanged(before);
   if (!scanning_) return Scan();
   // The scan that runs ends before its next channel, then the new one begins.
   scanAgain_ = true;
@@ -229,14 +232,18 @@ void frmPlot::ScanOnce() {
     workspace_.System.ProcessEvents();
   }
   state.StopRequested = true;
+  // The labels that came channel by channel are placed once more, each with regard to all.
+  surface_->ShowDrawing();
 }
 
 void frmPlot::ShowScanControls(bool running) {
   scanning_ = running;
   for (QPushButton* button : findChildren<QPushButton*>()) {
     const QString name = button->objectName();
-    button->setEnabled(!running || name == "cmdStop" || name == "cmdAll" || name == "cmdExit");
+    button->setEnabled(!running || name == "cmdStop" || name == "cmdAll" || name == "cmdView" ||
+                       name == "cmdExit");
   }
+  menu_->findChild<QAction*>("actReset")->setEnabled(!running);
   Button("cmdStop")->setVisible(running);
   Button("cmdStop")->setEnabled(running);
   progress_->setVisible(running);

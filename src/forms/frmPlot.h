@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "forms/MapView.h"
 #include "forms/Workspace.h"
 #include "map/MainMap.h"
 
@@ -18,6 +19,7 @@ namespace kestrel {
 class CommandColumn;
 class frmAspect;
 class MapSurface;
+class ViewMenu;
 
 /// The main window: the map around home and the column of commands. Every command works on the session and
 /// then has the map drawn anew, or added to, from the files.
@@ -36,6 +38,7 @@ class frmPlot final : public QWidget {
  private:
   void AddCommands(CommandColumn& column);
   void AddViewCommands(CommandColumn& column);
+  void AddViewMenu();
 
   void RunForm(QDialog& form);
   void RunForm(QDialog&& form) { RunForm(form); }
@@ -48,7 +51,6 @@ class frmPlot final : public QWidget {
   void AdjustAspect();
   void NextHoursFilter();
   void ToggleCompass();
-  void ChangeView(void (*change)(SessionState&));
   void Print();
 
   void ChooseScan();
@@ -66,6 +68,8 @@ class frmPlot final : public QWidget {
 
   Workspace workspace_;
   MapSurface* surface_;
+  MapView view_;
+  ViewMenu* menu_;
   QProgressBar* progress_;
   QLabel* savedNotice_;
   QPointer<frmAspect> aspect_;  // while it is open

@@ -14,6 +14,9 @@
 #include "map/View.h"
 #include "ui/CommandColumn.h"
 #include "ui/Keys.h"
+#include "ui/MapMover.h"
+#include "ui/MapSurface.h"
+#include "ui/ViewMenu.h"
 
 namespace kestrel {
 
@@ -42,16 +45,37 @@ void frmPlot::AddCommands(CommandColumn& column) {
   AddShortcuts(*this, "channelDown", [this] { StepChannel(StepDown); });
 }
 
+void frmPlot::AddViewMenu() {
+  menu_ = new ViewMenu(*this);
+  menu_->Turned = [this](const QString&) { surface_->SetLook(menu_->Look()); };
+  menu_->AddCommand("actReset", "&Reset view", [this] { view_.Reset(); });
+  surface_->SetLook(menu_->Look());
+  auto* mover = new MapMover(*surface_);
+  mover->ZoomWanted = [this](double factor, Point place) {
+    if (!scanning_) view_.Zoom(factor, place);
+  };
+  surface_->setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(surface_, &QWidget::customContextMenuRequested, menu_,
+          [this](QPoint at) { menu_->popup(surface_->mapToGlobal(at)); });
+}
+
 void frmPlot::AddViewCommands(CommandColumn& column) {
   const QColor ink = palette().color(QPalette::ButtonText);
-  const auto view = [this](void (*change)(SessionState&)) { return [this, change] { ChangeView(change); }; };
+  const auto zoom = [this](double factor) { return [this, factor] { view_.Zoom(factor); }; };
+  const auto patterns = [this](void (*change)(SessionState&)) {
+    return [this, change] { view_.Change(change); };
+  };
   column.AddGap();
+  column.AddCommand("cmdView", "&View", [this] {
+    const QWidget* button = Button("cmdView");
+    menu_->popup(button->mapToGlobal(QPoint(0, button->height())));
+  });
   column.AddCommand("cmdHours", "Hour&s", [this] { NextHoursFilter(); });
   column.AddCommand("cmdCompass", "&Compass", [this] { ToggleCompass(); });
-  column.AddCommand("cmdIn", "&In", view(ZoomIn))->setIcon(ZoomIcon(true, ink));
-  column.AddCommand("cmdOut", "O&ut", view(ZoomOut))->setIcon(ZoomIcon(false, ink));
-  column.AddCommand("cmdLarger", "&Larger", view(EnlargePatterns))->setIcon(PatternIcon(true, ink));
-  column.AddCommand("cmdSmaller", "Smalle&r", view(ShrinkPatterns))->setIcon(PatternIcon(false, ink));
+  column.AddCommand("cmdIn", "&In", zoom(ZoomStep))->setIcon(ZoomIcon(true, ink));
+  column.AddCommand("cmdOut", "O&ut", zoom(1 / ZoomStep))->setIcon(ZoomIcon(false, ink));
+  column.AddCommand("cmdLarger", "&Larger", patterns(EnlargePatterns))->setIcon(PatternIcon(true, ink));
+  column.AddCommand("cmdSmaller", "Smalle&r", patterns(ShrinkPatterns))->setIcon(PatternIcon(false, ink));
   column.AddGap();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
@@ -49,6 +50,12 @@ struct StationLabel {
   float Weight = 0;     ///< power over the square of the distance from home, in any unit
 };
 
+/// What a panel keeps to: its place on the map, or a corner of the surface, however the map is moved.
+enum class PanelPlace : std::uint8_t { OnMap, UpperLeft, LowerLeft, LowerRight };
+
+/// Parts of the map that a surface may leave out.
+enum class MapLayer : std::uint8_t { Legend, Rings, ScaleBar };
+
 /// Where a label's upper left corner is tried first: 60 twips left of the station, just above it.
 inline Point FirstLabelPlace(Point station) {
   return {station.x - 60, station.y - 210};
@@ -90,9 +97,16 @@ class Canvas {
   virtual void EndStation() = 0;
 
   /// What is drawn up to EndPanel is one piece around `anchor`: where its text, of the font given, would come
-  /// out too small to read, the whole piece grows away from the anchor. Panels do not nest.
-  virtual void BeginPanel(Point anchor, const Font& smallest) = 0;
+  /// out too small to read, the whole piece grows away from the anchor. A font of 0 points lets nothing grow
+  /// but text itself. Of a corner's panel the coordinates tell how far from the sheet's corner it stands.
+  /// Panels do not nest.
+  virtual void BeginPanel(Point anchor, const Font& smallest, PanelPlace place = PanelPlace::OnMap) = 0;
   virtual void EndPanel() = 0;
+
+  /// What is drawn up to EndLayer is left out where the layer is not shown. Layers do not nest; panels and
+  /// stations begin and end within one.
+  virtual void BeginLayer(MapLayer) {}
+  virtual void EndLayer() {}
 };
 
 }  // namespace kestrel

@@ -52,7 +52,8 @@ void DisplayList::Box(Point corner, Point opposite) {
   AddPoints(Verb::Box, std::array{corner, opposite});
 }
 void DisplayList::FilledBox(Point corner, Point opposite) {
-  if (panel_) panelBoxes_.push_back({panel_->Anchor, panel_->Smallest, corner, opposite});
+  if (panel_)
+    panelBoxes_.push_back({panel_->Anchor, panel_->Smallest, corner, opposite, panel_->Place, layer_});
   AddPoints(Verb::FilledBox, std::array{corner, opposite});
 }
 void DisplayList::Area(std::string_view name, std::span<const Point> outline) {
@@ -100,10 +101,11 @@ void DisplayList::EndStation() {
   AddPoints(Verb::EndStation, {});
 }
 
-void DisplayList::BeginPanel(Point anchor, const Font& smallest) {
-  panel_ = PanelBox{anchor, smallest, {}, {}};
+void DisplayList::BeginPanel(Point anchor, const Font& smallest, PanelPlace place) {
+  panel_ = PanelBox{anchor, smallest, {}, {}, place, {}};
   AddPoints(Verb::BeginPanel, std::array{anchor}, smallest.Points);
   commands_.back().face = smallest.Face;
+  commands_.back().count = static_cast<std::uint32_t>(place);
 }
 
 void DisplayList::EndPanel() {
@@ -111,10 +113,23 @@ void DisplayList::EndPanel() {
   AddPoints(Verb::EndPanel, {});
 }
 
+void DisplayList::BeginLayer(MapLayer layer) {
+  layer_ = layer;
+  Command command{Verb::BeginLayer};
+  command.first = static_cast<std::uint32_t>(layer);
+  commands_.push_back(command);
+}
+
+void DisplayList::EndLayer() {
+  layer_.reset();
+  commands_.push_back(Command{Verb::EndLayer});
+}
+
 void DisplayList::Clear() {
   font_ = {};
   color_ = 0;
   panel_.reset();
+  layer_.reset();
   labels_.clear();
   panelBoxes_.clear();
   commands_.clear();
@@ -140,8 +155,9 @@ void DisplayList::PlayLabels(std::span<const std::uint32_t> labels, Canvas& canv
 }
 
 void DisplayList::PlayFrom(std::size_t length, Canvas& canvas, const SheetBox& shown,
-                           const LabelPlaces& places) const {
+                           const LabelPlaces& places, const MapLook& look) const {
   bool inPanel = false;               // whose figures may grow out of their boxes
+  bool hidden = false;                // the present layer is
   std::vector<std::uint32_t> labels;  // not yet drawn: they lie over the lines of all stations
   Command color{Verb::SetColor}, font{Verb::SetFont};
   font.number = Font().Points;
@@ -156,7 +172,10 @@ void DisplayList::PlayFrom(std::size_t length, Canvas& canvas, const SheetBox& s
     const Command& command = commands_[i];
     if (command.verb == Verb::SetColor) color = command;
     if (command.verb == Verb::SetFont) font = command;
-    if (i < length && !SetsState(command.verb)) continue;
+    if (command.verb == Verb::BeginLayer) hidden = !look.Shows(static_cast<MapLayer>(command.first));
+    const bool passed = i < length || hidden;
+    if (command.verb == Verb::EndLayer) hidden = false;
+    if (passed && !SetsState(command.verb)) continue;
     if (command.verb == Verb::Label) {
       labels.push_back(command.first);
       continue;
@@ -206,9 +225,14 @@ void DisplayList::PlayCommand(const Command& command, Canvas& canvas) const {
     case Verb::EndStation:
       return canvas.EndStation();
     case Verb::BeginPanel:
-      return canvas.BeginPanel(points()[0], {command.face, command.number});
+      return canvas.BeginPanel(points()[0], {command.face, command.number},
+                               static_cast<PanelPlace>(command.count));
     case Verb::EndPanel:
       return canvas.EndPanel();
+    case Verb::BeginLayer:
+      return canvas.BeginLayer(static_cast<MapLayer>(command.first));
+    case Verb::EndLayer:
+      return canvas.EndLayer();
   }
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "map/MapLook.h"
 #include "map/Sheet.h"
 
 namespace kestrel {
@@ -26,6 +27,8 @@ struct PanelBox {
   Font Smallest;
   Point Corner;
   Point Opposite;
+  PanelPlace Place = PanelPlace::OnMap;
+  std::optional<MapLayer> Layer;
 };
 
 /// Where labels are drawn: the upper left corner of each, nothing for those left out.
@@ -57,8 +60,10 @@ class DisplayList final : public Canvas {
   float TextHeight() const override { return measure_.TextHeight(font_); }
   void BeginStation(const StationMark& mark) override;
   void EndStation() override;
-  void BeginPanel(Point anchor, const Font& smallest) override;
+  void BeginPanel(Point anchor, const Font& smallest, PanelPlace place = PanelPlace::OnMap) override;
   void EndPanel() override;
+  void BeginLayer(MapLayer layer) override;
+  void EndLayer() override;
 
   /// Discards what has been drawn.
   void Clear();
@@ -76,9 +81,10 @@ class DisplayList final : public Canvas {
 
   /// Likewise, but lines, open or closed, that do not touch `shown` are passed over, unless they belong to a
   /// panel. Lines have no width here: who draws wide ones shows more by their reach.
-  /// The labels come where `places` says, those beyond its end where the canvas has them.
-  void PlayFrom(std::size_t length, Canvas& canvas, const SheetBox& shown,
-                const LabelPlaces& places = {}) const;
+  /// The labels come where `places` says, those beyond its end where the canvas has them. Layers that the
+  /// look does not show are left out.
+  void PlayFrom(std::size_t length, Canvas& canvas, const SheetBox& shown, const LabelPlaces& places = {},
+                const MapLook& look = MapLook::Everything()) const;
 
   /// The stations drawn, in drawing order.
   const std::vector<StationMark>& Stations() const { return stations_; }
@@ -111,6 +117,8 @@ class DisplayList final : public Canvas {
     EndStation,
     BeginPanel,
     EndPanel,
+    BeginLayer,
+    EndLayer,
   };
 
   /// One verb and where its arguments lie.
@@ -118,8 +126,8 @@ class DisplayList final : public Canvas {
     Verb verb;
     FontFace face = FontFace::Sans;
     float number = 0;         // width, radius or font size
-    std::uint32_t first = 0;  // in points_, text_, areas_, stations_ or labels_; or the colour
-    std::uint32_t count = 0;  // of points or bytes of text
+    std::uint32_t first = 0;  // in points_, text_, areas_, stations_ or labels_; or the colour or the layer
+    std::uint32_t count = 0;  // of points or bytes of text; or the panel's place
     Point at = {};            // the text's place
     SheetBox box = {};        // around lines
   };
@@ -144,6 +152,7 @@ class DisplayList final : public Canvas {
   Font font_;
   ColorValue color_ = 0;
   std::optional<PanelBox> panel_;  // being drawn, its box not yet known
+  std::optional<MapLayer> layer_;  // being drawn
   std::vector<Command> commands_;
   std::vector<Point> points_;
   std::string text_;

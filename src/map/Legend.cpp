@@ -80,19 +80,21 @@ void DrawLegend(Canvas& canvas, const SessionState& state, std::optional<Moment>
                                             "    Home Lon: " + NumberText(state.HomeLongitude)},
                              LegendLine{8540, Palette::Text, "Home:  " + state.HomeName}};
 
-  canvas.BeginPanel({kBoxLeft, 9400}, kLegendFont);
+  canvas.BeginLayer(MapLayer::Legend);
+  canvas.BeginPanel({kBoxLeft, 9400}, kLegendFont, PanelPlace::LowerLeft);
   canvas.SetFont(kLegendFont);
   DrawLines(canvas, 6800, 8080, 1900, hours);
   DrawLines(canvas, 8080, 8800, 4500, places);
   DrawScales(canvas, state, moment);
   canvas.EndPanel();
+  canvas.EndLayer();
 }
 
 void DrawHoursBanner(Canvas& canvas, HoursFilter filter) {
   if (filter != HoursFilter::Day && filter != HoursFilter::Night) return;
   const std::string text = filter == HoursFilter::Day ? "    Day, critical & unlimited only"
                                                       : "    Night, critical & unlimited only";
-  canvas.BeginPanel({1230, 30}, kLegendFont);
+  canvas.BeginPanel({1230, 30}, kLegendFont, PanelPlace::UpperLeft);
   canvas.SetFont(kLegendFont);
   canvas.SetColor(Palette::NoticePaper);
   canvas.FilledBox({1230, 30}, {std::max(4600.0F, 1230 + canvas.TextWidth(text) + kMargin), 360});
@@ -103,7 +105,7 @@ void DrawHoursBanner(Canvas& canvas, HoursFilter filter) {
 
 void DrawMissingFileNotice(Canvas& canvas, float frequency) {
   const std::string text = "    No station file for " + NumberText(frequency) + " kHz";
-  canvas.BeginPanel({1230, 30}, kLegendFont);
+  canvas.BeginPanel({1230, 30}, kLegendFont, PanelPlace::UpperLeft);
   canvas.SetFont(kLegendFont);
   canvas.SetColor(Palette::NoticePaper);
   canvas.FilledBox({1230, 400}, {std::max(4600.0F, 1230 + canvas.TextWidth(text) + kMargin), 730});

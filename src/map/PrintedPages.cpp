@@ -80,6 +80,8 @@ SheetArea MapIn(const SheetArea& place, const SheetArea& shown) {
   return {shown.Left - (width - shown.Width) / 2, shown.Top - (height - shown.Height) / 2, width, height};
 }
 
+constexpr std::size_t kMapPane = 1;
+
 /// A title over the framed map.
 std::vector<PagePane> TitledMap(PageSize page, const std::string& title, const std::string& source,
                                 const SheetArea& shown, std::function<void(Canvas&)> draw) {
@@ -184,8 +186,12 @@ PrintedPage MapPage(const SessionState& state, const DataFolder& folder, const S
   const std::string title = ChannelsOn(map, state) + "    Home: " + HomePlace(state);
   const std::string source = folder.StationsLine();
   const auto layout = [title, source, map](PageSize page) {
-    return TitledMap(page, title, source, map.Area,
-                     [&drawing = map.Drawing](Canvas& canvas) { drawing.Play(canvas); });
+    std::vector<PagePane> panes = TitledMap(
+        page, title, source, map.Area, [&drawing = map.Drawing](Canvas& canvas) { drawing.Play(canvas); });
+    PagePane& pane = panes[kMapPane];
+    pane.Look = map.Look;
+    pane.Moved = map.Moved;
+    return panes;
   };
   return {DocumentName(map.Scanned ? "All stations" : ChosenChannel(state), state),
           true,

@@ -27,6 +27,8 @@ struct PagePane {
   SheetArea Place;  ///< on the page, twips from its upper left corner inside the margins
   SheetArea Sheet;  ///< what is fitted into it, centred; what the place holds beyond shows more of the sheet
   std::function<void(Canvas&)> Draw;
+  MapLook Look = {};
+  Point Moved = {};  ///< how far the map was moved; panels of corners keep to where the sheet's were before
 };
 
 /// Whether there is room side by side for what stands one below the other on upright paper.
@@ -50,6 +52,8 @@ struct ShownMap {
   const DisplayList& Drawing;
   SheetArea Area;        ///< of the sheet and beyond, as far as the window shows it
   bool Scanned = false;  ///< it began with the stations of a whole-band scan, not with the chosen channel
+  MapLook Look = {};
+  Point Moved = {};  ///< how far the window has moved the map
 };
 
 /// The main map as it was drawn and at least as far as it is shown, under its channels, home and the line

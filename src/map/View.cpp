@@ -1,7 +1,5 @@
 #include "map/View.h"
 
-#include <numbers>
-
 #include "core/ViewLimits.h"
 
 namespace kestrel {
@@ -11,24 +9,26 @@ float Stepped(double value, double factor, const Limits& limits) {
   return limits.Hold(static_cast<float>(value * factor));
 }
 
-constexpr double kStep = std::numbers::sqrt2;
-
 }  // namespace
 
+void ZoomBy(SessionState& state, double factor) {
+  state.ScaleFactor = Stepped(state.ScaleFactor, factor, ScaleLimits);
+}
+
 void ZoomIn(SessionState& state) {
-  state.ScaleFactor = Stepped(state.ScaleFactor, kStep, ScaleLimits);
+  ZoomBy(state, ZoomStep);
 }
 
 void ZoomOut(SessionState& state) {
-  state.ScaleFactor = Stepped(state.ScaleFactor, 1 / kStep, ScaleLimits);
+  ZoomBy(state, 1 / ZoomStep);
 }
 
 void EnlargePatterns(SessionState& state) {
-  state.PatternSize = Stepped(state.PatternSize, kStep, PatternSizeLimits);
+  state.PatternSize = Stepped(state.PatternSize, ZoomStep, PatternSizeLimits);
 }
 
 void ShrinkPatterns(SessionState& state) {
-  state.PatternSize = Stepped(state.PatternSize, 1 / kStep, PatternSizeLimits);
+  state.PatternSize = Stepped(state.PatternSize, 1 / ZoomStep, PatternSizeLimits);
 }
 
 bool CanZoomIn(const SessionState& state) {

@@ -1,10 +1,18 @@
 #pragma once
 
+#include <numbers>
+
 #include "core/SessionState.h"
 
 // The zoom and pattern size commands of the main map: steps of the square root of 2 within ViewLimits.h.
 
 namespace kestrel {
+
+/// What a zoom command multiplies the scale by.
+inline constexpr double ZoomStep = std::numbers::sqrt2;
+
+/// The scale times `factor`, held within its limits.
+void ZoomBy(SessionState& state, double factor);
 
 void ZoomIn(SessionState& state);
 void ZoomOut(SessionState& state);

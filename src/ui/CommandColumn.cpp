@@ -11,7 +11,9 @@ namespace kestrel {
 
 CommandColumn::CommandColumn(QWidget* parent) : QScrollArea(parent), column_(new QWidget) {
   layout_ = new QVBoxLayout(column_);
-  layout_->setSpacing(3);
+  // So much that all commands fit a screen of 640 by 480.
+  layout_->setSpacing(2);
+  layout_->setContentsMargins(9, 5, 9, 5);
   setWidget(column_);
   setWidgetResizable(true);
   setFrameShape(QFrame::NoFrame);
@@ -24,12 +26,13 @@ QPushButton* CommandColumn::AddCommand(const char* name, const QString& caption,
   QPushButton* button = MakeButton(name, caption, KeysOf(*window(), name).Tip(), std::move(action));
   button->setAutoDefault(true);  // Enter presses it too
   AddShortcuts(*window(), name, [button] { button->click(); });
+  button->setIconSize(QSize(1, 1) * (fontMetrics().height() - 2));
   layout_->addWidget(button);
   return button;
 }
 
 void CommandColumn::AddGap() {
-  layout_->addSpacing(fontMetrics().height() / 2);
+  layout_->addSpacing(fontMetrics().height() / 3);
 }
 
 void CommandColumn::AddWidget(QWidget* widget) {

@@ -17,15 +17,43 @@ MapSurface::MapSurface(QWidget* parent, const SheetArea& area, double smallestXH
 
 void MapSurface::ShowDrawing() {
   stale_ = true;
+  HideTip();
   update();
 }
 
 void MapSurface::ShowAdditions() {
+  HideTip();
   update();
 }
 
+void MapSurface::SetLook(const MapLook& look) {
+  if (look == look_) return;
+  look_ = look;
+  ShowDrawing();
+}
+
+void MapSurface::MoveTo(Point by) {
+  const Point before = Moved();
+  moved_ = MoveWithinLimits(RulesAtRest(size(), 1), by);
+  if (moved_ != before) ShowDrawing();
+}
+
+Point MapSurface::Moved() const {
+  return moved_ == Point() ? moved_ : MoveWithinLimits(RulesAtRest(size(), 1), moved_);
+}
+
+SurfaceRules MapSurface::RulesAtRest(QSize pixels, double pixelSize) const {
+  SurfaceRules rules = RulesFor(QRect({0, 0}, pixels.expandedTo({1, 1})), area_, pixelSize);
+  rules.SmallestXHeight = smallestXHeight_;
+  rules.Look = look_;
+  rules.Frame = rules.Area;
+  return rules;
+}
+
 SheetFit MapSurface::Fit() const {
-  return RulesFor(QRect(0, 0, std::max(1, width()), std::max(1, height())), area_).Fit;
+  SurfaceRules rules = RulesAtRest(size(), 1);
+  MoveSheet(rules, Moved());
+  return rules.Fit;
 }
 
 Point MapSurface::ToSheet(const QPointF& position) const {
@@ -39,8 +67,8 @@ QPointF MapSurface::FromSheet(Point sheet) const {
 
 void MapSurface::Render() {
   const QSize pixels = size() * devicePixelRatio();
-  SurfaceRules rules = RulesFor(QRect({0, 0}, pixels), area_, devicePixelRatio());
-  rules.SmallestXHeight = smallestXHeight_;
+  SurfaceRules rules = RulesAtRest(pixels, devicePixelRatio());
+  MoveSheet(rules, Moved());
   if (stale_ || image_.size() != pixels) {
     if (image_.size() != pixels) image_ = QImage(pixels, QImage::Format_RGB32);
     image_.setDevicePixelRatio(devicePixelRatio());
@@ -85,7 +113,13 @@ bool MapSurface::event(QEvent* event) {
 
 void MapSurface::ShowTip(QPoint place, const QString& text) {
   // What stands in a file is text, also where it looks like markup.
+  tipShown_ = !text.isEmpty();
   QToolTip::showText(place, Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text, this);
+}
+
+void MapSurface::HideTip() {
+  if (tipShown_) QToolTip::hideText();
+  tipShown_ = false;
 }
 
 void MapSurface::wheelEvent(QWheelEvent* event) {

@@ -27,6 +27,15 @@ class MapSurface : public QWidget {
   /// The same when something was only added: the picture is drawn on, not anew.
   void ShowAdditions();
 
+  /// What of the map is shown.
+  void SetLook(const MapLook& look);
+  const MapLook& Look() const { return look_; }
+
+  /// Shows another part of the map, `by` twips farther right and down than at first, as far as there is any.
+  /// What keeps to the corners stays. Nothing is drawn anew, only repeated.
+  void MoveTo(Point by);
+  Point Moved() const;
+
   /// Where a position of the mouse lies on the sheet, in twips, and back.
   Point ToSheet(const QPointF& position) const;
   QPointF FromSheet(Point sheet) const;
@@ -47,6 +56,8 @@ class MapSurface : public QWidget {
   /// Shows a plain text at a place of the screen, as long as the mouse stays there.
   void ShowTip(QPoint place, const QString& text);
 
+  void HideTip();
+
   /// Called with the wheel's whole steps, away from the user positive.
   std::function<void(int)> WheelTurned;
 
@@ -63,17 +74,22 @@ class MapSurface : public QWidget {
  private:
   void Render();
   void RenderAnew(const SurfaceRules& rules);
+  /// The rules for a surface of this many pixels, not moved.
+  SurfaceRules RulesAtRest(QSize pixels, double pixelSize) const;
   SheetFit Fit() const;
 
   PlatformTextMeasure measure_;
   DisplayList drawing_{measure_};
   SheetArea area_;
   double smallestXHeight_;
+  MapLook look_;
+  Point moved_;  // as asked for
   Renderer renderer_;
   QImage image_;           // the drawing at the widget's size
   bool stale_ = true;      // the drawing has changed since
   std::size_t shown_ = 0;  // how much of it the image holds
-  int wheelAngle_ = 0;     // eighths of a degree not yet reported
+  bool tipShown_ = false;
+  int wheelAngle_ = 0;  // eighths of a degree not yet reported
 };
 
 }  // namespace kestrel

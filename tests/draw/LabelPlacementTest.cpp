@@ -117,11 +117,11 @@ TEST_F(LabelPlacementTest, OneLabelForAStationWhoseRecordsStandALittleApart) {
 
 TEST_F(LabelPlacementTest, AllOrNoneWhenTheRulesSaySo) {
   Crowd(20, 4);
-  rules_.Labels = LabelChoice::None;
+  rules_.Look.Labels = LabelChoice::None;
   placement_.PlaceAll(list_, rules_);
   EXPECT_EQ(placement_.Places().size(), 20U);
   EXPECT_TRUE(Placed().empty());
-  rules_.Labels = LabelChoice::All;
+  rules_.Look.Labels = LabelChoice::All;
   placement_.PlaceAll(list_, rules_);
   EXPECT_TRUE(placement_.Places().empty()) << "each where it is tried first";
 }

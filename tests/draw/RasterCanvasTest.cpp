@@ -104,7 +104,7 @@ TEST(RasterCanvasTest, TextStandsWhereThePainterPutsIt) {
   const auto words = [](Canvas& canvas) {
     canvas.SetFont({FontFace::Sans, 20});
     canvas.Text({1000, 2000}, "1230 QABC");
-    canvas.BeginPanel({1000, 8000}, {FontFace::Sans, 10});
+    canvas.BeginPanel({1000, 8000}, {FontFace::Sans, 10}, PanelPlace::OnMap);
     canvas.SetFont({FontFace::Sans, 10});
     canvas.Text({1000, 7500}, "Bogot\xC3\xA1");
     canvas.EndPanel();

@@ -146,6 +146,38 @@ TEST(SurfaceViewTest, APanelGrowsAsOnePieceFromItsAnchorUntilItsTextCanBeRead) {
   EXPECT_NEAR(large.FontSize(legend), 80, 1e-3);  // 200 twips at 0.4 pixels
 }
 
+TEST(SurfaceViewTest, APanelOfACornerStaysWhereItIsWhenTheSheetIsMoved) {
+  const Font legend{FontFace::Sans, 10};
+  SurfaceRules rules = RulesFor({0, 0, 2000, 950});  // ten twips to the pixel, 400 pixels beside the sheet
+  SurfaceView picture(rules);
+  picture.BeginPanel({200, 9400}, legend, PanelPlace::LowerLeft);
+  EXPECT_EQ(picture.At({200, 9400}), (Point{420, 940})) << "the sheet's corner";
+  rules.Frame = rules.Area;
+  MoveSheet(rules, {1234, -500});
+  SurfaceView window(rules);
+  EXPECT_EQ(window.At(HomeOnSheet), (Point{1000 - 123, 500}));
+  const auto corner = [&](Point anchor, PanelPlace place) {
+    window.BeginPanel(anchor, legend, place);
+    const Point at = window.At(anchor);
+    window.EndPanel();
+    return at;
+  };
+  EXPECT_EQ(corner({200, 9400}, PanelPlace::LowerLeft), (Point{20, 940}));
+  EXPECT_EQ(corner({1230, 30}, PanelPlace::UpperLeft), (Point{123, 3}));
+  EXPECT_EQ(corner({11800, 9400}, PanelPlace::LowerRight), (Point{1980, 940}));
+  EXPECT_EQ(window.At(HomeOnSheet), (Point{1000 - 123, 500})) << "the map after the panels";
+}
+
+TEST(SurfaceViewTest, MovingStopsAtTheCoordinateLimit) {
+  const SurfaceRules rules = RulesFor({0, 0, 1200, 950});
+  const Point far = MoveWithinLimits(rules, {1e6F, -1e6F});
+  EXPECT_FLOAT_EQ(far.x, CoordinateLimit - SheetWidth);
+  EXPECT_FLOAT_EQ(far.y, -CoordinateLimit);
+  EXPECT_EQ(MoveWithinLimits(rules, {100, 200}), (Point{100, 200}));
+  const Point wide = MoveWithinLimits(RulesFor({0, 0, 9000, 950}), {100, 200});
+  EXPECT_EQ(wide, (Point{0, 200})) << "all of the breadth is seen already";
+}
+
 TEST(SurfaceViewTest, BoxesThatShareAnEdgeShareItOnTheSurface) {
   SurfaceView view(RulesFor({0, 0, 777, 555}));
   const QRectF upper = view.Filled({200, 6800}, {1900, 8080});

@@ -50,7 +50,7 @@ QImage Quick(Draw draw) {
   draw(list);
   QImage image(kSize, QImage::Format_RGB32);
   SurfaceRules rules = RulesFor(image.rect());
-  rules.Labels = LabelChoice::None;  // their rims cover lines
+  rules.Look.Labels = LabelChoice::None;  // their rims cover lines
   Renderer(2).Draw(list, rules, image);
   return image;
 }

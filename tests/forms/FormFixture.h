@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSettings>
 #include <QTest>
 #include <QTimer>
 #include <functional>
@@ -23,6 +24,8 @@ namespace kestrel {
 /// of everything.
 class FormTest : public ::testing::Test {
  protected:
+  FormTest() { QSettings().clear(); }
+
   SampleFolder Files;
   SessionState State;
   StandInPlatform System;

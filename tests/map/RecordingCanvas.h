@@ -91,7 +91,7 @@ class RecordingCanvas final : public Canvas {
     Add("Station", {mark.At}, 0, std::to_string(mark.Channel) + ' ' + mark.CallSign + ' ' + mark.HoursCode);
   }
   void EndStation() override { Add("EndStation", {}); }
-  void BeginPanel(Point anchor, const Font& smallest) override {
+  void BeginPanel(Point anchor, const Font& smallest, PanelPlace) override {
     Add("Panel", {anchor}, 0, std::to_string(static_cast<int>(smallest.Points)));
   }
   void EndPanel() override { Add("EndPanel", {}); }
