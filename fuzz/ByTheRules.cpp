@@ -80,32 +80,6 @@ float Single(const std::string& text) {
   return static_cast<float>(NumberByTheRules(text));
 }
 
-double ScaleOf(char letter) {
-  switch (letter) {
-    case 'p':
-    case 'P':
-      return 1e-12;
-    case 'n':
-    case 'N':
-      return 1e-9;
-    case 'u':
-    case 'U':
-      return 1e-6;
-    case 'm':
-      return 0.001;
-    case 'k':
-    case 'K':
-      return 1000;
-    case 'M':
-      return 1e6;
-    case 'g':
-    case 'G':
-      return 1e9;
-    default:
-      return 0;
-  }
-}
-
 StationRecord RecordOf(const std::vector<std::string>& fields, int towers) {
   StationRecord record;
   record.CallSign = Trimmed(fields[1]);
@@ -206,38 +180,6 @@ double NumberByTheRules(const std::string& text) {
       for (i = sign; IsDigit(at(i));) ++i;
   }
   return ByTheLibrary(text.substr(begin, i - begin));
-}
-
-float TypedNumberByTheRules(const std::string& text) {
-  constexpr std::size_t kMost = 16;
-  std::string rest = text;
-  std::replace(rest.begin(), rest.end(), ',', '.');
-  rest.erase(0, std::min(rest.find_first_of("+-.0123456789"), rest.size()));
-
-  std::string number;
-  if (!rest.empty() && (rest[0] == '+' || rest[0] == '-')) {
-    number = rest[0];
-    rest.erase(0, 1);
-  }
-  std::size_t exponent = std::min(rest.find_first_of("eE"), rest.size());
-  double scale = 1;
-  bool point = false;
-  for (const char c : rest.substr(0, exponent)) {
-    if (ScaleOf(c) != 0) {
-      scale = ScaleOf(c);
-      exponent = rest.size();
-      break;
-    }
-    if ((c == '.' && !point) || (IsDigit(c) && number.size() < kMost)) number += c;
-    point = point || c == '.';
-  }
-  if (exponent < rest.size()) {
-    number += 'E';
-    for (const char c : rest.substr(exponent + 1))
-      if ((IsDigit(c) && number.size() < kMost) || ((c == '+' || c == '-') && number.back() == 'E'))
-        number += c;
-  }
-  return static_cast<float>(std::clamp(Single(number) * scale, -1e10, 1e10));
 }
 
 StationsByTheRules ReadStationsByTheRules(std::string_view bytes) {

@@ -33,9 +33,6 @@ std::string ColumnsByTheRules(const std::string& line, std::size_t first, std::s
 /// The leading number, limited to the largest single.
 double NumberByTheRules(const std::string& text);
 
-/// A typed number.
-float TypedNumberByTheRules(const std::string& text);
-
 struct StationsByTheRules {
   std::vector<StationRecord> Records;
   std::vector<int> FaultyLines;                    ///< counted from 1, a fault each

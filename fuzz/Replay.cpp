@@ -11,9 +11,10 @@
 
 #include "Targets.h"
 
-// corpus_replay TARGET FOLDER: gives every file of the folder to the target, whole, as each of its first
-// halvings, and without its first byte. A folder without files is a failure, and so is a file that the reader
-// refuses, or takes, against expectation. With KESTREL_COMMA_LOCALE it runs under the environment's locale.
+// corpus_replay TARGET FOLDER: gives every file of the folder to the target, whole, cut at every length, with
+// every third byte changed, and without its first byte. A folder without files is a failure, and so is a file
+// that the reader refuses, or takes, against expectation. With KESTREL_COMMA_LOCALE it runs under the
+// environment's locale.
 
 namespace {
 
@@ -22,6 +23,14 @@ constexpr std::string_view kRefused[] = {
     "antenna-tables/faults", "import-journal/out-of-the-folder", "place-lists/too-many", "zip-intake/cut",
     "zip-intake/false-size",
 };
+
+constexpr std::string_view kDamage("\0|\n\xFF\x39,", 6);
+
+/// Of a long input all of the front, and some of the rest.
+std::size_t Step(std::size_t at) {
+  constexpr std::size_t kFront = 2500;
+  return at < kFront ? 1 : 97;
+}
 
 std::string Bytes(const std::filesystem::path& path) {
   std::ifstream file(path, std::ios::binary);
@@ -56,8 +65,14 @@ int main(int argc, char** argv) {
       std::fprintf(stderr, "%s %s\n", input.c_str(), refused ? "is taken" : "is refused");
       ++surprises;
     }
-    for (std::size_t length = bytes.size(); length > 0; length /= 2)
-      target(std::string(bytes, 0, length - 1));  // a copy, so that reading beyond its end is seen
+    for (std::size_t length = 0; length < bytes.size(); length += Step(length))
+      target(std::string(bytes, 0, length));  // a copy, so that reading beyond its end is seen
+    std::size_t damages = 0;
+    for (std::size_t at = 0; at < bytes.size(); at += 3 * Step(at)) {
+      std::string damaged = bytes;
+      damaged[at] = kDamage[damages++ % kDamage.size()];
+      target(damaged);
+    }
     if (!bytes.empty()) target(bytes.substr(1));
   }
   if (paths.empty()) std::fprintf(stderr, "no input in %s\n", argv[2]);

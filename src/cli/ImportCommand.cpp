@@ -22,6 +22,7 @@ struct ImportArguments {
   std::vector<std::string> files;
   bool dryRun = false;
   bool undo = false;
+  bool fewer = false;
   std::optional<std::string> report;
   ImportOptions options;
 };
@@ -112,6 +113,7 @@ std::string Json(const ImportOutcome& outcome, bool dryRun) {
   json.BeginObject();
   json.Key("written").Truth(!outcome.Failure && !dryRun).Key("source").Text(outcome.StationsLine);
   json.Key("stations").Whole(report.Stations).Key("records").Whole(report.Records);
+  json.Key("stations_before").Whole(outcome.StationsBefore);
   json.Key("rows").Whole(total.Rows).Key("taken").Whole(total.Taken).Key("left_out").Whole(total.LeftOut);
   json.Key("files").BeginArray();
   for (const ImportReport::File& file : report.Files()) {
@@ -148,19 +150,24 @@ void Import(const Request& request, const ImportArguments& arguments) {
   ImportRequest import{{}, arguments.options, arguments.dryRun};
   for (const std::string& file : arguments.files) import.Files << QString::fromStdString(file);
 
-  const ImportOutcome outcome = [&] {
-    ProgressBar bar;
-    return RunImport(import, folder,
-                     [&](double done, std::string_view what) { return bar.Show(done, what); });
-  }();
-  constexpr std::size_t kShownChanges = 20;
-  const bool imported = !outcome.Failure && !arguments.dryRun;
-  Print(request.Json ? Json(outcome, arguments.dryRun) : OutcomeText(outcome, kShownChanges));
-  if (arguments.report)
-    WriteReport(*arguments.report, request.Json ? Json(outcome, arguments.dryRun) : OutcomeText(outcome, 0),
-                imported);
-  if (outcome.Failure) throw Failure(outcome.Failure->Message() + "; nothing was written");
-}
+  bool tooFew = false;
+  import.LeaveFewer = [&](int, int) { tooFew = !arguments.fewer;
+  return arguments.fewer;
+};
+const ImportOutcome outcome = [&] {
+  ProgressBar bar;
+  return RunImport(import, folder, [&](double done, std::string_view what) { return bar.Show(done, what); });
+}();
+constexpr std::size_t kShownChanges = 20;
+const bool imported = !outcome.Failure && !arguments.dryRun;
+Print(request.Json ? Json(outcome, arguments.dryRun) : OutcomeText(outcome, kShownChanges));
+if (arguments.report)
+  WriteReport(*arguments.report, request.Json ? Json(outcome, arguments.dryRun) : OutcomeText(outcome, 0),
+              imported);
+if (outcome.Failure)
+  throw Failure(outcome.Failure->Message() +
+                (tooFew ? "; to import all the same, add --fewer" : "; nothing was written"));
+}  // namespace
 
 void Undo(const Request& request) {
   const auto platform = StartPlatform(Platform::Files);
@@ -183,8 +190,8 @@ std::vector<std::string> WantedCountries(const std::string& list) {
 void Choose(const Request& request, const ImportArguments& arguments) {
   if (arguments.undo) {
     const ImportOptions& options = arguments.options;
-    if (!arguments.files.empty() || arguments.dryRun || arguments.report || options.IncludeSilent ||
-        options.IncludePermits || !options.Countries.empty())
+    if (!arguments.files.empty() || arguments.dryRun || arguments.fewer || arguments.report ||
+        options.IncludeSilent || options.IncludePermits || !options.Countries.empty())
       throw WrongUse("import --undo: takes no files and no other options than --data and --json");
     return Undo(request);
   }
@@ -192,7 +199,7 @@ void Choose(const Request& request, const ImportArguments& arguments) {
   Import(request, arguments);
 }
 
-}  // namespace
+}  // namespace kestrel::cli
 
 void AddImportCommand(CLI::App& app, Request& request) {
   CLI::App& command = *app.add_subcommand("import", "Make the station files from the FCC's files");
@@ -204,6 +211,7 @@ void AddImportCommand(CLI::App& app, Request& request) {
   command.add_flag("--dry-run", arguments->dryRun, "report and compare, write nothing");
   command.add_flag("--undo", arguments->undo,
                    "bring back what the last import replaced; once more, the import");
+  command.add_flag("--fewer", arguments->fewer, "even where fewer than half of the stations would be left");
   AddFileName(command, "--report", arguments->report, "write the whole report there too");
   command.add_flag("--include-silent", arguments->options.IncludeSilent,
                    "licensed stations that are silent too");

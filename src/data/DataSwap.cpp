@@ -270,6 +270,10 @@ Result<Done> UndoImport(const DataFolder& folder, const SwapStep& step) {
   return exchange.RunAnew(journal);
 }
 
+bool CanUndoImport(const DataFolder& folder) {
+  return Exchange(folder.Path(), {}).IsFolder(kKeptSet);
+}
+
 Result<Done> RecoverImport(const DataFolder& folder, const SwapStep& step) {
   Exchange exchange(folder.Path(), step);
   if (!exchange.Exists(kJournal) && !exchange.Exists(kNewSet) && !exchange.Exists(kOldSet)) return Done{};

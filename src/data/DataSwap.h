@@ -31,6 +31,9 @@ Result<Done> SwapInStations(const DataFolder& folder, const FileSource& source, 
 /// is as it was. Errors: NotFound when there is none; else as SwapInStations.
 Result<Done> UndoImport(const DataFolder& folder, const SwapStep& step = {});
 
+/// Whether UndoImport has something to bring back.
+bool CanUndoImport(const DataFolder& folder);
+
 /// Finishes or takes back what an interrupted import left. To be called before the folder's files are read;
 /// costs next to nothing when there is nothing to do, and does nothing while an import is at work. Errors:
 /// Refused and NotAFile as above; Malformed for a damaged journal; the next call tries again.

@@ -1,7 +1,11 @@
 #include "data/StationSet.h"
 
+#include <set>
+#include <tuple>
+
 #include "core/Band.h"
-#include "data/DataFolder.h"
+#include "core/Text.h"
+#include "data/StationFile.h"
 
 namespace kestrel {
 
@@ -15,6 +19,20 @@ const std::vector<std::string>& StationSetNames() {
     return all;
   }();
   return names;
+}
+
+int StationsIn(const DataFolder& folder) {
+  std::size_t count = 0;
+  for (float channel = LowestChannel; channel <= HighestChannel; channel += ChannelStep) {
+    const Result<QByteArray> bytes = folder.Read(StationFileName(channel));
+    if (!bytes) continue;
+    std::set<std::tuple<std::string, double, double>> sites;
+    StationLineReader reader({bytes->constData(), static_cast<std::size_t>(bytes->size())});
+    while (const auto line = reader.Next())
+      sites.emplace(Trim(line->CallSign), line->Number(line->Latitude), line->Number(line->Longitude));
+    count += sites.size();
+  }
+  return static_cast<int>(count);
 }
 
 }  // namespace kestrel

@@ -150,6 +150,13 @@ void frmImport::Import() {
   request.Options.IncludeSilent = chkSilent_->isChecked();
   request.Options.IncludePermits = chkPermits_->isChecked();
   request.DryRun = chkDryRun_->isChecked();
+  request.LeaveFewer = [this](int before, int after) {
+    return workspace_.System.Confirm(
+        this, QString("There are %1 stations now. The import would leave %2, less than half.\n\n"
+                      "Import all the same?")
+                  .arg(before)
+                  .arg(after));
+  };
 
   cancelled_ = false;
   SetRunning(true);
@@ -223,7 +230,7 @@ void frmImport::UpdateCommands() {
   enable("cmdRemove", !running_ && !lstFiles_->selectedItems().isEmpty());
   enable("cmdImport", !running_ && lstFiles_->count() > 0);
   enable("cmdCancel", running_);
-  enable("cmdUndo", !running_);
+  enable("cmdUndo", !running_ && CanUndoImport(workspace_.Folder));
   enable("cmdSave", !running_ && !wholeReport_.empty());
   enable("cmdExit", !running_);
 }

@@ -1,5 +1,6 @@
 #include "import/Import.h"
 
+#include <QDate>
 #include <QDateTime>
 #include <QFileInfo>
 #include <QLocale>
@@ -24,82 +25,67 @@ constexpr double kReadingShare = 0.8;  // of the whole work
 
 const Error kCancelled{Error::Kind::Refused, "", 0, "cancelled; the station files are as they were"};
 
-/// Counts the bytes that pass, tells of them, and ends early when told to.
-class ProgressStream : public ByteStream {
- public:
-  ProgressStream(ByteStream& stream, const std::function<bool(std::size_t)>& passed)
-      : stream_(stream), passed_(passed) {}
-
-  std::size_t Read(char* to, std::size_t most) override {
-    const std::size_t count = stream_.Read(to, most);
-    return passed_(count) ? count : 0;
-  }
-
-  std::string Problem() const override { return stream_.Problem(); }
-
- private:
-  ByteStream& stream_;
-  const std::function<bool(std::size_t)>& passed_;
-};
-
-/// Reads all files into the report and the readings. Of those that cannot be read all are named. `newest`
-/// becomes the time of the newest file that has rows.
-std::optional<Error> ReadAll(const ImportRequest& request, const ImportProgress& progress, Readings& readings,
-                             ImportReport& report, QDateTime& newest) {
-  std::optional<Error> failure;
-  const auto fail = [&](const Error& error) {
-    report.Refuse(error.file, error.text);
-    if (!failure) failure = error;
-  };
-  std::vector<std::pair<std::unique_ptr<Intake>, QDateTime>> intakes;
-  std::uint64_t total = 1;
-  for (const QString& path : request.Files) {
-    Result<std::unique_ptr<Intake>> intake = OpenIntake(path);
-    if (!intake) {
-      fail(intake.error());
-      continue;
-    }
-    for (const Intake::Part& part : (*intake)->Parts()) total += part.Size;
-    if ((*intake)->Parts().empty())
-      report.Refuse(QFileInfo(path).fileName().toStdString(), "is a zip without files");
-    intakes.emplace_back(std::move(*intake), QFileInfo(path).lastModified());
-  }
-
-  std::uint64_t done = 0;
-  bool cancelled = false;
-  for (const auto& [intake, time] : intakes) {
-    const int rowsBefore = report.Total().Rows;
-    for (std::size_t i = 0; i < intake->Parts().size() && !cancelled; ++i) {
-      const Intake::Part& part = intake->Parts()[i];
-      Result<std::unique_ptr<ByteStream>> stream = intake->Open(i);
-      if (!stream) {
-        fail(stream.error());
-        continue;
-      }
-      const std::function<bool(std::size_t)> passed = [&](std::size_t count) {
-        done += count;
-        const double share = kReadingShare * static_cast<double>(done) / static_cast<double>(total);
-        cancelled = cancelled || (progress && !progress(std::min(share, kReadingShare), part.Name));
-        return !cancelled;
-      };
-      ProgressStream counted(**stream, passed);
-      ReadSourceFile(counted, part.Name, request.Options, readings, report);
-      if (const std::string problem = counted.Problem(); !problem.empty())
-        fail({Error::Kind::Malformed, part.Name, 0, problem});
-    }
-    if (report.Total().Rows > rowsBefore) newest = std::max(newest, time);
-  }
-  return cancelled ? kCancelled : failure;
+Error Unchanged(Error::Kind kind, const std::string& why) {
+  return {kind, "", 0, why + "; the station files are as they were"};
 }
 
-/// "The FCC's AM Query list and antenna tables, files of 2 August 2026, 10980 stations"
-std::string StationsLine(const QDateTime& newest, const Readings& readings, int stations) {
+/// The files that were given, those of zips each by itself. Of those that cannot be opened all are named in
+/// `report`; the first is returned.
+std::optional<Error> OpenAll(const QStringList& paths, std::vector<std::unique_ptr<Intake>>& intakes,
+                             std::vector<SourceFile>& files, ImportReport& report) {
+  std::optional<Error> failure;
+  for (const QString& path : paths) {
+    Result<std::unique_ptr<Intake>> opened = OpenIntake(path);
+    if (!opened) {
+      report.Refuse(opened.error().file, opened.error().text);
+      if (!failure) failure = opened.error();
+      continue;
+    }
+    Intake& intake = *intakes.emplace_back(std::move(*opened));
+    if (intake.Parts().empty())
+      report.Refuse(QFileInfo(path).fileName().toStdString(), "is a zip without files");
+    for (std::size_t i = 0; i < intake.Parts().size(); ++i)
+      files.push_back(
+          {intake.Parts()[i].Name, intake.Parts()[i].Size, [&intake, i] { return intake.Open(i); }});
+  }
+  return failure;
+}
+
+/// The date of the newest file that has rows.
+QDate NewestFile(const QStringList& paths, const ImportReport& report) {
+  QDateTime newest;
+  for (const QString& path : paths) {
+    const std::string name = QFileInfo(path).fileName().toStdString();
+    const bool hasRows =
+        std::any_of(report.Files().begin(), report.Files().end(), [&](const ImportReport::File& file) {
+          return file.Rows > 0 && (file.Name == name || file.Name.starts_with(name + '/'));
+        });
+    if (hasRows) newest = std::max(newest, QFileInfo(path).lastModified());
+  }
+  return newest.date();
+}
+
+Date FromQt(const QDate& date) {
+  return {std::chrono::year(date.year()), std::chrono::month(static_cast<unsigned>(date.month())),
+          std::chrono::day(static_cast<unsigned>(date.day()))};
+}
+
+QDate ToQt(const Date& date) {
+  return {static_cast<int>(date.year()), static_cast<int>(static_cast<unsigned>(date.month())),
+          static_cast<int>(static_cast<unsigned>(date.day()))};
+}
+
+/// "The FCC's AM Query list and antenna tables, newest dated row of 2 August 2026, 10980 stations"; where no
+/// row has a date, that of the newest file.
+std::string StationsLine(const QStringList& paths, const Readings& readings, const ImportReport& report) {
   std::string line = "The FCC's ";
   if (readings.HasAmq) line += "AM Query list";
   if (readings.HasAmq && readings.HasTables) line += " and ";
   if (readings.HasTables) line += "antenna tables";
-  line += ", files of " + QLocale::c().toString(newest.date(), "d MMMM yyyy").toStdString();
-  return line + ", " + std::to_string(stations) + " stations";
+  const std::optional<Date>& row = readings.Dates.Newest();
+  line += row ? ", newest dated row of " : ", files of ";
+  line += QLocale::c().toString(row ? ToQt(*row) : NewestFile(paths, report), "d MMMM yyyy").toStdString();
+  return line + ", " + std::to_string(report.Stations) + " stations";
 }
 
 /// Takes note of what the file changes in the folder, and hands it on.
@@ -117,13 +103,35 @@ void CompareAndPass(const std::string& name, std::string bytes, const DataFolder
   for (Change& change : CompareChannel(before, antennas)) changes.push_back(std::move(change));
 }
 
+/// Why the stations must not take the place of those in the folder.
+std::optional<Error> Refusal(const ImportRequest& request, const ImportOutcome& outcome) {
+  const int before = outcome.StationsBefore;
+  const int after = outcome.Report.Stations;
+  if (after == 0) return Unchanged(Error::Kind::Malformed, "no station was found");
+  if (request.DryRun || after >= before - after) return std::nullopt;
+  if (request.LeaveFewer && request.LeaveFewer(before, after)) return std::nullopt;
+  return Unchanged(Error::Kind::Refused, std::to_string(after) + " stations would be left where there are " +
+                                             std::to_string(before) + ", less than half");
+}
+
 ImportOutcome Import(const ImportRequest& request, const DataFolder& folder, const ImportProgress& progress) {
   ImportOutcome outcome;
-  Readings readings;
-  QDateTime newest;
-  outcome.Failure = ReadAll(request, progress, readings, outcome.Report, newest);
-  if (outcome.Failure && outcome.Failure->text == kCancelled.text) {
-    outcome.Report = {};  // its counts would not add up
+  Readings readings(FromQt(QDate::currentDate()));
+  bool cancelled = false;
+  {
+    std::vector<std::unique_ptr<Intake>> intakes;
+    std::vector<SourceFile> files;
+    outcome.Failure = OpenAll(request.Files, intakes, files, outcome.Report);
+    const std::optional<Error> failure =
+        ReadSourceFiles(files, request.Options, readings, outcome.Report, [&](double share, auto name) {
+          cancelled = cancelled || (progress && !progress(kReadingShare * share, name));
+          return !cancelled;
+        });
+    if (!outcome.Failure) outcome.Failure = failure;
+  }
+  if (cancelled) {
+    outcome = {};  // its counts would not add up
+    outcome.Failure = kCancelled;
     return outcome;
   }
   const auto goesOn = [&](double done, std::string_view what) {
@@ -135,10 +143,9 @@ ImportOutcome Import(const ImportRequest& request, const DataFolder& folder, con
       MergeStations(std::move(readings.Amq), readings.Tables, request.Options, outcome.Report);
   readings.Tables = {};
   CountStations(stations, outcome.Report);
-  outcome.StationsLine = StationsLine(newest, readings, outcome.Report.Stations);
-  if (stations.empty() && !outcome.Failure)
-    outcome.Failure =
-        Error{Error::Kind::Malformed, "", 0, "no station was found; the station files are as they were"};
+  outcome.StationsBefore = StationsIn(folder);
+  outcome.StationsLine = StationsLine(request.Files, readings, outcome.Report);
+  if (!outcome.Failure) outcome.Failure = Refusal(request, outcome);
   goesOn(0.9, "making the station files");
 
   const auto makeFiles = [&](const TakeFile& take) {
@@ -174,16 +181,15 @@ ImportOutcome RunImport(const ImportRequest& request, const DataFolder& folder,
     return Import(request, folder, progress);
   } catch (const std::bad_alloc&) {
     ImportOutcome outcome;
-    outcome.Failure =
-        Error{Error::Kind::Refused, "", 0,
-              "there is not enough memory for so long files; the station files are as they were"};
+    outcome.Failure = Unchanged(Error::Kind::Refused, "there is not enough memory for so long files");
     return outcome;
   }
 }
 
 std::string OutcomeText(const ImportOutcome& outcome, std::size_t mostChanges) {
   if (outcome.Report.Files().empty() && outcome.Report.Refusals().empty()) return {};
-  const std::string text = ReportText(outcome.Report);
+  std::string text = ReportText(outcome.Report);
+  if (outcome.StationsBefore > 0) text += std::to_string(outcome.StationsBefore) + " stations before\n";
   if (outcome.Failure) return text;
   return text + "\nChanges\n" + ChangesText(outcome.Changes, mostChanges);
 }

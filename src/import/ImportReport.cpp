@@ -60,6 +60,8 @@ std::string_view FindingTitle(Finding finding) {
       return "towers without a field";
     case Finding::NotUsed:
       return "pattern augmentations, which are not used";
+    case Finding::NoRoom:
+      return "rows beyond a million of their kind, the most that are held";
     case Finding::ChannelFull:
       return "stations of a channel that has 10000 stronger ones, the most that are shown";
     case Finding::TowersUnknown:

@@ -14,6 +14,10 @@ struct RowPlace {
   int Line = 0;
 };
 
+/// So many rows of each table, and of all lists together, are held at most: a hundred times as many as the
+/// FCC has of AM stations.
+inline constexpr std::size_t MostKeptRows = 1'000'000;
+
 /// What the importer has to say about a row. Those up to `LastLeftOut` say why a row was left out, one for
 /// each such row; the others remark on stations that were taken.
 enum class Finding {
@@ -31,6 +35,7 @@ enum class Finding {
   NotReferred,  ///< a table row of no antenna taken, or of one whose pattern is not known
   NoField,      ///< a tower that radiates nothing
   NotUsed,      ///< augmentations: the pattern does without them
+  NoRoom,       ///< more rows of a table, or of lists, than are held
   ChannelFull,  ///< a station that its station file has no room for
   LastLeftOut = ChannelFull,
   TowersUnknown,

@@ -24,14 +24,29 @@ constexpr int kTitleCharacters = 36;  // with the buttons of the window's frame
 
 }  // namespace
 
-void DesktopPlatform::ShowMessage(QWidget* parent, const QString& text) {
-  QMessageBox box(QMessageBox::NoIcon, "KestrelII", text, QMessageBox::Ok, parent);
+namespace {
+
+int Answer(QMessageBox& box) {
   box.setTextFormat(Qt::PlainText);
   // Wide enough for its title, however short the text.
   if (auto* grid = qobject_cast<QGridLayout*>(box.layout()))
     grid->addItem(new QSpacerItem(box.fontMetrics().averageCharWidth() * kTitleCharacters, 0),
                   grid->rowCount(), 0, 1, grid->columnCount());
-  box.exec();
+  return box.exec();
+}
+
+}  // namespace
+
+void DesktopPlatform::ShowMessage(QWidget* parent, const QString& text) {
+  QMessageBox box(QMessageBox::NoIcon, "KestrelII", text, QMessageBox::Ok, parent);
+  Answer(box);
+}
+
+bool DesktopPlatform::Confirm(QWidget* parent, const QString& question) {
+  QMessageBox box(QMessageBox::NoIcon, "KestrelII", question, QMessageBox::Yes | QMessageBox::No, parent);
+  box.setDefaultButton(QMessageBox::No);
+  box.setEscapeButton(QMessageBox::No);
+  return Answer(box) == QMessageBox::Yes;
 }
 
 void DesktopPlatform::Beep() {

@@ -20,6 +20,9 @@ class Platform {
   /// A message with the program's title and an OK button; returns when it is answered.
   virtual void ShowMessage(QWidget* parent, const QString& text) = 0;
 
+  /// A question with the program's title and the buttons Yes and No, No at hand; true for Yes.
+  virtual bool Confirm(QWidget* parent, const QString& question) = 0;
+
   virtual void Beep() = 0;
 
   /// The common colour dialog; nothing when it is cancelled.
@@ -54,6 +57,7 @@ class Platform {
 class DesktopPlatform final : public Platform {
  public:
   void ShowMessage(QWidget* parent, const QString& text) override;
+  bool Confirm(QWidget* parent, const QString& question) override;
   void Beep() override;
   std::optional<ColorValue> ChooseColor(QWidget* parent, const QString& title, ColorValue current) override;
   QStringList ChooseFiles(QWidget* parent, const QString& title) override;

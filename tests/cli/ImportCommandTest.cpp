@@ -3,14 +3,20 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
+#include "AmqRow.h"
 #include "cli/Companion.h"
 
 namespace kestrel::cli {
 namespace {
 
-std::string ListRow(const std::string& call, const std::string& country, const std::string& facility) {
-  return "|" + call + "|620 kHz|AM|||Unlimited|||LIC|PLANO|TX|" + country + "||1.0 kW||||" + facility +
-         "|N|33|1|11.28|W|96|41|56.04|||||||\n";
+std::string Row(const std::string& call, const std::string& country, const std::string& facility) {
+  return AmqRow{.Call = call,
+                .Frequency = "620 kHz",
+                .Country = country,
+                .Facility = facility,
+                .Latitude = "N|33|1|11.28",
+                .Longitude = "W|96|41|56.04"}
+      .Text();
 }
 
 /// Antenna tables of one station, 550 kHz, whose four towers are placed partly from the reference point,
@@ -47,7 +53,7 @@ TEST(ImportCommandTest, ReportsImportsAndUndoes) {
   const Folder folder;
   const std::string before = "620, QOLD, TOWN, TX, United States, U, 35, 97, 1,-,-, 1\r\n0,1,90,0,0,0\r\n";
   folder.Put("620x.dat", before);
-  folder.Put("amq", ListRow("KAAA", "US", "1") + ListRow("CAAA", "CA", "2") + "| half a row\n");
+  folder.Put("amq", Row("KAAA", "US", "1") + Row("CAAA", "CA", "2") + "| half a row\n");
 
   const QJsonDocument dry = folder.Json({"import", "amq", "--dry-run", "--countries", "us"});
   EXPECT_FALSE(dry["written"].toBool(true));
@@ -82,10 +88,9 @@ TEST(ImportCommandTest, JsonTellsWhatChangedAndHow) {
                  "0,1,90,90,90,0\n620, KMOV, PLANO, TX, United States, U, 34.0198, 96.6989, 1,-,-, 1\n" +
                  tower);
   folder.Put("630x.dat", "630, KOLD" + place + "1,-,-, 1\n" + tower);
-  std::string renamed = ListRow("KNEW", "US", "4");
+  std::string renamed = Row("KNEW", "US", "4");
   renamed.replace(renamed.find("620"), 3, "630");
-  folder.Put("amq",
-             ListRow("KPOW", "US", "1") + ListRow("KTOW", "US", "2") + ListRow("KMOV", "US", "3") + renamed);
+  folder.Put("amq", Row("KPOW", "US", "1") + Row("KTOW", "US", "2") + Row("KMOV", "US", "3") + renamed);
   const QJsonValue changes = folder.Json({"import", "amq", "--dry-run"})["changes"];
   EXPECT_EQ(changes["power"][0]["call"].toString(), "KPOW");
   EXPECT_EQ(changes["power"][0]["power_kw_before"].toDouble(), 2.5);
@@ -99,9 +104,31 @@ TEST(ImportCommandTest, JsonTellsWhatChangedAndHow) {
   EXPECT_EQ(changes["call_sign"][0]["call_before"].toString(), "KOLD");
 }
 
+TEST(ImportCommandTest, FewerThanHalfOfTheStationsNeedAWord) {
+  const Folder folder;
+  std::string rows;
+  for (const char* facility : {"1", "2", "3"}) rows += Row(std::string("QAA") + facility, "US", facility);
+  folder.Put("three", rows);
+  folder.Put("one", Row("QAA1", "US", "1"));
+  ASSERT_EQ(folder.Run({"import", "three"}).Status, 0);
+  const std::string before = folder.Text("620x.dat");
+  const Answer kept = folder.Run({"import", "one"});
+  EXPECT_EQ(kept.Status, 1);
+  EXPECT_EQ(
+      kept.Err,
+      "kestrel-cli: 1 stations would be left where there are 3, less than half; the station files are as "
+      "they were; to import all the same, add --fewer\n");
+  EXPECT_EQ(folder.Text("620x.dat"), before);
+  const QJsonDocument dry = folder.Json({"import", "one", "--dry-run"});
+  EXPECT_EQ(dry["stations"].toInt(), 1);
+  EXPECT_EQ(dry["stations_before"].toInt(), 3);
+  EXPECT_EQ(folder.Run({"import", "one", "--fewer"}).Status, 0);
+  EXPECT_NE(folder.Text("620x.dat"), before);
+}
+
 TEST(ImportCommandTest, WhatCannotBeImportedIsNamedAndChangesNothing) {
   const Folder folder;
-  folder.Put("amq", ListRow("KAAA", "US", "1"));
+  folder.Put("amq", Row("KAAA", "US", "1"));
   folder.Put("letter", "Dear listener,\n");
   const std::string kUndoAlone = "import --undo: takes no files and no other options than --data and --json";
   const struct {
@@ -112,6 +139,7 @@ TEST(ImportCommandTest, WhatCannotBeImportedIsNamedAndChangesNothing) {
       {{}, 2, "import: name the files to import, or --undo"},
       {{"amq", "--undo"}, 2, kUndoAlone},
       {{"--undo", "--dry-run"}, 2, kUndoAlone},
+      {{"--undo", "--fewer"}, 2, kUndoAlone},
       {{"--undo", "--include-silent"}, 2, kUndoAlone},
       {{"--undo", "--countries", "US"}, 2, kUndoAlone},
       {{"amq", "--countries", "US,UK"},

@@ -76,7 +76,7 @@ class DataSwapTest : public testing::Test {
   static int StoppedEverywhere(Prepare prepare, Work work, Check check) {
     const auto next = [](int stop) {
       const auto isNearTurn = [](int at) {
-        return (at + 6) % 121 < 14;
+        return (at + 6) % 121 < 18;
       };  // each round has 120 files and more
       do ++stop;
       while (!isNearTurn(stop) && stop % 37 != 0);

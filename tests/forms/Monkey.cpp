@@ -278,6 +278,11 @@ void Monkey::ShowMessage(QWidget* parent, const QString& text) {
   desktop_.ShowMessage(parent, text);
 }
 
+bool Monkey::Confirm(QWidget* parent, const QString& question) {
+  Say("question " + question);
+  return desktop_.Confirm(parent, question);
+}
+
 std::optional<ColorValue> Monkey::ChooseColor(QWidget*, const QString&, ColorValue) {
   if (Below(3) == 0) return std::nullopt;
   return Below(5) == 0 ? 0 : Below(0x1000000);

@@ -42,6 +42,7 @@ class Monkey final : public QObject, public Platform {
   // The platform answers as the monkey likes; message boxes and the print preview are real ones, used like
   // any window.
   void ShowMessage(QWidget* parent, const QString& text) override;
+  bool Confirm(QWidget* parent, const QString& question) override;
   void Beep() override {}
   std::optional<ColorValue> ChooseColor(QWidget* parent, const QString& title, ColorValue current) override;
   QStringList ChooseFiles(QWidget* parent, const QString& title) override;

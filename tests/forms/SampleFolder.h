@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "AmqRow.h"
 #include "TestFolder.h"
 
 namespace kestrel {
@@ -28,11 +29,18 @@ class SampleFolder : public TestFolder {
   }
 };
 
-/// A row of the FCC's list: a station in Texas, licensed, by day and night.
+/// The row of a station in Texas, licensed, by day and night.
 inline std::string FccRow(const std::string& call, const std::string& channel, const std::string& power,
                           const std::string& facility) {
-  return "|" + call + "|" + channel + "   kHz|AM ||UNL|Unlimited|B|B|LIC|PLANO|TX|US|BL-1|" + power +
-         "    kW||||" + facility + "|N|33|1|11.28|W|96|41|56.04|OWNER, INC|0.0 km|0.0 mi|0.0 deg|1|0a|7|\n";
+  return AmqRow{.Call = call,
+                .Frequency = channel + " kHz",
+                .City = "PLANO",
+                .State = "TX",
+                .Power = power + " kW",
+                .Facility = facility,
+                .Latitude = "N|33|1|11.28",
+                .Longitude = "W|96|41|56.04"}
+      .Text();
 }
 
 }  // namespace kestrel

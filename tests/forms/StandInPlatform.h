@@ -18,6 +18,7 @@ class StandInPlatform final : public Platform {
 
   // What it answers.
   std::optional<ColorValue> NextColor;  ///< nothing: the colour dialog is cancelled
+  bool NextConfirmation = false;
   bool HasSystemInformation = false;
   bool HasBrowser = true;
   QStringList NextFiles;    ///< what the dialog for files gives; none: it is cancelled
@@ -33,6 +34,10 @@ class StandInPlatform final : public Platform {
   double PausedSeconds = 0;
 
   void ShowMessage(QWidget*, const QString& text) override { Messages << text; }
+  bool Confirm(QWidget*, const QString& question) override {
+    Messages << question;
+    return NextConfirmation;
+  }
   void Beep() override { ++Beeps; }
   std::optional<ColorValue> ChooseColor(QWidget*, const QString& title, ColorValue current) override {
     ColorQuestions.push_back({title, current});

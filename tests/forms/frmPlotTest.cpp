@@ -63,6 +63,7 @@ TEST_F(frmPlotTest, AnImportIsOnTheMapAndInTheListOfCallSigns) {
   const Names before = Drawn();
   const std::vector<std::string> calls = State.CallList;
   System.NextFiles = {Files.Path("amq.txt")};
+  System.NextConfirmation = true;
   PressInForm("cmdImport", {"cmdAdd", "cmdImport", "cmdExit"});
   EXPECT_EQ(Drawn(), (Names{"KAAA U"}));
   ASSERT_EQ(State.CallList.size(), 1U);

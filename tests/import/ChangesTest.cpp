@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "ImportTesting.h"
 #include "data/StationFile.h"
 
@@ -29,6 +31,12 @@ TEST(Changes, EveryKindHasItsLine) {
             "power: 1\n  1230 QAAA D" + place + ": 1 kW -> 0.25 kW\n");
   EXPECT_EQ(Differences(kArray, Replaced(kArray, "-90", "-91")),
             "pattern: 1\n  1230 QBBB N" + place + ": 2 towers\n");
+  for (const auto& [from, near, far] : {std::tuple{".5,90", ".5009,90", ".502,90"},
+                                        {"-90,90", "-90.009,90", "-90.02,90"},
+                                        {",90,40", ",90.009,40", ",90.02,40"}}) {
+    EXPECT_EQ(Differences(kArray, Replaced(kArray, from, near)), "No changes\n") << near;
+    EXPECT_EQ(Differences(kArray, Replaced(kArray, from, far)).substr(0, 10), "pattern: 1") << far;
+  }
   EXPECT_EQ(Differences(kArray, "1230, QBBB, TOWN, IL, United States, N, 45, 95, 5,-,-, 0\n"),
             "pattern: 1\n  1230 QBBB N" + place + ": 2 towers -> not known\n");
   EXPECT_EQ(Differences(kOne, Replaced(kOne, "QAAA", "QCCC")),

@@ -3,25 +3,23 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
 #include <map>
+#include <memory>
 #include <sstream>
 
 #include "MemoryStream.h"
 #include "import/merge/CallIndex.h"
 #include "import/merge/Merge.h"
 #include "import/merge/StationFiles.h"
-#include "import/read/ReadFiles.h"
 #include "import/read/TableColumns.h"
 
 namespace kestrel {
+namespace {
 
-std::string ListRow::Text() const {
-  const std::string front = "|" + call + " |" + frequency + " |" + service + " |    |UNL |" + hours +
-                            " |B |- |" + status + " |" + city + " |" + state + " |" + country + " |BL-1 |" +
-                            power + " |" + directional + " | |- |" + facility + " |" + latitude + " |" +
-                            longitude + " |Somebody, Inc. | 0.00 km | 0.00 mi | 0.00 deg |1403084 |";
-  return front + (older ? "\n" : "00dc |a12c |\n");
-}
+constexpr Date kToday(std::chrono::year(2026), std::chrono::month(8), std::chrono::day(2));
+
+}  // namespace
 
 std::string TableText::Text() const {
   const auto& known = KnownTables();
@@ -108,13 +106,19 @@ std::string TextImport::Hours(std::string_view call) const {
   return text;
 }
 
+std::vector<SourceFile> SourceFiles(const NamedTexts& texts) {
+  std::vector<SourceFile> files;
+  for (const auto& [name, text] : texts)
+    files.push_back({name, text.size(), [kept = std::make_shared<std::string>(text)] {
+                       return Result<std::unique_ptr<ByteStream>>(std::make_unique<MemoryStream>(*kept));
+                     }});
+  return files;
+}
+
 TextImport ImportTexts(const NamedTexts& texts, const ImportOptions& options) {
   TextImport import;
-  Readings readings;
-  for (const auto& [name, text] : texts) {
-    MemoryStream stream(text);
-    ReadSourceFile(stream, name, options, readings, import.report);
-  }
+  Readings readings(kToday);
+  EXPECT_FALSE(ReadSourceFiles(SourceFiles(texts), options, readings, import.report));
   import.stations = MergeStations(std::move(readings.Amq), readings.Tables, options, import.report);
   CountStations(import.stations, import.report);
   MakeStationFiles(import.stations, "A test", import.report, [&](const std::string& name, std::string bytes) {

@@ -6,34 +6,16 @@
 #include <utility>
 #include <vector>
 
+#include "AmqRow.h"
 #include "import/ImportOptions.h"
 #include "import/ImportReport.h"
 #include "import/Station.h"
+#include "import/read/ReadFiles.h"
 
 namespace kestrel {
 
 /// Files by their names.
 using NamedTexts = std::vector<std::pair<std::string, std::string>>;
-
-/// A row of an AM Query list with the fields that a test cares about; the others as a plain station has them.
-struct ListRow {
-  std::string call = "QAAA";
-  std::string frequency = "1230   kHz";
-  std::string service = "AM";
-  std::string hours = "Unlimited";
-  std::string status = "LIC";
-  std::string city = "SPRINGFIELD";
-  std::string state = "IL";
-  std::string country = "US";
-  std::string power = "1.0    kW";
-  std::string directional = "";
-  std::string facility = "900001";
-  std::string latitude = "N |39 |46 |54.0";
-  std::string longitude = "W |89 |39 |0.4";
-  bool older = false;  ///< of 31 fields
-
-  std::string Text() const;
-};
 
 /// Rows of the antenna tables in either order, written from the same values: "column=value column=value ...".
 enum class Order { A, B };
@@ -54,6 +36,9 @@ NamedTexts SampleTables(Order order, bool header);
 /// `text` with `to` in place of the first `from` behind the first `behind`, which must be there.
 std::string Replaced(std::string text, std::string_view from, std::string_view to,
                      std::string_view behind = {});
+
+/// As files to read. What is opened lives as long as they do.
+std::vector<SourceFile> SourceFiles(const NamedTexts& texts);
 
 /// The files that an import replaces, by name.
 using StationSet = std::map<std::string, std::string>;

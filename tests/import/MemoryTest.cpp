@@ -1,19 +1,15 @@
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QTemporaryDir>
-#include <algorithm>
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <iostream>
 #include <string>
-#include <vector>
+#include <utility>
 
 #include "AddressSanitizer.h"
 #include "ImportTesting.h"
-#include "data/FileIo.h"
+#include "TestFolder.h"
 #include "import/Import.h"
 
 // The address sanitizer counts the memory; a build without it has no such test.
@@ -55,140 +51,85 @@ std::int64_t MostHeld(const QStringList& files, const DataFolder& folder) {
   return most;
 }
 
-/// A row with as little in it as a list may have.
-struct ShortestRow {
-  std::string call;
-  int channel = 530;
-  std::string status = "CP";
-  std::string facility = "";
-  std::string country = "";
-  std::string Text() const {
-    return "|" + call + "|" + std::to_string(channel) + "kHz|AM|||Daytime|||" + status + "|||" + country +
-           "||1kW||||" + facility + "|N|1|1|1|W|90|1|1||||||\n";
+/// Fails the running test unless an import of the texts, into a folder where `before` was imported first,
+/// holds no more than it may for so many rows that it keeps.
+void ExpectInProportion(const std::string& what, std::int64_t rows, const NamedTexts& texts,
+                        const std::string& before = {}) {
+  constexpr std::int64_t kAlways = 2 << 20;
+  constexpr std::int64_t kForARow = 400;
+  const TestFolder folder;
+  if (!before.empty()) {
+    folder.Put("before", before);
+    ASSERT_FALSE(RunImport({{folder.Path("before")}, {}, false}, folder.Folder()).Failure);
   }
-};
-
-/// A short text for each number.
-std::string Name(int number) {
-  constexpr std::string_view kLetters = "ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789";
-  std::string text;
-  for (++number; number > 0; number /= 36) text += kLetters[static_cast<std::size_t>(number % 36)];
-  return text;
-}
-
-int Channel(int number) {
-  return 530 + 10 * (number % 118);
+  QStringList files;
+  for (const auto& [name, text] : texts) {
+    files << folder.Path(QString::fromStdString(name));
+    folder.Put(QString::fromStdString(name), text);
+  }
+  const std::int64_t bytes = MostHeld(files, folder.Folder());
+  EXPECT_LT(bytes, kAlways + kForARow * rows) << what;
+  std::cout << what << ": " << bytes << " bytes for " << rows << " rows\n";
 }
 
 template <typename Row>
 std::string Rows(int count, Row row) {
   std::string text;
-  for (int i = 0; i < count; ++i) text += row(i);
+  for (int i = 1; i <= count; ++i) text += row(i);
   return text;
 }
 
-/// Fails the running test unless an import of the texts holds less than three times what it reads: them and,
-/// where `before` was imported first, the station file of 530 kHz.
-void ExpectInProportion(const std::string& what, const std::vector<std::string>& texts,
-                        const std::string& before = {}) {
-  const QTemporaryDir dir(QDir::tempPath() + "/memory test");
-  const DataFolder folder(dir.path());
-  std::int64_t size = 0;
-  if (!before.empty()) {
-    ASSERT_TRUE(folder.Write("before.txt", before));
-    ASSERT_FALSE(RunImport({{dir.filePath("before.txt")}, {}, false}, folder).Failure);
-    size += folder.Read("530x.dat")->size();
-  }
-  QStringList files;
-  for (const std::string& text : texts) {
-    files << dir.filePath(QString::number(files.size()));
-    ASSERT_TRUE(WriteFile(files.back(), text));
-    size += static_cast<std::int64_t>(text.size());
-  }
-  const std::int64_t bytes = MostHeld(files, folder);
-  EXPECT_LT(bytes, 3 * size) << what;
-  std::cout << what << ": " << static_cast<double>(bytes) / static_cast<double>(size) << " times\n";
+std::string Channel(int number) {
+  return std::to_string(530 + 10 * (number % 118));
 }
 
-// The index of call signs is at its longest beside 9000 stations, a channel at 10,000.
-TEST(ImportMemory, AListStaysUnderThreeTimesItsSize) {
-  const auto real = [](int i) {
-    return ListRow{.call = "Q" + Name(i),
-                   .frequency = std::to_string(Channel(i)) + " kHz",
-                   .city = "CITY OF " + Name(i % 1000),
-                   .facility = std::to_string(i + 1)}
+TEST(ImportMemory, IsInProportionToTheRowsOfAList) {
+  const auto band = [](int i) {
+    return AmqRow{.Call = "Q" + std::to_string(i),
+                  .Frequency = Channel(i) + " kHz",
+                  .City = "CITY OF " + std::to_string(i % 1000),
+                  .Facility = std::to_string(i)}
         .Text();
   };
-  const auto shortest = [](int i) { return ShortestRow{Name(i), Channel(i)}.Text(); };
-  const auto american = [](int i) { return ShortestRow{Name(i), Channel(i), "LIC", "", "US"}.Text(); };
-  const auto oneChannel = [](int i) { return ShortestRow{Name(i)}.Text(); };
-  const auto oneName = [](int i) { return ShortestRow{"A", 530, "CP", std::to_string(i + 1)}.Text(); };
-  const auto ended = [](int i) {
-    return "|||AM|||Daytime|||CNL|||||||||" + std::to_string(i + 1) + "||||||||||||||\n";
+  const auto namesake = [](int i) { return AmqRow{.Facility = std::to_string(i)}.Text(); };
+  const auto rival = [](int i) {
+    return AmqRow{.Call = "Q" + std::to_string(i), .Facility = std::to_string(i)}.Text();
   };
-  ExpectInProportion("rows like real ones", {Rows(20'000, real)});
-  ExpectInProportion("shortest rows", {Rows(9000, shortest)});
-  ExpectInProportion("many shortest rows", {Rows(30'000, american)});
-  ExpectInProportion("one channel", {Rows(9000, oneChannel)});
-  ExpectInProportion("one call sign", {Rows(9000, oneName)}, Rows(9000, oneName));
-  ExpectInProportion("others than before", {Rows(9000, oneChannel)}, Rows(9000, oneName));
-  ExpectInProportion("ended", {ShortestRow{"A"}.Text() + Rows(30'000, ended)});
+  ExpectInProportion("the band", 20'000, {{"amq", Rows(20'000, band)}});
+  // Compared with as many others, all on one channel.
+  ExpectInProportion("one channel", 2 * 9000, {{"amq", Rows(9000, namesake)}}, Rows(9000, rival));
 }
 
-/// A table of these columns alone, with a header; rows shorter than real ones begin with blanks.
-std::string Table(const std::vector<std::string>& columns, int count, std::size_t shortest,
-                  const std::function<std::vector<std::string>(int)>& values) {
-  const auto line = [](const std::vector<std::string>& fields) {
-    std::string text;
-    for (const std::string& field : fields) text += (text.empty() ? "" : "|") + field;
-    return text;
+TEST(ImportMemory, IsInProportionToTheRowsOfTheTablesThatBelongToAnAntenna) {
+  constexpr int kStations = 8000;
+  const std::string place =
+      " hours_operation=U lat_deg=1 lat_dir=N lat_min=1 lat_sec=1 lon_deg=90 lon_dir=W "
+      "lon_min=1 lon_sec=1 power=1 eng_record_type=C";
+  const auto table = [](const std::string& name, int count, const auto& row) {
+    TableText table{name, Order::A, true, {}};
+    for (int i = 0; i < count; ++i) table.rows.push_back(row(i));
+    return std::pair(name, table.Text());
   };
-  return line(columns) + '\n' + Rows(count, [&](int i) {
-           const std::string row = line(values(i));
-           return std::string(shortest - std::min(shortest, row.size()), ' ') + row + '\n';
-         });
-}
-
-TEST(ImportMemory, TablesStayUnderThreeTimesTheirSize) {
-  // Three antennas a station. 25,000 rows make their index as large as it gets for their number.
-  constexpr int kAntennas = 25'000;
-  constexpr int kStations = kAntennas / 3 + 1;
-  const std::string systems =
-      Table({"ant_sys_id", "application_id", "hours_operation", "lat_deg", "lat_dir", "lat_min", "lat_sec",
-             "lon_deg", "lon_dir", "lon_min", "lon_sec", "power", "eng_record_type"},
-            kAntennas, 64, [](int i) {
-              return std::vector<std::string>{
-                  Name(i), Name(i / 3), std::string(1, "DNC"[i % 3]), "1", "N", "1", "1", "90", "W", "1", "1",
-                  "1",     "C"};
-            });
-  const std::string engineering =
-      Table({"application_id", "facility_id", "station_class"}, kStations, 28, [](int i) {
-        return std::vector<std::string>{Name(i), std::to_string(i + 1), ""};
-      });
-  const std::string facilities =
-      Table({"facility_id", "fac_callsign", "fac_frequency", "fac_service", "fac_status", "comm_city",
-             "comm_state", "fac_country"},
-            kStations, 40, [](int i) {
-              return std::vector<std::string>{
-                  std::to_string(i + 1), Name(i), std::to_string(Channel(i)), "AM", "", "", "", "MX"};
-            });
-  const auto towers = [](int each, std::size_t shortest = 40) {
-    return Table({"ant_sys_id", "tower_num", "field_ratio", "phasing_deg", "spacing_deg", "orientation_deg",
-                  "tower_ref_switch"},
-                 kAntennas * each, shortest, [each](int i) {
-                   return std::vector<std::string>{
-                       Name(i / each), std::to_string(i % each + 1), "1", "", "", "", ""};
-                 });
-  };
-  const std::string station = ShortestRow{"A"}.Text();
-  ExpectInProportion("antennas", {station, systems});
-  ExpectInProportion("applications", {station, engineering});
-  ExpectInProportion("facilities", {station, facilities});
-  ExpectInProportion("towers", {station, towers(1)});
-  ExpectInProportion("towers shorter than real ones", {station, towers(4, 0)});
-  ExpectInProportion("all tables", {systems, engineering, facilities});
-  ExpectInProportion("all, a tower each", {systems, engineering, facilities, towers(1)});
-  ExpectInProportion("all, three towers each", {systems, engineering, facilities, towers(3)});
+  const NamedTexts tables = {
+      table("am_ant_sys", kStations,
+            [&](int i) {
+              const std::string number = std::to_string(i + 1);
+              return "ant_sys_id=" + number + " application_id=" + number + place;
+            }),
+      table("am_towers", 5 * kStations,
+            [](int i) {
+              return "ant_sys_id=" + std::to_string(i / 3 + 1) + " tower_num=" + std::to_string(i % 3 + 1) +
+                     " field_ratio=1";
+            }),
+      table("am_eng_data", 4 * kStations,
+            [](int i) {
+              return "application_id=" + std::to_string(i + 1) + " facility_id=" + std::to_string(i + 1);
+            }),
+      table("facility", kStations, [](int i) {
+        return "facility_id=" + std::to_string(i + 1) + " fac_callsign=Q" + std::to_string(i) +
+               " fac_country=MX fac_service=AM fac_frequency=" + Channel(i);
+      })};
+  ExpectInProportion("tables", (1 + 3 + 1 + 1) * kStations, tables);
 }
 
 }  // namespace

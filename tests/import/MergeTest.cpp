@@ -9,16 +9,16 @@ namespace kestrel {
 namespace {
 
 /// A list row of the sample tables' directional station by day, elsewhere and with another power.
-ListRow ListedWqaa() {
-  return {.call = "WQAA",
-          .frequency = "550 kHz",
-          .hours = "Daytime",
-          .city = "DELTA",
-          .power = "2.5 kW",
-          .directional = "Directional",
-          .facility = "901",
-          .latitude = "N|41|0|0",
-          .longitude = "W|91|0|0"};
+AmqRow ListedWqaa() {
+  return {.Call = "WQAA",
+          .Frequency = "550 kHz",
+          .Hours = "Daytime",
+          .City = "DELTA",
+          .Power = "2.5 kW",
+          .Directional = "Directional",
+          .Facility = "901",
+          .Latitude = "N|41|0|0",
+          .Longitude = "W|91|0|0"};
 }
 
 TextImport WithTables(const std::string& list, const ImportOptions& options = {}) {
@@ -36,17 +36,17 @@ TEST(Merge, TheListGivesTheStationAndTheTablesItsTowers) {
 }
 
 TEST(Merge, JoinsByCallSignWhereTheFacilityIsNotKnown) {
-  ListRow row = ListedWqaa();
+  AmqRow row = ListedWqaa();
   for (const char* facility : {"", "0", "-", "777"}) {
-    row.facility = facility;
+    row.Facility = facility;
     EXPECT_TRUE(WithTables(row.Text()).Hours("WQAA").starts_with("D3")) << facility;
   }
-  row.frequency = "560 kHz";
+  row.Frequency = "560 kHz";
   EXPECT_EQ(WithTables(row.Text()).report.Of(Finding::TowersUnknown).Rows, 1);
-  row.frequency = "550 kHz";
-  ListRow namesake = row;  // with two of the name no one can tell whose towers they are
-  namesake.city = "ELSEWHERE";
-  namesake.facility = "778";
+  row.Frequency = "550 kHz";
+  AmqRow namesake = row;  // with two of the name no one can tell whose towers they are
+  namesake.City = "ELSEWHERE";
+  namesake.Facility = "778";
   EXPECT_EQ(WithTables(row.Text() + namesake.Text()).report.Of(Finding::TowersUnknown).Rows, 2);
 
   NamedTexts texts = SampleTables(Order::A, false);  // nor with two of them in the tables
@@ -57,17 +57,17 @@ TEST(Merge, JoinsByCallSignWhereTheFacilityIsNotKnown) {
 }
 
 TEST(Merge, WithoutTowersTheListSaysWhatIsKnown) {
-  ListRow row{.directional = "Directional"};
+  AmqRow row{.Directional = "Directional"};
   const TextImport directional = WithTables(row.Text());
   EXPECT_EQ(directional.Hours("QAAA"), "U0");
   EXPECT_EQ(directional.Examples(Finding::TowersUnknown), "amq.txt:1: QAAA U\n");
-  row.directional = "";
+  row.Directional = "";
   EXPECT_TRUE(WithTables(row.Text())
                   .files.at("1230x.dat")
                   .ends_with(", U, 39.7817, 89.6501, 1,-,-, 1\r\n0,1,90,0,0,0\r\n"));
 
-  ListRow listed = ListedWqaa();
-  listed.directional = "";
+  AmqRow listed = ListedWqaa();
+  listed.Directional = "";
   EXPECT_EQ(WithTables(listed.Text()).Examples(Finding::TowersDisagree), "amq.txt:1: WQAA D, 3 towers\n");
 }
 
@@ -86,8 +86,8 @@ TEST(Merge, OnlyANonDirectionalStationHasATowerWhateverTheTablesLack) {
   EXPECT_EQ(manyTowers.Hours("WQAA"), "D0N1");
   EXPECT_EQ(manyTowers.Examples(Finding::TooManyTowers), "am_ant_sys.dat:2: WQAA D, 13 towers\n");
 
-  ListRow listed = ListedWqaa();
-  listed.directional = "";
+  AmqRow listed = ListedWqaa();
+  listed.Directional = "";
   const auto import = [&](NamedTexts texts) {
     texts.emplace_back("amq.txt", listed.Text());
     const TextImport result = ImportTexts(texts);
@@ -110,7 +110,7 @@ TEST(Merge, OnlyANonDirectionalStationHasATowerWhateverTheTablesLack) {
 
 TEST(Merge, TheBestStatusCountsAndOfEqualsTheLast) {
   const auto listed = [](const char* status, const char* power) {
-    return ListRow{.status = status, .power = power}.Text();
+    return AmqRow{.Status = status, .Power = power}.Text();
   };
   const ImportOptions permits{.IncludePermits = true};
   const auto power = [&](const std::string& text) {
@@ -126,15 +126,15 @@ TEST(Merge, TheBestStatusCountsAndOfEqualsTheLast) {
 }
 
 TEST(Merge, TheLastListCountsMost) {
-  const std::string old = ListRow{.power = "1 kW"}.Text();
+  const std::string old = AmqRow{.Power = "1 kW"}.Text();
   const TextImport later =
-      ImportTexts({{"old", old}, {"new", ListRow{.status = "STA", .power = "2 kW"}.Text()}});
+      ImportTexts({{"old", old}, {"new", AmqRow{.Status = "STA", .Power = "2 kW"}.Text()}});
   ASSERT_EQ(later.stations.size(), 1U);
   EXPECT_EQ(later.stations.front().PowerKW, 2);
   EXPECT_EQ(later.Examples(Finding::Superseded), "old:1: QAAA 1230 U\n");
 
   // Day and night in place of unlimited.
-  const std::string split = ListRow{.hours = "Daytime"}.Text() + ListRow{.hours = "Nighttime"}.Text();
+  const std::string split = AmqRow{.Hours = "Daytime"}.Text() + AmqRow{.Hours = "Nighttime"}.Text();
   EXPECT_EQ(ImportTexts({{"old", old}, {"new", split}}).Hours("QAAA"), "D1N1");
   EXPECT_EQ(ImportTexts({{"old", split}, {"new", old}}).Hours("QAAA"), "U1");
   EXPECT_EQ(ImportTexts({{"one", old + split}}).Hours("QAAA"), "D1N1U1");  // one list is taken at its word
@@ -142,7 +142,7 @@ TEST(Merge, TheLastListCountsMost) {
 
 TEST(Merge, AStationEndedInALaterListIsGone) {
   const auto row = [](const std::string& status, const std::string& facility = "900001") {
-    return ListRow{.status = status, .facility = facility}.Text();
+    return AmqRow{.Status = status, .Facility = facility}.Text();
   };
   const auto left = [](const std::vector<std::string>& lists) {
     NamedTexts texts;
@@ -160,11 +160,11 @@ TEST(Merge, AStationEndedInALaterListIsGone) {
     EXPECT_EQ(left({row("LIC"), row(status) + row("LIC")}), "U1") << status;
   }
   for (const char* status : {"CP", "APP"}) EXPECT_EQ(left({row("LIC"), row(status)}), "U1") << status;
-  EXPECT_EQ(left({row("LIC"), ListRow{.call = "-"}.Text()}), "");
-  EXPECT_EQ(left({row("LIC"), ListRow{.hours = "Nighttime", .status = "DEL"}.Text()}), "U1");
+  EXPECT_EQ(left({row("LIC"), AmqRow{.Call = "-"}.Text()}), "");
+  EXPECT_EQ(left({row("LIC"), AmqRow{.Hours = "Nighttime", .Status = "DEL"}.Text()}), "U1");
   for (const char* facility : {"", "900001"})
     EXPECT_EQ(
-        left({row("LIC", facility), ListRow{.status = "DEL", .city = "ELSEWHERE", .facility = ""}.Text()}),
+        left({row("LIC", facility), AmqRow{.Status = "DEL", .City = "ELSEWHERE", .Facility = ""}.Text()}),
         "U1");
   EXPECT_EQ(ImportTexts({{"old", row("LIC")}, {"new", row("DEL")}}).Examples(Finding::Superseded),
             "old:1: QAAA 1230 U, off the air in a later list\n");
@@ -173,16 +173,16 @@ TEST(Merge, AStationEndedInALaterListIsGone) {
 TEST(Merge, AChannelHoldsItsStrongestStations) {
   auto texts = SampleTables(Order::A, false);
   std::string list =
-      ListRow{.call = "QWEAK", .frequency = "550 kHz", .power = "0.5 kW", .facility = "1"}.Text();
+      AmqRow{.Call = "QWEAK", .Frequency = "550 kHz", .Power = "0.5 kW", .Facility = "1"}.Text();
   for (int i = 2; i <= MaxRecords; ++i)
-    list += ListRow{.frequency = "550 kHz", .facility = std::to_string(i + 1'000'000)}.Text();
+    list += AmqRow{.Frequency = "550 kHz", .Facility = std::to_string(i + 1'000'000)}.Text();
   texts.emplace_back("amq.txt", list);
   const TextImport full = ImportTexts(texts);
   EXPECT_EQ(full.report.Records, MaxRecords + 1) << "one of the tables is on another channel";
   EXPECT_EQ(full.Examples(Finding::ChannelFull),
             "am_ant_sys.dat:1: WQAA 550 D\nam_ant_sys.dat:2: WQAA 550 N\n");
 
-  texts.back().second += ListRow{.call = "QMORE", .frequency = "550 kHz", .facility = "2"}.Text();
+  texts.back().second += AmqRow{.Call = "QMORE", .Frequency = "550 kHz", .Facility = "2"}.Text();
   const TextImport over = ImportTexts(texts);
   EXPECT_TRUE(over.Examples(Finding::ChannelFull).starts_with("amq.txt:1: QWEAK 550 U\n"))
       << over.Examples(Finding::ChannelFull);
@@ -195,8 +195,8 @@ TEST(Merge, AChannelHoldsItsStrongestStations) {
 }
 
 TEST(Merge, TheListOverrulesTheTablesOnWhoIsOnTheAir) {
-  ListRow row = ListedWqaa();
-  row.status = "CNL";
+  AmqRow row = ListedWqaa();
+  row.Status = "CNL";
   const TextImport cancelled = WithTables(row.Text());
   EXPECT_EQ(cancelled.Hours("WQAA"), "");
   EXPECT_EQ(cancelled.Examples(Finding::NotOnAir),
@@ -204,12 +204,12 @@ TEST(Merge, TheListOverrulesTheTablesOnWhoIsOnTheAir) {
             "am_ant_sys.dat:2: WQAA 550 N, by the AM Query list\n");
   EXPECT_EQ(cancelled.report.Of(Finding::NotReferred).Rows, 6);  // four towers and what joins them
   // A row without the facility ends the day by its names; the night, which no row speaks of, stays.
-  row.facility = "";
-  row.city = "BRAVO";
+  row.Facility = "";
+  row.City = "BRAVO";
   EXPECT_EQ(WithTables(row.Text()).Hours("WQAA"), "N1");
-  row.facility = "901";
-  row.status = "LIC";
-  row.hours = "Unlimited";  // in place of the tables' day and night
+  row.Facility = "901";
+  row.Status = "LIC";
+  row.Hours = "Unlimited";  // in place of the tables' day and night
   const TextImport unlimited = WithTables(row.Text());
   EXPECT_EQ(unlimited.Hours("WQAA"), "U0");
   EXPECT_EQ(unlimited.report.Of(Finding::Superseded).Rows, 2);
@@ -235,8 +235,8 @@ TEST(Merge, SilentStationsAndPermitsOnlyWhenWanted) {
         << table << ' ' << from << ' ' << to;
 
   // A permit's list row does not take the towers of the licence.
-  ListRow row = ListedWqaa();
-  row.status = "CP";
+  AmqRow row = ListedWqaa();
+  row.Status = "CP";
   EXPECT_EQ(WithTables(row.Text(), {.IncludePermits = true}).Hours("WQAA"), "D0N1");
 }
 

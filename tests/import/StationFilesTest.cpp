@@ -57,8 +57,8 @@ TEST(StationLineText, AFullStationFileIsReadWhole) {
 
 TEST(StationSet, HoldsEveryChannelAndReportsNamesThatDoNotFit) {
   const TextImport import =
-      ImportTexts({{"amq.txt", ListRow{.call = "QABC-FM2", .city = "ST. JOHN, N.B."}.Text() +
-                                   ListRow{.city = "", .facility = "2"}.Text()}});
+      ImportTexts({{"amq.txt", AmqRow{.Call = "QABC-FM2", .City = "ST. JOHN, N.B."}.Text() +
+                                   AmqRow{.City = "", .Facility = "2"}.Text()}});
   EXPECT_EQ(import.files.size(), 120U);
   EXPECT_EQ(import.files.at("530x.dat"), "");
   EXPECT_EQ(import.files.at("1700x.dat"), "");
@@ -70,18 +70,18 @@ TEST(StationSet, HoldsEveryChannelAndReportsNamesThatDoNotFit) {
 
 TEST(CallIndex, ALineForEachSiteInTheColumnsOfTheReader) {
   const std::string text =
-      ListRow{.call = "QZZZ", .hours = "Daytime", .facility = "1"}.Text() +
-      ListRow{.call = "QZZZ", .hours = "Nighttime", .power = "0.25 kW", .facility = "1"}.Text() +
-      ListRow{.call = "QBBB",
-              .status = "CP",
-              .city = "SÃO JOÃO DOS CAMPOS GERAIS",
-              .state = "-",
-              .country = "BR",
-              .facility = "2",
-              .latitude = "S|23|30|0",
-              .longitude = "W|46|37|0"}
+      AmqRow{.Call = "QZZZ", .Hours = "Daytime", .Facility = "1"}.Text() +
+      AmqRow{.Call = "QZZZ", .Hours = "Nighttime", .Power = "0.25 kW", .Facility = "1"}.Text() +
+      AmqRow{.Call = "QBBB",
+             .Status = "CP",
+             .City = "SÃO JOÃO DOS CAMPOS GERAIS",
+             .State = "-",
+             .Country = "BR",
+             .Facility = "2",
+             .Latitude = "S|23|30|0",
+             .Longitude = "W|46|37|0"}
           .Text() +
-      ListRow{.call = "QCCC", .city = "ICE", .facility = "3", .longitude = "W|25|0|0"}.Text();
+      AmqRow{.Call = "QCCC", .City = "ICE", .Facility = "3", .Longitude = "W|25|0|0"}.Text();
   const TextImport import = ImportTexts({{"amq.txt", text}});
   const std::string& index = import.files.at("StationsCall.DAT");
   EXPECT_EQ(import.report.Stations, 3);
@@ -94,9 +94,9 @@ TEST(CallIndex, ALineForEachSiteInTheColumnsOfTheReader) {
 }
 
 TEST(CallIndex, ASiteStandsWhereItsStationFileHasIt) {
-  const ListRow equator{
-      .call = "QEQU", .status = "CP", .country = "EC", .latitude = "N|0|0|0", .longitude = "W|78|30|0"};
-  const ListRow far{.call = "QFAR", .facility = "2", .longitude = "W|144|45|23.2"};
+  const AmqRow equator{
+      .Call = "QEQU", .Status = "CP", .Country = "EC", .Latitude = "N|0|0|0", .Longitude = "W|78|30|0"};
+  const AmqRow far{.Call = "QFAR", .Facility = "2", .Longitude = "W|144|45|23.2"};
   const TextImport import = ImportTexts({{"amq.txt", equator.Text() + far.Text()}});
   const auto entries = ReadPlaceList(import.files.at("StationsCall.DAT"), MaxCalls).Entries;
   ASSERT_EQ(entries.size(), 2U);
@@ -115,12 +115,12 @@ TEST(CallIndex, WhatHasNoRoomIsWeakOrASecondSiteAndReported) {
   // 8998 strong stations of a large town, and four that compete for the last two places.
   std::string text;
   for (int i = 1; i <= 8998; ++i)
-    text += ListRow{.call = "Q" + std::to_string(i), .power = "5 kW", .facility = std::to_string(i)}.Text();
+    text += AmqRow{.Call = "Q" + std::to_string(i), .Power = "5 kW", .Facility = std::to_string(i)}.Text();
   text +=
-      ListRow{.call = "QFAR", .city = "ELSEWHERE", .power = "0.1 kW", .facility = "9001"}.Text() +
-      ListRow{.call = "QMORE", .power = "1 kW", .facility = "9002"}.Text() +
-      ListRow{.call = "QLESS", .power = "0.5 kW", .facility = "9003"}.Text() +
-      ListRow{.call = "Q1", .hours = "Nighttime", .power = "4.9 kW", .facility = "1", .latitude = "N|40|0|0"}
+      AmqRow{.Call = "QFAR", .City = "ELSEWHERE", .Power = "0.1 kW", .Facility = "9001"}.Text() +
+      AmqRow{.Call = "QMORE", .Power = "1 kW", .Facility = "9002"}.Text() +
+      AmqRow{.Call = "QLESS", .Power = "0.5 kW", .Facility = "9003"}.Text() +
+      AmqRow{.Call = "Q1", .Hours = "Nighttime", .Power = "4.9 kW", .Facility = "1", .Latitude = "N|40|0|0"}
           .Text();
   const TextImport import = ImportTexts({{"amq.txt", text}});
   const std::string& index = import.files.at("StationsCall.DAT");

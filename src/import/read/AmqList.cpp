@@ -23,6 +23,7 @@ enum Field : std::size_t {
   kCity = 10,
   kState = 11,
   kCountry = 12,
+  kFileNumber = 13,
   kPower = 14,
   kDirectional = 15,
   kFacility = 18,
@@ -33,7 +34,7 @@ enum Field : std::size_t {
 constexpr std::size_t kOlderFields = 31;
 constexpr std::size_t kFields = 33;
 
-// In the order of preference; those behind the permit are never on the air.
+// In the order of preference; those after the permit are never on the air.
 constexpr std::array<std::string_view, 11> kStatuses = {"LIC",    "STA", "MOD", "CP",  "APP", "NCECP",
                                                         "NCECPA", "EXT", "CNL", "EXP", "DEL"};
 
@@ -61,7 +62,8 @@ std::string Quoted(std::string_view text) {
 
 class Reader {
  public:
-  Reader(const ImportOptions& options, AmqStations& stations) : options_(options), stations_(stations) {}
+  Reader(const ImportOptions& options, AmqStations& stations, NewestDate& dates)
+      : options_(options), stations_(stations), dates_(dates) {}
 
   /// Adds the row's station, or says why not.
   std::optional<Fault> Add(std::string_view line, bool cut, RowPlace row);
@@ -75,6 +77,7 @@ class Reader {
 
   const ImportOptions& options_;
   AmqStations& stations_;
+  NewestDate& dates_;
   std::vector<std::string_view> fields_;
 };
 
@@ -90,6 +93,7 @@ std::optional<Fault> Reader::Add(std::string_view line, bool cut, RowPlace row) 
   Station station;
   station.Row = row;
   if (fields_[kService] != "AM") return Fault{Finding::OtherService, "service " + Quoted(fields_[kService])};
+  dates_.See(FileNumberDate(fields_[kFileNumber]));
   if (auto fault = ReadStatus(station)) return fault;
   if (auto fault = ReadSite(station)) return fault;
   stations_.OnAir.push_back(std::move(station));
@@ -111,6 +115,8 @@ std::optional<Fault> Reader::ReadStatus(Station& station) {
   if (IsOnRaster(frequency)) station.Channel = static_cast<std::int16_t>(frequency);
   station.Preference = static_cast<std::uint8_t>(status - kStatuses.begin()) & 0x3F;
   station.Permit = country == "US" && *status != "LIC" && *status != "STA";
+  if (stations_.RowCount == stations_.MostRows) return Fault{Finding::NoRoom, callSign};
+  ++stations_.RowCount;
   if (station.Facility != 0) stations_.Facilities.push_back(station.Facility);
 
   const bool named = IsCallSign(callSign);
@@ -157,8 +163,8 @@ bool IsAmqRow(std::string_view line) {
 }
 
 void ReadAmqList(LineStream& lines, int file, const ImportOptions& options, AmqStations& stations,
-                 ImportReport& report) {
-  Reader reader(options, stations);
+                 NewestDate& dates, ImportReport& report) {
+  Reader reader(options, stations, dates);
   while (const auto line = lines.Next()) {
     const RowPlace row{file, lines.LineNumber()};
     const std::size_t bar = line->find('|');

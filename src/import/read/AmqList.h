@@ -9,6 +9,7 @@
 #include "import/ImportReport.h"
 #include "import/Station.h"
 #include "import/read/LineStream.h"
+#include "import/read/RowDates.h"
 
 // The AM Query list: one bar-delimited row for each station and period. docs/formats/amq-list.md describes
 // it.
@@ -26,15 +27,17 @@ struct AmqStations {
   /// Those under a status that ends them, or without a call sign: what makes their identity, and the row. A
   /// permit or an application beside a licence ends nothing.
   Stations Ended;
+  std::size_t RowCount = 0;             ///< that something is kept of
+  std::size_t MostRows = MostKeptRows;  ///< of these
 };
 
 /// Whether a line looks like a row of such a list; any number of fields from 31 on.
 bool IsAmqRow(std::string_view line);
 
 /// Reads the list to its end and adds its stations on the air. Each row that is not taken is left out in
-/// `report` with its reason; lines that do not begin with a bar are no rows, unless a whole one stands behind
+/// `report` with its reason; lines that do not begin with a bar are no rows, unless a whole one stands after
 /// something else. Rows taken are counted as taken only when the stations are merged.
 void ReadAmqList(LineStream& lines, int file, const ImportOptions& options, AmqStations& stations,
-                 ImportReport& report);
+                 NewestDate& dates, ImportReport& report);
 
 }  // namespace kestrel

@@ -11,11 +11,12 @@ namespace {
 
 constexpr double kMostDegrees = 100000;  // of a height or spacing
 
-/// Keeps `row`; an earlier one of its key is left out.
+/// Keeps `row`; an earlier one of its key is left out, and so is a new one beyond `most`.
 template <typename Row>
-void Keep(KeyedRows<Row>& rows, Row row, ImportReport& report) {
+void Keep(KeyedRows<Row>& rows, Row row, std::size_t most, ImportReport& report) {
   Row* const earlier = rows.Find(row.Key());
   if (!earlier) {
+    if (rows.size() == most) return report.LeaveOut(row.Row, Finding::NoRoom, KeyText(row.Key()));
     rows.Add(std::move(row));
     return;
   }
@@ -41,6 +42,7 @@ void WithdrawTowers(AntennaTables& tables, const std::string& system, const Tabl
   if (!earlier || earlier->Rows.front().Row.File == row.Place().File) return;
   for (const TowerRow& old : earlier->Rows)
     report.LeaveOut(old.Row, Finding::Superseded, "tower " + std::to_string(old.Number));
+  tables.TowerRowCount -= earlier->Rows.size();
   tables.Towers.Remove(system);
 }
 
@@ -78,7 +80,7 @@ void ReadAntennaSystem(TableRow& row, bool current, AntennaTables& tables, Impor
   system.PowerKW = row.Number("power", 0, 1e6).value_or(0);
   system.Position = row.Position();
   if (row.Faulty()) return;
-  Keep(tables.Systems, std::move(system), report);
+  Keep(tables.Systems, std::move(system), tables.MostRows, report);
 }
 
 /// Of a top-loaded tower without a height of its own: the height of its parts.
@@ -97,6 +99,9 @@ void ReadTower(TableRow& row, AntennaTables& tables, ImportReport& report) {
   TowerRow tower;
   tower.Row = row.Place();
   const std::string system = row.Key("ant_sys_id");
+  if (row.Faulty()) return;
+  if (!tables.Systems.Find(system))
+    return row.LeaveOut(Finding::NotReferred, "a tower of antenna system " + system);
   if (!IsInForce(row)) return WithdrawTowers(tables, system, row, report);
   row.Key("tower_num");
   tower.Number = static_cast<std::int16_t>(row.Number("tower_num", 1, 1000).value_or(0));
@@ -114,6 +119,8 @@ void ReadTower(TableRow& row, AntennaTables& tables, ImportReport& report) {
   if (row.Faulty()) return;
 
   WithdrawTowers(tables, system, row, report);
+  if (tables.TowerRowCount == tables.MostRows)
+    return row.LeaveOut(Finding::NoRoom, "a tower of antenna system " + system);
   TowerRows* array = tables.Towers.Find(system);
   if (!array) array = &tables.Towers.Add({PackedTexts<1>({system}), {}});
   std::vector<TowerRow>& towers = array->Rows;
@@ -121,16 +128,22 @@ void ReadTower(TableRow& row, AntennaTables& tables, ImportReport& report) {
                                  [&](const TowerRow& old) { return old.Number == tower.Number; });
   if (same == towers.end()) {
     towers.push_back(tower);
+    ++tables.TowerRowCount;
   } else {
     report.LeaveOut(same->Row, Finding::Superseded, "tower " + std::to_string(tower.Number));
     *same = tower;
   }
 }
 
-void ReadApplication(TableRow& row, KeyedRows<ApplicationRow>& rows, ImportReport& report) {
+void ReadApplication(TableRow& row, const AntennaTables& tables, KeyedRows<ApplicationRow>& rows,
+                     ImportReport& report) {
   ApplicationRow application;
   application.Row = row.Place();
   const std::string id = row.Key("application_id");
+  if (row.Faulty()) return;
+  const std::vector<std::string_view>& wanted = tables.AntennaApplications;
+  if (!std::binary_search(wanted.begin(), wanted.end(), id))
+    return row.LeaveOut(Finding::NotReferred, "application " + id);
   application.Id = PackedTexts<1>({id});
   if (!IsInForce(row)) return Withdraw(rows, id, row, report);
   application.Facility = row.Facility();
@@ -139,7 +152,7 @@ void ReadApplication(TableRow& row, KeyedRows<ApplicationRow>& rows, ImportRepor
   if (!service.empty() && service != "AM")
     return row.LeaveOut(Finding::OtherService, "service \"" + std::string(service) + '"');
   if (row.Faulty()) return;
-  Keep(rows, std::move(application), report);
+  Keep(rows, std::move(application), tables.MostRows, report);
 }
 
 void ReadFacility(TableRow& row, AntennaTables& tables, ImportReport& report) {
@@ -158,15 +171,16 @@ void ReadFacility(TableRow& row, AntennaTables& tables, ImportReport& report) {
   facility.Texts =
       PackedTexts<2>({Columns(row.Text("fac_status"), 1, 50), row.OptionalKey("application_id")});
   if (row.Faulty()) return;
-  Keep(tables.Facilities, std::move(facility), report);
+  Keep(tables.Facilities, std::move(facility), tables.MostRows, report);
 }
 
 }  // namespace
 
 void ReadAntennaTable(LineStream& lines, int file, const TableLayout& layout, AntennaTables& tables,
-                      ImportReport& report) {
+                      NewestDate& dates, ImportReport& report) {
   TableRow row(lines, file, layout, report);
   while (row.Next()) {
+    dates.See(ColumnDate(row.LastChange()));
     switch (layout.Kind) {
       case TableKind::AntennaSystems:
         ReadAntennaSystem(row, layout.Current, tables, report);
@@ -175,10 +189,10 @@ void ReadAntennaTable(LineStream& lines, int file, const TableLayout& layout, An
         ReadTower(row, tables, report);
         break;
       case TableKind::EngineeringData:
-        ReadApplication(row, tables.Engineering, report);
+        ReadApplication(row, tables, tables.Engineering, report);
         break;
       case TableKind::Applications:
-        ReadApplication(row, tables.Applications, report);
+        ReadApplication(row, tables, tables.Applications, report);
         break;
       case TableKind::Facilities:
         ReadFacility(row, tables, report);
@@ -188,6 +202,14 @@ void ReadAntennaTable(LineStream& lines, int file, const TableLayout& layout, An
         break;
     }
   }
+}
+
+void SortAntennaApplications(AntennaTables& tables) {
+  std::vector<std::string_view>& applications = tables.AntennaApplications;
+  applications.clear();
+  applications.reserve(tables.Systems.size());
+  for (const AntennaSystem& system : tables.Systems) applications.push_back(system.Application());
+  std::sort(applications.begin(), applications.end());
 }
 
 }  // namespace kestrel

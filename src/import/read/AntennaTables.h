@@ -13,11 +13,13 @@
 #include "import/Station.h"
 #include "import/read/KeyedRows.h"
 #include "import/read/LineStream.h"
+#include "import/read/RowDates.h"
 #include "import/read/TableLayout.h"
 
 // The rows of the antenna tables, kept by their keys until the stations are put together from them. Of
 // several rows with the same key the last one counts; one that is not in force takes away what an earlier
-// file has under its key.
+// file has under its key. Tables of the FCC's current system hold all services, so what belongs to no antenna
+// is not kept.
 
 namespace kestrel {
 
@@ -86,6 +88,10 @@ struct AntennaTables {
   KeyedRows<ApplicationRow> Engineering;
   KeyedRows<ApplicationRow> Applications;
   KeyedRows<FacilityRow> Facilities;
+  std::size_t TowerRowCount = 0;
+  /// The applications of `Systems`, sorted; views into them.
+  std::vector<std::string_view> AntennaApplications;
+  std::size_t MostRows = MostKeptRows;  ///< of each table
 };
 
 inline std::string KeyText(std::string_view key) {
@@ -96,8 +102,12 @@ inline std::string KeyText(FacilityId key) {
 }
 
 /// Reads the table to its end. Rows that are not kept are left out in `report` with their reason; the others
-/// are taken or left out when the stations are put together.
+/// are taken or left out when the stations are put together. REQUIRES: a table of towers or applications
+/// comes after all tables of antennas and SortAntennaApplications.
 void ReadAntennaTable(LineStream& lines, int file, const TableLayout& layout, AntennaTables& tables,
-                      ImportReport& report);
+                      NewestDate& dates, ImportReport& report);
+
+/// To be called when all tables of antennas have been read.
+void SortAntennaApplications(AntennaTables& tables);
 
 }  // namespace kestrel

@@ -8,21 +8,21 @@
 namespace kestrel {
 namespace {
 
-constexpr std::size_t kBufferSize = 256 << 10;
+constexpr std::size_t kBufferSize = 96 << 10;
 
 }  // namespace
 
 LineStream::LineStream(ByteStream& stream) : stream_(stream), buffer_(kBufferSize) {
-  while (end_ < LongestLine && Fill()) {
+  while (end_ < LongestRow && Fill()) {
   }
   if (Available().starts_with("\xEF\xBB\xBF")) begin_ += 3;
 }
 
 std::string_view LineStream::Head() const {
-  return Available().substr(0, LongestLine);
+  return Available().substr(0, LongestRow);
 }
 
-/// Reads on behind the bytes that are there; false at the end of the stream.
+/// Reads on after the bytes that are there; false at the end of the stream.
 bool LineStream::Fill() {
   if (atEnd_) return false;
   if (begin_ > 0) {
@@ -42,16 +42,16 @@ std::optional<std::string_view> LineStream::Next() {
   std::size_t length = std::string_view::npos;
   while ((length = Available().find('\n', searched)) == std::string_view::npos) {
     searched = Available().size();
-    if (searched > LongestLine || !Fill()) break;
+    if (searched > LongestRow || !Fill()) break;
   }
   if (length == std::string_view::npos && Available().empty()) return std::nullopt;
   ++lineNumber_;
 
   std::string_view line = Available().substr(0, length);
   begin_ += std::min(line.size() + 1, Available().size());
-  if (line.size() > LongestLine) {
+  if (line.size() > LongestRow) {
     cut_ = true;
-    line = AsText(mended_ = std::string(line.substr(0, LongestLine)));
+    line = AsText(mended_ = std::string(line.substr(0, LongestRow)));
     while (length == std::string_view::npos) {
       begin_ = end_;
       if (!Fill()) break;

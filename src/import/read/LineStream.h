@@ -16,7 +16,7 @@ namespace kestrel {
 /// over, NUL bytes become blanks, and a line that is not UTF-8 is taken as Latin-1.
 class LineStream {
  public:
-  static constexpr std::size_t LongestLine = 64 << 10;  ///< bytes; the rest of a longer line is passed over
+  static constexpr std::size_t LongestRow = 64 << 10;  ///< bytes; the rest of a longer line is passed over
 
   /// The stream must outlive the reader.
   explicit LineStream(ByteStream& stream);
@@ -28,7 +28,7 @@ class LineStream {
   /// The next line as text; the view holds until the next call. Nothing at the end.
   std::optional<std::string_view> Next();
 
-  /// Whether the line handed out last was longer than LongestLine and was cut.
+  /// Whether the line handed out last was longer than LongestRow and was cut.
   bool WasCut() const { return cut_; }
 
   /// Number of the line handed out last, counted from 1; 0 before the first.

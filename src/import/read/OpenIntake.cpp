@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <algorithm>
+#include <limits>
 #include <string_view>
 
 #include "data/FileIo.h"
@@ -12,6 +13,8 @@
 
 namespace kestrel {
 namespace {
+
+constexpr qint64 kAnySize = std::numeric_limits<qint64>::max();
 
 class FileStream : public ByteStream {
  public:
@@ -44,7 +47,7 @@ class PlainIntake : public Intake {
   }
 
   Result<std::unique_ptr<ByteStream>> Open(std::size_t) override {
-    Result<PlainFile> file = PlainFile::Open(path_, LargestImportFile);
+    Result<PlainFile> file = PlainFile::Open(path_, kAnySize);
     if (!file) return file.error();
     return std::unique_ptr<ByteStream>(std::make_unique<FileStream>(std::move(*file), parts_.front().Size));
   }
@@ -62,11 +65,11 @@ bool IsZip(const PlainFile& file) {
 
 }  // namespace
 
-Result<std::unique_ptr<Intake>> OpenIntake(const QString& path, std::uint64_t largest) {
-  Result<PlainFile> file = PlainFile::Open(path, static_cast<qint64>(largest));
+Result<std::unique_ptr<Intake>> OpenIntake(const QString& path) {
+  Result<PlainFile> file = PlainFile::Open(path, kAnySize);
   if (!file) return file.error();
   const std::string name = QFileInfo(path).fileName().toStdString();
-  if (IsZip(*file)) return OpenZip(std::move(*file), name, largest);
+  if (IsZip(*file)) return OpenZip(std::move(*file), name);
   const auto size = static_cast<std::uint64_t>(file->Size());
   return std::unique_ptr<Intake>(std::make_unique<PlainIntake>(path, name, size));
 }

@@ -1,74 +1,140 @@
 #include "import/read/ReadFiles.h"
 
 #include <algorithm>
-#include <optional>
-#include <string_view>
+#include <utility>
 
-#include "import/read/RowFields.h"
-#include "import/read/TableLayout.h"
+#include "import/read/FileContent.h"
+#include "import/read/LineStream.h"
 
 namespace kestrel {
 namespace {
 
-/// What a file is that cannot be one of ours, by its first bytes; empty when that is not plain.
-std::string_view ForeignContent(std::string_view head) {
-  if (head.empty()) return "is empty";
-  if (head.find_first_not_of(std::string_view("\0 \r\n", 4)) == std::string_view::npos)
-    return "holds nothing but blanks or zeros";
-  if (head.starts_with("PK\x03\x04")) return "is a zip inside a zip; unpack the outer one first";
-  if (head.starts_with("\x1F\x8B")) return "is packed by gzip; unpack it first";
-  if (head.starts_with("\xFF\xFE") || head.starts_with("\xFE\xFF")) return "is UTF-16 text; save it as UTF-8";
-  return {};
-}
+/// Hands bytes on until it is told to stop.
+class CountedStream : public ByteStream {
+ public:
+  CountedStream(ByteStream& stream, const std::function<bool(std::size_t)>& passed)
+      : stream_(stream), passed_(passed) {}
 
-struct FirstLines {
-  bool amq = false;
-  std::size_t barFields = 0;  // of the first line that begins with a bar
+  std::size_t Read(char* to, std::size_t most) override {
+    const std::size_t count = stream_.Read(to, most);
+    return passed_(count) ? count : 0;
+  }
+  std::string Problem() const override { return stream_.Problem(); }
+
+ private:
+  ByteStream& stream_;
+  const std::function<bool(std::size_t)>& passed_;
 };
 
-FirstLines LookForAmq(std::string_view head) {
-  FirstLines found;
-  std::vector<std::string_view> fields;
-  for (std::size_t end = 0; !head.empty() && !found.amq; head.remove_prefix(end)) {
-    end = std::min(head.find('\n'), head.size());
-    std::string_view line = head.substr(0, end);
-    end = std::min(end + 1, head.size());
-    if (!line.starts_with('|')) continue;
-    if (line.ends_with('\r')) line.remove_suffix(1);
-    found.amq = IsAmqRow(line);
-    SplitAtBars(line, fields);
-    if (found.barFields == 0) found.barFields = fields.size() - 1;
+class Reading {
+ public:
+  Reading(const ImportOptions& options, Readings& readings, ImportReport& report,
+          const ReadingProgress& progress)
+      : options_(options), readings_(readings), report_(report), progress_(progress) {}
+
+  /// Sorts out the files that are the importer's.
+  void LookAt(const std::vector<SourceFile>& files);
+  void Read();
+
+  const std::optional<Error>& Failure() const { return failure_; }
+
+ private:
+  /// A file of the importer's, and its number in the report.
+  struct Known {
+    const SourceFile* file;
+    FileContent content;
+    int number;
+
+    bool HoldsAntennas() const { return content.Table && content.Table->Kind == TableKind::AntennaSystems; }
+  };
+
+  void Read(const Known& known);
+  void Fail(const Error& error) {
+    report_.Refuse(error.file, error.text);
+    if (!failure_) failure_ = error;
   }
-  return found;
+  bool GoesOn(std::string_view name) {
+    const double share = static_cast<double>(done_) / static_cast<double>(std::max<std::uint64_t>(total_, 1));
+    ended_ = ended_ || (progress_ && !progress_(std::min(share, 1.0), name));
+    return !ended_;
+  }
+
+  const ImportOptions& options_;
+  Readings& readings_;
+  ImportReport& report_;
+  const ReadingProgress& progress_;
+  std::vector<Known> known_;
+  std::optional<Error> failure_;
+  std::uint64_t done_ = 0;  // bytes
+  std::uint64_t total_ = 0;
+  bool ended_ = false;
+};
+
+void Reading::LookAt(const std::vector<SourceFile>& files) {
+  for (const SourceFile& file : files) {
+    if (!GoesOn(file.Name)) return;
+    const Result<std::unique_ptr<ByteStream>> stream = file.Open();
+    if (!stream) {
+      Fail(stream.error());
+      continue;
+    }
+    const LineStream lines(**stream);
+    Result<FileContent> content = RecogniseFile(lines.Head());
+    if (const std::string problem = (*stream)->Problem(); !problem.empty())
+      Fail({Error::Kind::Malformed, file.Name, 0, problem});
+    else if (!content)
+      report_.Refuse(file.Name, content.error().text);
+    else if (file.Size > LargestSourceFile)
+      Fail({Error::Kind::TooLarge, file.Name, 0,
+            "is larger than " + std::to_string(LargestSourceFile >> 20) + " MB, the most that is read"});
+    else
+      known_.push_back({&file, std::move(*content), 0});
+  }
+  for (Known& known : known_) {
+    known.number = report_.AddFile(known.file->Name, known.content.Title);
+    total_ += known.file->Size;
+  }
+}
+
+void Reading::Read() {
+  for (const Known& known : known_)
+    if (known.HoldsAntennas()) Read(known);
+  SortAntennaApplications(readings_.Tables);
+  for (const Known& known : known_)
+    if (!known.HoldsAntennas()) Read(known);
+}
+
+void Reading::Read(const Known& known) {
+  const std::string& name = known.file->Name;
+  if (!GoesOn(name)) return;
+  const Result<std::unique_ptr<ByteStream>> stream = known.file->Open();
+  if (!stream) return Fail(stream.error());
+  const std::function<bool(std::size_t)> passed = [&](std::size_t count) {
+    done_ += count;
+    return GoesOn(name);
+  };
+  CountedStream counted(**stream, passed);
+  LineStream lines(counted);
+  if (known.content.Table) {
+    readings_.HasTables = true;
+    ReadAntennaTable(lines, known.number, *known.content.Table, readings_.Tables, readings_.Dates, report_);
+  } else {
+    readings_.HasAmq = true;
+    ReadAmqList(lines, known.number, options_, readings_.Amq, readings_.Dates, report_);
+  }
+  if (const std::string problem = counted.Problem(); !problem.empty())
+    Fail({Error::Kind::Malformed, name, 0, problem});
 }
 
 }  // namespace
 
-void ReadSourceFile(ByteStream& bytes, const std::string& name, const ImportOptions& options,
-                    Readings& readings, ImportReport& report) {
-  LineStream lines(bytes);
-  const std::string_view head = lines.Head();
-  const auto refuse = [&](std::string_view reason) {
-    if (bytes.Problem().empty()) report.Refuse(name, std::string(reason));
-  };
-  if (const std::string_view foreign = ForeignContent(head); !foreign.empty()) return refuse(foreign);
-  const FirstLines first = LookForAmq(head);
-  if (first.amq) {
-    readings.HasAmq = true;
-    return ReadAmqList(lines, report.AddFile(name, "AM Query list"), options, readings.Amq, report);
-  }
-  const Result<TableLayout> layout = RecogniseTable(head);
-  if (layout) {
-    readings.HasTables = true;
-    return ReadAntennaTable(lines, report.AddFile(name, layout->Title), *layout, readings.Tables, report);
-  }
-  std::string reason = layout.error().text;
-  if (head.starts_with('<') || head.find("<html") != std::string_view::npos)
-    reason = "is a web page without rows; save the text list itself";
-  else if (first.barFields > 0 && head.find("|^|") == std::string_view::npos)
-    reason = "is neither an AM Query list nor an antenna table: rows of " +
-             std::to_string(first.barFields - 1) + " fields, 31 to 33 expected";
-  refuse(reason);
+std::optional<Error> ReadSourceFiles(const std::vector<SourceFile>& files, const ImportOptions& options,
+                                     Readings& readings, ImportReport& report,
+                                     const ReadingProgress& progress) {
+  Reading reading(options, readings, report, progress);
+  reading.LookAt(files);
+  reading.Read();
+  return reading.Failure();
 }
 
 }  // namespace kestrel

@@ -58,7 +58,7 @@ void SplitTableRow(std::string_view row, std::vector<std::string_view>& fields, 
 
 std::optional<double> WholeNumber(std::string_view text) {
   text = Trim(text);
-  if (text.starts_with('+')) text.remove_prefix(1);
+  if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
   double value = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
   if (error != std::errc{} || end != text.data() + text.size() || !std::isfinite(value)) return std::nullopt;

@@ -9,27 +9,16 @@ namespace {
 
 constexpr std::string_view kEndMark = "|^|";
 constexpr std::size_t kLongestKey = 200;  // bytes
-constexpr std::size_t kFewRows = 1000;
-
-/// Bytes of a table's rows on average, less than any real table's has. Of shorter ones so many go into a file
-/// that what is kept of them would be out of proportion to it.
-std::size_t LeastRowBytes(TableKind table) {
-  switch (table) {
-    case TableKind::AntennaSystems:
-      return 64;
-    case TableKind::Towers:
-    case TableKind::Facilities:
-      return 40;
-    default:
-      return 28;
-  }
-}
 
 }  // namespace
 
 TableRow::TableRow(LineStream& lines, int file, const TableLayout& layout, ImportReport& report)
     : lines_(lines), file_(file), layout_(layout), report_(report) {
-  for (std::size_t i = 0; i < layout.Columns.size(); ++i) columns_.emplace(layout.Columns[i], i);
+  for (std::size_t i = 0; i < layout.Columns.size(); ++i) {
+    const std::string_view name = layout.Columns[i];
+    columns_.emplace(name, i);
+    if (name.ends_with("last_update_date") || name.ends_with("last_change_date")) lastChange_ = i;
+  }
 }
 
 bool TableRow::Next() {
@@ -43,11 +32,6 @@ bool TableRow::Next() {
       LeaveOut(Finding::WrongForm, "the row is longer than 64 KB");
       continue;
     }
-    if (IsOneTooMany(line.size())) {
-      LeaveOut(Finding::WrongForm,
-               "rows of fewer than " + std::to_string(LeastRowBytes(layout_.Kind)) + " bytes on average");
-      continue;
-    }
     if (line.ends_with(kEndMark)) {
       line.remove_suffix(kEndMark.size());
     } else if (layout_.EndMarks) {
@@ -59,14 +43,6 @@ bool TableRow::Next() {
     LeaveOut(Finding::WrongForm, std::to_string(fields_.size()) + " columns, " +
                                      std::to_string(layout_.Columns.size()) + " expected");
   }
-  return false;
-}
-
-bool TableRow::IsOneTooMany(std::size_t bytes) {
-  bytes_ += bytes;
-  const std::size_t most = kFewRows + bytes_ / LeastRowBytes(layout_.Kind);
-  if (rows_ >= most) return true;
-  ++rows_;
   return false;
 }
 

@@ -22,8 +22,7 @@ class TableRow {
  public:
   TableRow(LineStream& lines, int file, const TableLayout& layout, ImportReport& report);
 
-  /// The next row with the right number of columns; rows without it are left out. So are those of more than a
-  /// thousand rows that are shorter on average than any real table's. False at the end.
+  /// The next row with the right number of columns; rows without it are left out. False at the end.
   bool Next();
 
   RowPlace Place() const { return {file_, lines_.LineNumber()}; }
@@ -40,6 +39,8 @@ class TableRow {
   std::optional<double> Number(std::string_view column, double least, double most);
   /// The first letter of the column, 0 when it is empty.
   char Letter(std::string_view column) const;
+  /// The text of the column that tells when the row was changed; empty when the table has none.
+  std::string_view LastChange() const { return lastChange_ ? fields_[*lastChange_] : std::string_view{}; }
   /// The number in facility_id; 0 when it is empty.
   FacilityId Facility();
   SitePosition Position();
@@ -53,9 +54,6 @@ class TableRow {
   void LeaveOut(Finding why, std::string_view text) { report_.LeaveOut(Place(), why, text); }
 
  private:
-  /// Whether the table has too many short rows to take this one, too.
-  bool IsOneTooMany(std::size_t bytes);
-
   LineStream& lines_;
   int file_;
   const TableLayout& layout_;
@@ -64,8 +62,7 @@ class TableRow {
   std::vector<std::string_view> fields_;
   std::string unescaped_;
   std::string fault_;
-  std::size_t rows_ = 0;   // taken
-  std::size_t bytes_ = 0;  // of all rows
+  std::optional<std::size_t> lastChange_;  // its column
 };
 
 }  // namespace kestrel

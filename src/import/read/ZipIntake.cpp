@@ -55,7 +55,7 @@ class ZipIntake : public Intake {
  public:
   explicit ZipIntake(Archive archive) : archive_(std::move(archive)) {}
 
-  Result<Done> List(const std::string& name, std::uint64_t largest);
+  Result<Done> List(const std::string& name);
   Result<std::unique_ptr<ByteStream>> Open(std::size_t part) override;
 
  private:
@@ -72,13 +72,12 @@ class ZipIntake : public Intake {
   std::vector<Listed> entries_;  // by part
 };
 
-Result<Done> ZipIntake::List(const std::string& name, std::uint64_t largest) {
+Result<Done> ZipIntake::List(const std::string& name) {
   const zip_int64_t count = zip_get_num_entries(archive_.get(), 0);
   if (count > MostZipEntries)
     return Error{Error::Kind::TooLarge, name, 0,
                  "a zip of " + std::to_string(count) + " files, at most " + std::to_string(MostZipEntries) +
                      " are read"};
-  std::uint64_t total = 0;
   for (zip_uint64_t i = 0; i < static_cast<zip_uint64_t>(count); ++i) {
     zip_stat_t stat;
     if (zip_stat_index(archive_.get(), i, 0, &stat) != 0 || !(stat.valid & ZIP_STAT_SIZE) ||
@@ -86,11 +85,6 @@ Result<Done> ZipIntake::List(const std::string& name, std::uint64_t largest) {
       return Error{Error::Kind::Malformed, name, 0, "a damaged zip"};
     const std::string_view entry(stat.name);
     if (entry.ends_with('/')) continue;
-    if (stat.size > largest - total)
-      return Error{
-          Error::Kind::TooLarge, name, 0,
-          "a zip that unpacks to more than " + std::to_string(largest >> 20) + " MB, the most that is read"};
-    total += stat.size;
     const bool encrypted = (stat.valid & ZIP_STAT_ENCRYPTION_METHOD) && stat.encryption_method != ZIP_EM_NONE;
     parts_.push_back({name + '/' + Shown(entry), stat.size});
     entries_.push_back({i, encrypted});
@@ -107,7 +101,7 @@ Result<std::unique_ptr<ByteStream>> ZipIntake::Open(std::size_t part) {
 
 }  // namespace
 
-Result<std::unique_ptr<Intake>> OpenZip(PlainFile file, const std::string& name, std::uint64_t largest) {
+Result<std::unique_ptr<Intake>> OpenZip(PlainFile file, const std::string& name) {
   int code = 0;
   Archive archive(zip_fdopen(file.Descriptor(), 0, &code));
   if (!archive) {
@@ -119,7 +113,7 @@ Result<std::unique_ptr<Intake>> OpenZip(PlainFile file, const std::string& name,
   }
   file.Release();  // the archive's
   auto intake = std::make_unique<ZipIntake>(std::move(archive));
-  if (const Result<Done> listed = intake->List(name, largest); !listed) return listed.error();
+  if (const Result<Done> listed = intake->List(name); !listed) return listed.error();
   return std::unique_ptr<Intake>(std::move(intake));
 }
 

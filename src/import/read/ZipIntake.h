@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -14,6 +13,6 @@ namespace kestrel {
 inline constexpr int MostZipEntries = 1000;
 
 /// A zip's entries as parts; folders are none. `name` is what reports call the zip. Errors as OpenIntake's.
-Result<std::unique_ptr<Intake>> OpenZip(PlainFile file, const std::string& name, std::uint64_t largest);
+Result<std::unique_ptr<Intake>> OpenZip(PlainFile file, const std::string& name);
 
 }  // namespace kestrel
