@@ -99,6 +99,15 @@ void DaySlider::paintEvent(QPaintEvent*) {
   painter.drawComplexControl(QStyle::CC_Slider, option);
 }
 
+bool DaySlider::event(QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride) {
+    const auto* key = static_cast<QKeyEvent*>(event);
+    const bool isArrow = key->key() >= Qt::Key_Left && key->key() <= Qt::Key_Down;
+    if (isArrow && !(key->modifiers() & ~Qt::KeypadModifier)) event->accept();
+  }
+  return QSlider::event(event);
+}
+
 void DaySlider::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown) return event->ignore();
   QSlider::keyPressEvent(event);

@@ -27,6 +27,8 @@ class DaySlider final : public QSlider {
  protected:
   void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  /// The arrow keys are its own while it has the focus, whatever they do in the window.
+  bool event(QEvent* event) override;
 
  private:
   /// Sunrises and sunsets of the day shown, in minutes from its midnight.
