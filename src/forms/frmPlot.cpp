@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QSettings>
+#include <QVBoxLayout>
 #include <algorithm>
 #include <tuple>
 #include <utility>
@@ -45,7 +46,11 @@ auto DrawnSettings(const SessionState& state) {
 }  // namespace
 
 frmPlot::frmPlot(const Workspace& workspace)
-    : workspace_(workspace), surface_(new MapSurface(this)), view_(workspace.State, *surface_) {
+    : workspace_(workspace),
+      surface_(new MapSurface(this)),
+      view_(workspace.State, *surface_),
+      timeBar_(new TimeBar(Now, this)),
+      hour_(workspace, *surface_, *timeBar_) {
   setObjectName("frmPlot");
   setWindowTitle("KestrelII - Plot");
 
@@ -63,7 +68,10 @@ frmPlot::frmPlot(const Workspace& workspace)
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
-  layout->addWidget(surface_, 1);
+  auto* mapAndTime = new QVBoxLayout;
+  mapAndTime->addWidget(surface_, 1);
+  mapAndTime->addWidget(timeBar_);
+  layout->addLayout(mapAndTime, 1);
   layout->addWidget(column);
 
   savedNotice_ = new QLabel("Session data has been saved", surface_);
@@ -87,14 +95,21 @@ void frmPlot::Redraw(MapGround ground) {
     surface_->Drawing().Clear();
     scanned_ = false;
   }
+  if (hour_.IsOn()) {
+    hour_.Redraw(ground);
+    return UpdateCommands();
+  }
   DrawMainMap(surface_->Drawing(), workspace_.Folder, workspace_.State, ground);
   ground == MapGround::Empty ? surface_->ShowDrawing() : surface_->ShowAdditions();
-  UpdateZoomCommands();
+  UpdateCommands();
 }
 
-void frmPlot::UpdateZoomCommands() {
+void frmPlot::UpdateCommands() {
   Button("cmdIn")->setEnabled(!scanning_ && CanZoomIn(workspace_.State));
   Button("cmdOut")->setEnabled(!scanning_ && CanZoomOut(workspace_.State));
+  // At a moment each station shows the hours that it has then.
+  Button("cmdHours")->setEnabled(!scanning_ && !hour_.IsOn());
+  timeBar_->setEnabled(!scanning_);
 }
 
 void frmPlot::RunForm(QDialog& form) {
@@ -170,6 +185,11 @@ void frmPlot::AdjustAspect() {
   aspect_->show();
 }
 
+void frmPlot::TurnTime(bool on) {
+  hour_.Turn(on);
+  Redraw();
+}
+
 void frmPlot::NextHoursFilter() {
   workspace_.State.HoursFilter = Next(workspace_.State.HoursFilter);
   Redraw();
@@ -178,7 +198,7 @@ void frmPlot::NextHoursFilter() {
 void frmPlot::ToggleCompass() {
   SessionState& state = workspace_.State;
   state.CompassShown = state.CompassShown == 1 ? std::int16_t{0} : std::int16_t{1};
-  if (state.CompassShown == 0) return Redraw();
+  if (state.CompassShown == 0 || hour_.IsOn()) return Redraw();
   DrawCompass(surface_->Drawing(), state.AspectRatio);
   surface_->ShowAdditions();
 }
@@ -243,11 +263,11 @@ void frmPlot::ShowScanControls(bool running) {
     button->setEnabled(!running || name == "cmdStop" || name == "cmdAll" || name == "cmdView" ||
                        name == "cmdExit");
   }
-  menu_->findChild<QAction*>("actReset")->setEnabled(!running);
+  for (const char* action : {"actReset", "actTime"}) menu_->findChild<QAction*>(action)->setEnabled(!running);
   Button("cmdStop")->setVisible(running);
   Button("cmdStop")->setEnabled(running);
   progress_->setVisible(running);
-  UpdateZoomCommands();
+  UpdateCommands();
 }
 
 const StationMark* frmPlot::MarkAt(Point place) const {

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "forms/MapHour.h"
 #include "forms/MapView.h"
 #include "forms/Workspace.h"
 #include "map/MainMap.h"
@@ -49,6 +50,7 @@ class frmPlot final : public QWidget {
   void ChooseOptions();
   void ImportStations();
   void AdjustAspect();
+  void TurnTime(bool on);
   void NextHoursFilter();
   void ToggleCompass();
   void Print();
@@ -63,12 +65,14 @@ class frmPlot final : public QWidget {
   const StationMark* MarkAt(Point place) const;
 
   QPushButton* Button(const char* name) const;
-  void UpdateZoomCommands();
+  void UpdateCommands();
   void SaveSessionOnce();
 
   Workspace workspace_;
   MapSurface* surface_;
   MapView view_;
+  TimeBar* timeBar_;
+  MapHour hour_;
   ViewMenu* menu_;
   QProgressBar* progress_;
   QLabel* savedNotice_;

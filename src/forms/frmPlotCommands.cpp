@@ -47,9 +47,14 @@ void frmPlot::AddCommands(CommandColumn& column) {
 
 void frmPlot::AddViewMenu() {
   menu_ = new ViewMenu(*this);
-  menu_->Turned = [this](const QString&) { surface_->SetLook(menu_->Look()); };
+  menu_->Turned = [this](const QString& name) {
+    if (name == "actTime") return TurnTime(menu_->IsOn("actTime"));
+    surface_->SetLook(menu_->Look());
+  };
   menu_->AddCommand("actReset", "&Reset view", [this] { view_.Reset(); });
   surface_->SetLook(menu_->Look());
+  timeBar_->Settled = [this] { Redraw(); };
+  hour_.Turn(menu_->IsOn("actTime"));
   auto* mover = new MapMover(*surface_);
   mover->ZoomWanted = [this](double factor, Point place) {
     if (!scanning_) view_.Zoom(factor, place);

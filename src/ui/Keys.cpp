@@ -37,6 +37,8 @@ constexpr std::array kTable = {
     CommandKeys{"frmPlot", "cmdView", "V", "Chooses what of the map is shown"},
     CommandKeys{"frmPlot", "actLabels", "L", "Shows the labels that fit, all, or none"},
     CommandKeys{"frmPlot", "actLegend", "G", "Shows the legend, or hides it"},
+    CommandKeys{"frmPlot", "actTime", "T",
+                "Shows the map at a moment, with the bar that chooses it, or the hours again"},
     CommandKeys{"frmPlot", "move", "Left Right Up Down", "Moves the map, as dragging does"},
     CommandKeys{"frmPlot", "moveFar", "Ctrl+Left Ctrl+Right Ctrl+Up Ctrl+Down", "Moves it by half a window"},
     CommandKeys{"frmPlot", "actReset", "Home", "Home in the middle, scale and patterns as at first"},

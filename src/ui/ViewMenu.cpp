@@ -18,6 +18,7 @@ struct Switch {
 
 constexpr std::array kSwitches = {
     Switch{"actLegend", "Le&gend", true},
+    Switch{"actTime", "&Time", false},
 };
 
 const char* const kLabels = "actLabels";
