@@ -1,4 +1,5 @@
 #include <QImage>
+#include <memory>
 
 #include "Rows.h"
 #include "Table.h"
@@ -7,6 +8,7 @@
 #include "map/BandScan.h"
 #include "map/DisplayList.h"
 #include "map/MainMap.h"
+#include "map/MomentMap.h"
 #include "map/Outlines.h"
 #include "straight/Drawing.h"
 
@@ -67,6 +69,41 @@ void Scan(const Band& band, const SessionState& state) {
   surface.Show();
 }
 
+/// A minute of a summer night and on, five minutes at a time.
+Moment NextStep() {
+  static Moment moment = std::chrono::sys_days(std::chrono::year(2026) / 6 / 21);
+  return moment += std::chrono::minutes(5);
+}
+
+/// A map of its own, read once, on a picture of that size.
+struct MovingMap {
+  PlatformTextMeasure Measure;
+  DisplayList List{Measure};
+  MomentMap Map{Measure};
+  Renderer Drawer;
+  QImage Image;
+
+  MovingMap(const Band& band, const SessionState& state, QSize size) : Image(size, QImage::Format_RGB32) {
+    Map.Read(DataFolder(QString::fromStdString(band.Folder)), state);
+  }
+  void Step() {
+    List.Clear();
+    Map.Draw(List, NextStep(), HoursRule::Auto);
+    Drawer.Draw(List, RulesFor(Image.rect()), Image);
+    Keep(Image.constBits());
+  }
+};
+
+void AddTimeRow(const Band& band, QSize size, double milliseconds) {
+  const SessionState state = Session(ChannelOf(band, 100'000, false), false);
+  const auto map = std::make_shared<MovingMap>(band, state, size);
+  AddRow(
+      "a step of the time slider at " + std::to_string(static_cast<int>(state.CurrentFrequency)) + " kHz, " +
+          std::to_string(size.width()) + " wide, " + band.Name,
+      "read and drawn from nothing", {0, milliseconds, true}, [map] { map->Step(); },
+      [=] { MovingMap(band, state, size).Step(); });
+}
+
 void AddRedrawRow(const std::string& work, const Band& band, const SessionState& state, const Asked& asked) {
   AddRow(
       "whole redraw, " + work + " at " + std::to_string(static_cast<int>(state.CurrentFrequency)) + " kHz, " +
@@ -82,6 +119,8 @@ void AddDrawingRows(const Band& band) {
   AddRedrawRow("400 records and all of Region 2", band,
                AllOfRegion2(Session(ChannelOf(band, 400, false), false)), {0, 16.7, true});
   AddRedrawRow("with both adjacents", band, Session(ChannelOf(band, 100'000, true), true), {8, 33, true});
+  AddTimeRow(band, kSize, 16.7);
+  AddTimeRow(band, {3840, 2160}, 33.3);
   AddRow(
       "whole-band scan, " + band.Name, "straight code", {8, 45, true},
       [=] { Scan(band, Session(1230, false)); },
