@@ -1,0 +1,58 @@
+#include "core/CoordinateText.h"
+
+#include <gtest/gtest.h>
+
+namespace kestrel {
+namespace {
+
+TEST(CoordinateTextTest, EveryNotationGivesItsDegrees) {
+  const struct {
+    const char* text;
+    float degrees;
+  } latitudes[] = {
+      {"42.35N", 42.35F},      {"42 21 00 N", 42.35F},        {"42°21'N", 42.35F}, {"42d21m", 42.35F},
+      {"n 42,35", 42.35F},     {" 42 º 21 ’ 0 ” n ", 42.35F}, {"42 21", 42.35F},   {"-42 21", -42.35F},
+      {"42d21m36sS", -42.36F}, {"42deg 21.6'", 42.36F},       {"42°", 42},         {"33 7 S", -33.116667F},
+      {"S33°7′30″", -33.125F}, {"42d21m36s", 42.36F},         {"90 0 0 N", 90},    {"42D21'36''", 42.36F}};
+  for (const auto& row : latitudes) {
+    const auto read = ReadCoordinate(row.text, Axis::Latitude);
+    ASSERT_TRUE(read) << row.text;
+    EXPECT_EQ(read->Fault, "") << row.text;
+    EXPECT_FLOAT_EQ(read->Degrees, row.degrees) << row.text;
+  }
+  EXPECT_FLOAT_EQ(ReadCoordinate("71.05W", Axis::Longitude)->Degrees, 71.05F);
+  EXPECT_FLOAT_EQ(ReadCoordinate("e71 3", Axis::Longitude)->Degrees, -71.05F);
+  EXPECT_FLOAT_EQ(ReadCoordinate("180 W", Axis::Longitude)->Degrees, 180);
+}
+
+TEST(CoordinateTextTest, PlainNumbersAndOtherTextsAreNone) {
+  for (const char* text :
+       {"",  " ",  "42.35",     "-96.5",        "1.1k",   "5m",      "4n7", "1e2",   "1E2", "45,5", "abc",
+        "N", "WN", "42.35.1 N", "42 21 00 1 N", "42 N N", "42 N 21", "- N", "42x21", ". N", "4 -2"})
+    EXPECT_FALSE(ReadCoordinate(text, Axis::Latitude)) << text;
+  EXPECT_FALSE(ReadCoordinate(std::string(3000, '1') + "Q", Axis::Latitude));
+}
+
+TEST(CoordinateTextTest, WhatIsNoCoordinateSaysWhy) {
+  const struct {
+    const char* text;
+    Axis axis;
+    const char* fault;
+  } rows[] = {{"42 60 N", Axis::Latitude, "Minutes run from 0 to 59"},
+              {"42 59 60", Axis::Latitude, "Seconds run from 0 to 59"},
+              {"42.5 30 N", Axis::Latitude, "Only the last part can have decimals"},
+              {"42' 30", Axis::Latitude, "Degrees come first, then minutes, then seconds"},
+              {"71 W", Axis::Latitude, "A latitude is north (N) or south (S)"},
+              {"42 N", Axis::Longitude, "A longitude is west (W) or east (E)"},
+              {"-42 N", Axis::Latitude, "A sign and a letter: one of them will do"},
+              {"90 0 1 N", Axis::Latitude, "Latitude beyond 90"},
+              {"181 W", Axis::Longitude, "Longitude beyond 180"}};
+  for (const auto& row : rows) {
+    const auto read = ReadCoordinate(row.text, row.axis);
+    ASSERT_TRUE(read) << row.text;
+    EXPECT_EQ(read->Fault, row.fault) << row.text;
+  }
+}
+
+}  // namespace
+}  // namespace kestrel
