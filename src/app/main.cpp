@@ -7,7 +7,9 @@
 #include "forms/GuideKeys.h"
 #include "forms/GuidePages.h"
 #include "forms/frmOpening.h"
+#include "forms/frmOptions.h"
 #include "forms/frmPlot.h"
+#include "ui/Accessible.h"
 
 namespace {
 
@@ -24,6 +26,7 @@ int main(int argc, char** argv) {
   using namespace kestrel;
   KeepFreedMemory();
   QApplication app(argc, argv);
+  InstallAccessibility();
   QApplication::setOrganizationName("kestrel");
   QApplication::setApplicationName("kestrel");
   QApplication::setDesktopFileName("kestrel");  // Wayland finds the icon through it
@@ -38,6 +41,7 @@ int main(int argc, char** argv) {
   if (const Result<Done> recovered = RecoverImport(*folder); !recovered)
     platform.ShowMessage(nullptr, QString::fromStdString(recovered.error().Message()));
   SessionState state;
+  LoadMapUnit(state);
   const Workspace workspace{state, *folder, platform};
   const GuideKeys guide(platform, GuideFolders());
 

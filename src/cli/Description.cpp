@@ -11,7 +11,7 @@ void Describe(CLI::App& app, Request& request) {
   app.description("Maps and figures of medium-wave stations in the Americas, without a window.");
   app.set_version_flag("--version", "kestrel-cli " + SessionState().ProgramVersion);
   app.require_subcommand(1);
-  app.fallthrough();  // --data and --session are taken behind the command too
+  app.fallthrough();  // --data and --session are taken after the command too
   AddFileName(app, "--data", request.Data, "the folder with the station, outline and list files")
       ->type_name("DIR");
   AddFileName(app, "--session", request.SessionFile, "take home, channel and view from a last-session file");

@@ -7,6 +7,7 @@
 #include "cli/Console.h"
 #include "cli/Json.h"
 #include "core/Band.h"
+#include "core/CoordinateText.h"
 #include "core/Text.h"
 #include "core/ViewLimits.h"
 
@@ -27,11 +28,17 @@ std::optional<float> WholeNumber(std::string_view text) {
   throw WrongUse(name + ' ' + given + ": give " + wanted);
 }
 
+std::optional<float> ReadDegrees(std::string_view text, Axis axis) {
+  const std::optional<CoordinateReading> reading = ReadCoordinate(text, axis);
+  if (!reading) return WholeNumber(text);
+  return reading->Fault.empty() ? std::optional(reading->Degrees) : std::nullopt;
+}
+
 std::optional<Position> ReadPosition(const std::string& text) {
   const std::size_t comma = text.find(',');
   if (comma == std::string::npos) return std::nullopt;
-  const auto latitude = WholeNumber(std::string_view(text).substr(0, comma));
-  const auto longitude = WholeNumber(std::string_view(text).substr(comma + 1));
+  const auto latitude = ReadDegrees(std::string_view(text).substr(0, comma), Axis::Latitude);
+  const auto longitude = ReadDegrees(std::string_view(text).substr(comma + 1), Axis::Longitude);
   // Written so that NaN is refused.
   if (!latitude || !(std::abs(*latitude) <= 90)) return std::nullopt;
   if (!longitude || !(std::abs(*longitude) <= 180)) return std::nullopt;
@@ -87,8 +94,8 @@ CLI::Option* AddPosition(CLI::App& command, const std::string& name, std::option
     position = ReadPosition(given);
     if (!position)
       Refuse(name, given,
-             "LAT,LON in degrees, as in 33.24278,96.54139: latitude -90 to 90, longitude -180 to 180 and "
-             "positive in the west");
+             "LAT,LON in degrees, as in 33.24278,96.54139 or 33d14m34sN,96d32m29sW: latitude -90 to 90, "
+             "longitude -180 to 180 and positive in the west");
   };
   return command.add_option_function<std::string>(name, store, help)->type_name("LAT,LON");
 }

@@ -28,7 +28,8 @@ void AddNumber(CLI::App& command, const std::string& name, const Limits& limits,
 void AddNumberAboveZero(CLI::App& command, const std::string& name, double highest,
                         std::optional<float>& number, const std::string& help);
 
-/// "33.24278,96.54139", latitude north and longitude WEST positive, a negative one east.
+/// "33.24278,96.54139", latitude north and longitude WEST positive, a negative one east; or each in one of
+/// the notations of ReadCoordinate without a comma, "33d14m34sN,96d32m29sW".
 CLI::Option* AddPosition(CLI::App& command, const std::string& name, std::optional<Position>& position,
                          const std::string& help);
 

@@ -136,12 +136,12 @@ std::optional<CoordinateReading> ReadCoordinate(std::string_view text, Axis axis
   const std::optional<Pieces> pieces = Cutter(text).Cut();
   if (!pieces || !IsNotation(*pieces)) return std::nullopt;
   if (std::string fault = FaultOf(*pieces, axis); !fault.empty())
-    return CoordinateReading{0, std::move(fault)};
+    return CoordinateReading{0, 0, std::move(fault)};
   const double degrees = pieces->parts[0].value + pieces->parts[1].value / 60 + pieces->parts[2].value / 3600;
   if (!(degrees <= (axis == Axis::Latitude ? 90 : 180)))
-    return CoordinateReading{0, axis == Axis::Latitude ? "Latitude beyond 90" : "Longitude beyond 180"};
+    return CoordinateReading{0, 0, axis == Axis::Latitude ? "Latitude beyond 90" : "Longitude beyond 180"};
   const bool negative = pieces->sign == '-' || pieces->hemisphere == 'S' || pieces->hemisphere == 'E';
-  return CoordinateReading{static_cast<float>(negative ? -degrees : degrees), {}};
+  return CoordinateReading{static_cast<float>(negative ? -degrees : degrees), pieces->hemisphere, {}};
 }
 
 }  // namespace kestrel

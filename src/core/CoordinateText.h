@@ -12,8 +12,9 @@ enum class Axis { Latitude, Longitude };
 
 /// What a text in such a notation says.
 struct CoordinateReading {
-  float Degrees = 0;  ///< north and west positive; 0 when there is a fault
-  std::string Fault;  ///< why it is no coordinate, in words; empty when it is one
+  float Degrees = 0;    ///< north and west positive; 0 when there is a fault
+  char Hemisphere = 0;  ///< N, S, W or E where it is written; else 0
+  std::string Fault;    ///< why it is no coordinate, in words; empty when it is one
 };
 
 /// Reads a text that has degree, minute or second marks, blanks between whole parts, or the letter of a

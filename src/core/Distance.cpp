@@ -1,5 +1,7 @@
 #include "core/Distance.h"
 
+#include <cmath>
+
 #include "core/Geodesy.h"
 #include "core/Numbers.h"
 #include "core/Text.h"
@@ -17,6 +19,14 @@ DistanceReadout MeasureDistance(const Position& from, const Position& to, int un
   readout.BearingText = NumberText(readout.Bearing) + " deg";
   readout.DistanceText = NumberText(readout.Distance) + (readout.Unit == 1 ? " mi " : " km ");
   return readout;
+}
+
+RoundDistance LongestRoundDistance(double kilometres, int unit) {
+  const double perKilometre = unit == 1 ? MilesPerKilometre : 1;
+  const double longest = kilometres * perKilometre;
+  const double power = std::pow(10, std::floor(std::log10(longest)));
+  const double length = longest >= 5 * power ? 5 * power : longest >= 2 * power ? 2 * power : power;
+  return {length / perKilometre, NumberText(static_cast<float>(length)) + (unit == 1 ? " mi" : " km")};
 }
 
 std::string DistanceInstruction(const std::string& homeName, const Position& home) {

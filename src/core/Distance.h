@@ -21,6 +21,16 @@ struct DistanceReadout {
 /// but 1 gives kilometres. REQUIRES: all coordinates are finite.
 DistanceReadout MeasureDistance(const Position& from, const Position& to, int unit);
 
+/// A length that people name.
+struct RoundDistance {
+  double Kilometres = 0;
+  std::string Text;  ///< "500 km", "20 mi", ".2 km"
+};
+
+/// The longest distance of at most so many kilometres that is 1, 2 or 5 times a power of ten in the unit.
+/// REQUIRES: kilometres is finite and above 0.
+RoundDistance LongestRoundDistance(double kilometres, int unit);
+
 /// The line above the target boxes: "Get distance from Plano   TX to:". Without a name home's position, or
 /// "home" when a coordinate is 0, stands in its place; a name of three characters or fewer gives an empty
 /// line.

@@ -14,14 +14,17 @@ struct Position {
   bool operator==(const Position&) const = default;
 };
 
-/// Reads both texts as typed numbers, as home takes them: latitude held within -88 to 88, the longitude's
-/// sign dropped and the rest held within 30 to 170 west.
-Position ReadHomePosition(std::string_view latitude, std::string_view longitude);
+/// The position as home takes it: latitude held within -88 to 88, the longitude's sign dropped and the rest
+/// held within 30 to 170 west.
+Position HeldAsHome(const Position& position);
 
-/// A target whose longitude was typed or picked from a list: west of Greenwich, whatever its sign.
-Position TypedTarget(float latitude, float longitude);
+/// Reads both texts as typed numbers, held as home takes them.
+Position ReadHomePosition(std::string_view latitude, std::string_view longitude);
 
 /// "33.24278N, 96.54139W": a position in words, as the listener's lines name a home without a name.
 std::string PositionText(const Position& position);
+
+/// "33.243 N, 96.541 W", to three decimals, south and east by their letters: a place under the mouse.
+std::string PlaceText(const Position& position);
 
 }  // namespace kestrel

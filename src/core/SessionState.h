@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -41,6 +42,8 @@ struct SessionState {
   float SelectedFrequency = 0;  ///< kHz, the channel drawn in the colours of its hours; 0: none chosen yet
   std::int16_t AdjacentsShown = 0;  ///< 1 when the first adjacent channels are drawn too
   kestrel::HoursFilter HoursFilter = kestrel::HoursFilter::All;
+  std::optional<std::int16_t>
+      ChosenMapUnit;                 ///< of the maps' distances, chosen in the options; none: not yet
   std::int16_t CompassShown = 0;     ///< 1 when the compass is drawn over the map
   std::int16_t PlotAllStations = 0;  ///< 1 when the whole-band scan was chosen
   bool StopRequested = true;         ///< false only while the whole-band scan runs
@@ -49,6 +52,9 @@ struct SessionState {
   std::vector<std::string> CallList;  ///< lines of "StationsCall.DAT"
 
   Position Home() const { return {HomeLatitude, HomeLongitude}; }
+
+  /// In which the maps and their tips tell distances: 0 kilometres, 1 statute miles.
+  std::int16_t MapUnit() const { return ChosenMapUnit.value_or(DistanceUnit); }
 };
 
 }  // namespace kestrel

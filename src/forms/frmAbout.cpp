@@ -21,9 +21,11 @@ QLabel* MakeHeading(const char* name, const QString& caption, double growth, QFo
   return label;
 }
 
-MapSurface* MakePicture(const char* name, const SheetArea& area, int side) {
+MapSurface* MakePicture(const char* name, const SheetArea& area, int side, const QString& shows) {
   auto* picture = new MapSurface(nullptr, area);
   picture->setObjectName(name);
+  picture->setAccessibleName("Picture");
+  picture->setAccessibleDescription(shows);
   picture->setFixedSize(side, side);
   return picture;
 }
@@ -35,6 +37,7 @@ QScrollArea* MakeScrolling(QLabel* label) {
   label->setAlignment(Qt::AlignTop | Qt::AlignLeft);
   label->setMargin(label->fontMetrics().height() / 2);
   auto* field = new QScrollArea;
+  field->setAccessibleName("About");
   field->setWidget(label);
   field->setWidgetResizable(true);
   field->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -46,9 +49,10 @@ QScrollArea* MakeScrolling(QLabel* label) {
 frmAbout::frmAbout(const Workspace& workspace, QWidget* parent)
     : Form(workspace, parent, "frmAbout", "About") {
   const int line = fontMetrics().height();
-  MapSurface* array = MakePicture("Image1", ArrayPictureArea, 12 * line);
+  MapSurface* array =
+      MakePicture("Image1", ArrayPictureArea, 12 * line, "Towers at night and the field around them");
   DrawArrayPicture(array->Drawing());
-  MapSurface* map = MakePicture("Image2", MapPictureArea, 12 * line);
+  MapSurface* map = MakePicture("Image2", MapPictureArea, 12 * line, "The Americas with stations");
   DrawMapPicture(map->Drawing(), workspace_.Folder);
 
   auto* pictures = new QVBoxLayout;

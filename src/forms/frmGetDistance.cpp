@@ -8,7 +8,6 @@
 #include <QRadioButton>
 
 #include "core/Distance.h"
-#include "core/Numbers.h"
 #include "data/PlaceLists.h"
 #include "ui/Controls.h"
 #include "ui/PlacePicker.h"
@@ -17,10 +16,10 @@ namespace kestrel {
 
 frmGetDistance::frmGetDistance(const Workspace& workspace, QWidget* parent)
     : Form(workspace, parent, "frmGetDistance", "Get distance"),
-      cities_(new PlacePicker("lstTarget", "txtFindTarget", "Search: a city's first letters",
+      cities_(new PlacePicker(*this, "lstTarget", "txtFindTarget", "Search: a city's first letters",
                               workspace.State.CityList, WholeCityLines())),
       grid_(new QGridLayout),
-      target_(*grid_, {"lblTargetLatitude", "Target &latitude: ", "Degrees, north positive"},
+      target_(*grid_, EntryOf::Target, {"lblTargetLatitude", "Target &latitude: ", "Degrees, north positive"},
               {"lblTargetLongitude", "Target l&ongitude: ", "Degrees west, whatever the sign"}),
       bearing_(AddAnswer(grid_, "lblTargetBearing", "txtTargetBearing", "Target bearing: ", 0)),
       distance_(AddAnswer(grid_, "lblTargetDistance", "txtTargetDistance", "Target distance: ", 2)) {
@@ -44,6 +43,9 @@ frmGetDistance::frmGetDistance(const Workspace& workspace, QWidget* parent)
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(MakeLabel("lblInstructions", Text(DistanceInstruction(state.HomeName, state.Home()))));
   layout->addLayout(grid_);
+  const std::string unit = state.MapUnit() == 1 ? "miles" : "kilometers";
+  layout->addWidget(MakeLabel("lblMapUnit", Text("This window opens with kilometers; the maps tell " + unit +
+                                                 ", as chosen in the options.")));
   layout->addWidget(MakeLabel("Label1", "&Select a city:", cities_->SearchBox()));
   layout->addWidget(cities_, 1);
   layout->addLayout(buttons);
@@ -93,8 +95,7 @@ QWidget* frmGetDistance::MakeUnits() {
 void frmGetDistance::Take(const std::string& cityLine) {
   const Place city = TakeCity(cityLine);
   target_.Show(Text(city.LatitudeText), Text(city.LongitudeText));
-  bearing_.Box->clear();
-  distance_.Box->clear();
+  ClearAnswers();
 }
 
 void frmGetDistance::SetUnit(std::int16_t unit) {
@@ -104,24 +105,30 @@ void frmGetDistance::SetUnit(std::int16_t unit) {
 
 void frmGetDistance::GetDistance() {
   if (!target_.Typed()) cities_->TakeHighlighted();
-  Compute();
+  if (!Compute()) target_.FocusRefused();
   // What has been asked once is no reason any more to pass over a row highlighted later.
   cities_->ForgetHighlighted();
   target_.CountAsShown();
 }
 
-void frmGetDistance::Compute() {
-  target_.ShowHints(PositionEntry::EmptyBox::IsNone);
-  const std::string latitude = target_.Latitude();
-  const std::string longitude = target_.Longitude();
-  if (latitude.empty() || longitude.empty()) return;
-
+bool frmGetDistance::Compute() {
+  if (target_.IsEmpty()) return true;
+  const std::optional<Position> target = target_.Read();
+  if (!target) {
+    ClearAnswers();
+    return false;
+  }
   SessionState& state = workspace_.State;
   state.DistanceUnit = unit_;
-  const DistanceReadout readout =
-      MeasureDistance(state.Home(), TypedTarget(ParseNumber(latitude), ParseNumber(longitude)), unit_);
+  const DistanceReadout readout = MeasureDistance(state.Home(), *target, unit_);
   bearing_.Show(readout.BearingText);
   distance_.Show(readout.DistanceText);
+  return true;
+}
+
+void frmGetDistance::ClearAnswers() {
+  bearing_.Box->clear();
+  distance_.Box->clear();
 }
 
 }  // namespace kestrel

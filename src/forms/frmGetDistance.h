@@ -31,7 +31,8 @@ class frmGetDistance final : public Form {
   void Take(const std::string& cityLine);
   void SetUnit(std::int16_t unit);
   void GetDistance();
-  void Compute();
+  bool Compute();  ///< whether what is typed is no place that is refused
+  void ClearAnswers();
 
   PlacePicker* cities_;
   QGridLayout* grid_;

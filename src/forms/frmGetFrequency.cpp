@@ -12,7 +12,7 @@
 namespace kestrel {
 
 frmGetFrequency::frmGetFrequency(const Workspace& workspace, QWidget* parent)
-    : Form(workspace, parent, "frmGetFrequency", "Get frequency") {
+    : Form(workspace, parent, "frmGetFrequency", "Get frequency"), shown_(workspace.State.CurrentFrequency) {
   txtGetFrequency_ = MakeBox("txtGetFrequency", "A channel from 530 to 1700 kHz; 1.1k is 1100");
   txtGetFrequency_->setText(Text(NumberText(OfferChannel(workspace_.State))));
   QPushButton* erase = MakeButton("cmdErasePlot", "&Erase and plot", "Draws the map anew with this channel",
@@ -43,13 +43,18 @@ frmGetFrequency::frmGetFrequency(const Workspace& workspace, QWidget* parent)
 void frmGetFrequency::AddPlot() {
   constexpr float kUnsetChannel = 1020;
   if (workspace_.State.CurrentFrequency == 0) workspace_.State.CurrentFrequency = kUnsetChannel;
-  CloseWith(Plot::OnTop,
-            EnterChannel(workspace_.State, TypedNumber(*txtGetFrequency_), "Entry reset to 1700"));
+  Enter(Plot::OnTop, "Entry reset to 1700");
 }
 
 void frmGetFrequency::ErasePlot() {
-  CloseWith(Plot::AfterErase,
-            EnterChannel(workspace_.State, TypedNumber(*txtGetFrequency_), "Entry over 1700 reset to 1700"));
+  Enter(Plot::AfterErase, "Entry over 1700 reset to 1700");
+}
+
+void frmGetFrequency::Enter(Plot choice, const char* overLimitMessage) {
+  const auto message = EnterChannel(workspace_.State, TypedNumber(*txtGetFrequency_), overLimitMessage);
+  // A wrong entry that leads back to the channel shown leaves the map as it is.
+  const bool same = message && workspace_.State.CurrentFrequency == shown_;
+  CloseWith(same ? Plot::Nothing : choice, message);
 }
 
 void frmGetFrequency::AddAdjacents() {

@@ -14,7 +14,7 @@ namespace kestrel {
 class frmGetFrequency final : public Form {
  public:
   enum class Plot {
-    Nothing,     ///< the window was left by its frame or Escape: nothing has changed
+    Nothing,     ///< left by its frame or Escape, or a wrong entry led back to the channel shown
     OnTop,       ///< the channel is added to what is drawn
     AfterErase,  ///< the map is drawn anew
   };
@@ -26,10 +26,12 @@ class frmGetFrequency final : public Form {
  private:
   void AddPlot();
   void ErasePlot();
+  void Enter(Plot choice, const char* overLimitMessage);
   void AddAdjacents();
   void Step(std::optional<std::string> (*step)(SessionState&));
   void CloseWith(Plot choice, const std::optional<std::string>& message);
 
+  float shown_;  // the channel at opening, kHz
   QLineEdit* txtGetFrequency_;
   Plot choice_ = Plot::Nothing;
 };

@@ -16,12 +16,10 @@ namespace kestrel {
 frmGetHome::frmGetHome(const Workspace& workspace, QWidget* parent)
     : Form(workspace, parent, "frmGetHome", "Get home"),
       grid_(new QGridLayout),
-      entry_(*grid_, {"lblLatitude", "Home &latitude: ", "Degrees, north positive, -88 to 88"},
+      entry_(*grid_, EntryOf::Home, {"lblLatitude", "Home &latitude: ", "Degrees, north positive, -88 to 88"},
              {"lblLongitude", "Home l&ongitude: ", "Degrees, west positive, 30 to 170; a sign is dropped"}) {
   const SessionState& state = workspace_.State;
   entry_.Show(Text(FormatNumber(state.HomeLatitude)), Text(FormatNumber(state.HomeLongitude)));
-  // An empty box is accepted as 0 like every other text without a number.
-  entry_.Edited = [this] { entry_.ShowHints(PositionEntry::EmptyBox::IsNoNumber); };
   QLabel* info = MakeLabel("lblInfo", "Entries are positive for North and for West.");
   info->setWordWrap(true);
   grid_->addWidget(info, 0, 4);
@@ -38,8 +36,8 @@ frmGetHome::frmGetHome(const Workspace& workspace, QWidget* parent)
                                 "Drops what was typed; a row that was taken stays", [this] { reject(); }));
   buttons->addWidget(accept);
 
-  auto* cities = new PlacePicker("lstCities", "txtFindCity", "Search: a city's first letters", state.CityList,
-                                 CityColumns());
+  auto* cities = new PlacePicker(*this, "lstCities", "txtFindCity", "Search: a city's first letters",
+                                 state.CityList, CityColumns());
   auto* layout = new QVBoxLayout(this);
   layout->addLayout(MakeLists(cities, accept), 1);
   layout->addLayout(grid_);
@@ -50,8 +48,8 @@ frmGetHome::frmGetHome(const Workspace& workspace, QWidget* parent)
 
 QGridLayout* frmGetHome::MakeLists(PlacePicker* cities, QWidget* nextFocus) {
   const SessionState& state = workspace_.State;
-  auto* calls = new PlacePicker("lstCalls", "txtFindCall", "Search: first letters of a call or a place",
-                                state.CallList, CallColumns());
+  auto* calls = new PlacePicker(*this, "lstCalls", "txtFindCall",
+                                "Search: first letters of a call or a place", state.CallList, CallColumns());
   const auto use = [&](PlacePicker* picker, const std::vector<std::string>& lines, auto cut) {
     picker->Taken = [this, nextFocus, &lines, cut](int row) {
       Take(cut(lines[static_cast<std::size_t>(row)]));
@@ -81,16 +79,18 @@ void frmGetHome::Take(const Place& place) {
 }
 
 void frmGetHome::Accept() {
-  if (entry_.Typed())
-    TakeTyped();
-  else if (highlighted_)
+  if (entry_.Typed()) {
+    const std::optional<Position> typed = entry_.Read();
+    if (!typed) return entry_.FocusRefused();
+    TakeTyped(*typed);
+  } else if (highlighted_) {
     highlighted_->TakeHighlighted();
+  }
   accept();
 }
 
-void frmGetHome::TakeTyped() {
+void frmGetHome::TakeTyped(const Position& typed) {
   // The boxes show rounded text: one that nobody changed is not read back.
-  const Position typed = ReadHomePosition(entry_.Latitude(), entry_.Longitude());
   if (entry_.LatitudeTyped()) workspace_.State.HomeLatitude = typed.Latitude;
   if (entry_.LongitudeTyped()) workspace_.State.HomeLongitude = typed.Longitude;
   workspace_.State.HomeName = takenName_;

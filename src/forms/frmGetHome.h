@@ -23,7 +23,7 @@ class frmGetHome final : public Form {
   QGridLayout* MakeLists(PlacePicker* cities, QWidget* nextFocus);
   void Take(const Place& place);
   void Accept();
-  void TakeTyped();
+  void TakeTyped(const Position& typed);
   void UseMap();
 
   QGridLayout* grid_;

@@ -4,7 +4,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
@@ -20,6 +19,7 @@
 #include "ui/Keys.h"
 #include "ui/MapSurface.h"
 #include "ui/PrintCommands.h"
+#include "ui/RowsTable.h"
 
 namespace kestrel {
 namespace {
@@ -106,10 +106,10 @@ void frmGetStationData::LayOutEntry(QVBoxLayout* rows) {
 
 void frmGetStationData::LayOutList(QVBoxLayout* rows) {
   const QFont courier = ListFont(screen()->availableSize().width());
-  lstGetData_ = new QListWidget;
-  lstGetData_->setObjectName("lstGetData");
+  lstGetData_ = new RowsTable("lstGetData", courier);
   lstGetData_->setAccessibleName("Stations found");
-  lstGetData_->setFont(courier);
+  lstGetData_->setSelectionMode(QAbstractItemView::SingleSelection);
+  ListRows();
   QLabel* label3 = MakeLabel("Label3", Text(ListHeads()));
   label3->setFont(courier);
   // The heads begin where the list's text does, and move with it where the window is too narrow for a line.
@@ -119,20 +119,18 @@ void frmGetStationData::LayOutList(QVBoxLayout* rows) {
   auto* heads = new QScrollArea;
   // Columns of English text and numbers, whatever the desktop's direction.
   heads->setLayoutDirection(Qt::LeftToRight);
-  lstGetData_->setLayoutDirection(Qt::LeftToRight);
   heads->setWidget(label3);
   heads->setFixedHeight(label3->sizeHint().height());
   heads->setFrameShape(QFrame::NoFrame);
   heads->setFocusPolicy(Qt::NoFocus);
   heads->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   heads->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  lstGetData_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
   connect(lstGetData_->horizontalScrollBar(), &QScrollBar::valueChanged, heads->horizontalScrollBar(),
           &QScrollBar::setValue);
-  connect(lstGetData_, &QListWidget::currentRowChanged, this, [this](int row) { ShowRecord(row); });
-  connect(lstGetData_, &QListWidget::itemClicked, this, [this] { ShowRecord(lstGetData_->currentRow()); });
-  AddShortcuts(
-      *this, "lstGetData", [this] { ShowRecord(lstGetData_->currentRow()); }, lstGetData_);
+  lstGetData_->CurrentRowChanged = [this](int row) { ShowRecord(row); };
+  const auto showCurrent = [this] { ShowRecord(lstGetData_->currentIndex().row()); };
+  connect(lstGetData_, &QTableView::clicked, this, showCurrent);
+  AddShortcuts(*this, "lstGetData", showCurrent, lstGetData_);
   rows->addWidget(heads);
   rows->addWidget(lstGetData_);
 }
@@ -141,6 +139,7 @@ void frmGetStationData::LayOutPlot(QVBoxLayout* rows) {
   plot_ = new MapSurface(this, StationPlotArea);
   plot_->setObjectName("Plot");
   plot_->setAccessibleName("Pattern and towers");
+  plot_->setAccessibleDescription("No station has been looked up yet");
   label5_ = MakeLabel("Label5", "Patterns are individually resized to fill the plotting area");
   label5_->hide();
 
@@ -172,20 +171,22 @@ void frmGetStationData::Search() {
   txtGetData_->setText(Text(result.CallSign));
 
   rows_ = result.Rows;
-  {
-    const QSignalBlocker quiet(lstGetData_);
-    lstGetData_->clear();
-    for (const ListRow& row : rows_) lstGetData_->addItem(Text(row.Line));
-  }
+  ListRows();
   if (result.Ended) {
     label4_->show();
     FitList();
   }
   if (!result.Message.empty()) workspace_.System.ShowMessage(this, Text(result.Message));
   if (result.Ended && !rows_.empty()) {
-    lstGetData_->setCurrentRow(0);
+    lstGetData_->selectRow(0);
     lstGetData_->setFocus();
   }
+}
+
+void frmGetStationData::ListRows() {
+  lstGetData_->SetRows(
+      {{}}, static_cast<int>(rows_.size()),
+      [this](int row) { return QStringList{Text(rows_[static_cast<std::size_t>(row)].Line)}; }, 0);
 }
 
 void frmGetStationData::ShowRecord(int row) {
@@ -194,8 +195,10 @@ void frmGetStationData::ShowRecord(int row) {
   if (selection.SelectedCallSign.empty()) return;
   selection_ = selection;
   plot_->Drawing().Clear();
-  DrawStationPlot(plot_->Drawing(), workspace_.State.AspectRatio,
-                  LoadRecords(workspace_.Folder, workspace_.State.CurrentFrequency, selection_));
+  const std::vector<StationRecord> records =
+      LoadRecords(workspace_.Folder, workspace_.State.CurrentFrequency, selection_);
+  DrawStationPlot(plot_->Drawing(), workspace_.State.AspectRatio, records);
+  plot_->setAccessibleDescription(Text(StationPlotWords(records)));
   plot_->ShowDrawing();
   for (QPushButton* button : commands_) button->show();
   label5_->show();
@@ -210,12 +213,10 @@ void frmGetStationData::OpenOnSelection(QDialog&& form) {
 }
 
 void frmGetStationData::FitList() {
-  const int row =
-      lstGetData_->count() > 0 ? lstGetData_->sizeHintForRow(0) : lstGetData_->fontMetrics().height();
   const double rows = RowsHigh(rows_.size());
-  const bool scrolls = lstGetData_->sizeHintForColumn(0) > lstGetData_->viewport()->width();
+  const bool scrolls = lstGetData_->WholeWidth() > lstGetData_->width();
   const int scrollBar = scrolls ? lstGetData_->horizontalScrollBar()->sizeHint().height() : 0;
-  const double wanted = rows * row + scrollBar + 2 * lstGetData_->frameWidth();
+  const double wanted = rows * lstGetData_->RowHeight() + scrollBar + 2 * lstGetData_->frameWidth();
   lstGetData_->setFixedHeight(static_cast<int>(std::min(wanted, height() * kListOfWindow)));
 }
 

@@ -7,13 +7,13 @@
 
 class QLabel;
 class QLineEdit;
-class QListWidget;
 class QPushButton;
 class QVBoxLayout;
 
 namespace kestrel {
 
 class MapSurface;
+class RowsTable;
 
 /// The station lookup: searches the current channel for a call sign, lists its records, and draws the pattern
 /// and the towers of the record chosen.
@@ -32,6 +32,7 @@ class frmGetStationData final : public Form {
   void LayOutPlot(QVBoxLayout* rows);
 
   void Search();
+  void ListRows();
   void ShowRecord(int row);
   /// Opens a window on the selected record; the commands rest until it is closed, in whatever way.
   void OpenOnSelection(QDialog&& form);
@@ -40,7 +41,7 @@ class frmGetStationData final : public Form {
   std::vector<ListRow> rows_;
   StationSelection selection_;
   QLineEdit* txtGetData_ = nullptr;
-  QListWidget* lstGetData_ = nullptr;
+  RowsTable* lstGetData_ = nullptr;
   QLabel* label4_ = nullptr;
   QLabel* label5_ = nullptr;
   MapSurface* plot_ = nullptr;

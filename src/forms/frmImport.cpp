@@ -64,6 +64,7 @@ QWidget* frmImport::MakeChoices() {
   grid->setContentsMargins(0, 0, 0, 0);
   lstFiles_ = new QListWidget;
   lstFiles_->setObjectName("lstFiles");
+  lstFiles_->setAccessibleName("Files of the FCC");
   lstFiles_->setSelectionMode(QAbstractItemView::ExtendedSelection);
   lstFiles_->setMinimumHeight(5 * fontMetrics().height());
   connect(lstFiles_, &QListWidget::itemSelectionChanged, this, [this] { UpdateCommands(); });
@@ -121,11 +122,14 @@ QLayout* frmImport::MakeCountries() {
 QWidget* frmImport::MakeResults() {
   txtReport_ = new QPlainTextEdit;
   txtReport_->setObjectName("txtReport");
+  txtReport_->setAccessibleName("Report");
   txtReport_->setReadOnly(true);
   txtReport_->setLineWrapMode(QPlainTextEdit::NoWrap);
   txtReport_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   lstChanges_ = new RowsTable("lstChanges");
+  lstChanges_->setAccessibleName("Changes");
   results_ = new QTabWidget;
+  results_->setAccessibleName("Results");
   results_->addTab(txtReport_, "Report");
   results_->addTab(lstChanges_, "Changes");
   return results_;

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QTimer>
+#include <algorithm>
 #include <utility>
 
 #include "draw/PainterCanvas.h"
@@ -34,7 +35,7 @@ const std::array kPlacements = {
     Placement{"lblMakers", {10, 5100, 11980, 360}, kNoticeText},
     Placement{"cmdEnter", {5160, 6000, 1680, 400}, kNoticeText},
     Placement{"cmdExit", {5160, 6500, 1680, 400}, kNoticeText},
-    Placement{"lblStations", {10, 7500, 11980, 360}, 290},
+    Placement{"lblStations", {300, 7400, 11400, 1400}, 290},
 };
 
 Point PointAt(const QPointF& place) {
@@ -65,8 +66,11 @@ frmOpening::frmOpening(const Workspace& workspace) : MapSurface(nullptr, kDesign
            "Made by the KestrelII authors; free software under the MIT licence; F1 opens the guide",
            FontFace::Sans);
   // What the listener must not miss under a title that speaks of the FCC.
-  AddLabel("lblStations", Text(workspace_.Folder.StationsLine()), FontFace::SansBold)
-      ->setStyleSheet("color: #ffe066; background: transparent");
+  stationsLine_ = Text(workspace_.Folder.StationsLine());
+  QLabel* stations = AddLabel("lblStations", stationsLine_, FontFace::SansBold);
+  stations->setStyleSheet("color: #ffe066; background: transparent");
+  stations->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+  stations->setWordWrap(true);
   QPushButton* start = MakeButton("cmdEnter", "&Start", {}, [this] { Start(); });
   QPushButton* exit = MakeButton("cmdExit", "E&xit", {}, [this] { close(); });
   for (QPushButton* button : {start, exit}) {
@@ -123,6 +127,19 @@ void frmOpening::PlaceControls() {
   }
 }
 
+void frmOpening::FitStationsLine() {
+  constexpr int kLines = 3;
+  auto* label = findChild<QLabel*>("lblStations");
+  const QFontMetrics metrics(label->font());
+  const int width = label->width() * 9 / 10;  // lines that end between words are not full
+  const QStringList words = stationsLine_.split(' ');
+  const bool wraps = std::all_of(words.begin(), words.end(), [&](const QString& word) {
+    return metrics.horizontalAdvance(word) <= width;
+  });
+  label->setText(metrics.elidedText(stationsLine_, Qt::ElideRight, (wraps ? kLines : 1) * width));
+  label->setToolTip(label->text() == stationsLine_ ? QString() : stationsLine_);
+}
+
 void frmOpening::paintEvent(QPaintEvent* event) {
   MapSurface::paintEvent(event);
   if (!FirstPainted) return;
@@ -134,6 +151,7 @@ void frmOpening::paintEvent(QPaintEvent* event) {
 
 void frmOpening::resizeEvent(QResizeEvent*) {
   PlaceControls();
+  FitStationsLine();
 }
 
 void frmOpening::keyPressEvent(QKeyEvent* event) {

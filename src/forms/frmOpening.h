@@ -36,8 +36,10 @@ class frmOpening final : public MapSurface {
   void Start();
   void ReadSessionOnce();
   void PlaceControls();
+  void FitStationsLine();
 
   Workspace workspace_;
+  QString stationsLine_;
   bool sessionRead_ = false;
 };
 

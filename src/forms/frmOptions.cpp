@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSettings>
 
 #include "core/Options.h"
 #include "draw/PainterCanvas.h"
@@ -13,6 +14,16 @@
 #include "ui/MapSurface.h"
 
 namespace kestrel {
+namespace {
+
+const QString kUnitSetting = "frmOptions/mapUnit";
+
+}  // namespace
+
+void LoadMapUnit(SessionState& state) {
+  const QVariant unit = QSettings().value(kUnitSetting);
+  if (unit.isValid()) state.ChosenMapUnit = unit.toInt() == 1 ? std::int16_t{1} : std::int16_t{0};
+}
 
 frmOptions::frmOptions(const Workspace& workspace, QWidget* parent)
     : Form(workspace, parent, "frmOptions", "Options") {
@@ -49,6 +60,7 @@ frmOptions::frmOptions(const Workspace& workspace, QWidget* parent)
 
   auto* side = new QVBoxLayout;
   side->addWidget(MakeLanguageFrame());
+  side->addWidget(MakeUnitFrame());
   side->addStretch();
   side->addWidget(aspect);
   side->addWidget(exit);
@@ -72,6 +84,8 @@ void frmOptions::AddColor(QGridLayout* grid, ColorValue& color, const ColorNames
   QLabel* label = MakeLabel(names.Label, names.Text);
   ChangeFont(*label, QFont::Bold);
   auto* outline = new MapSurface(nullptr, SampleArea);
+  outline->setAccessibleName("Sample");
+  outline->setAccessibleDescription("A pattern in the " + names.Text.toLower());
   outline->setMinimumSize(1, 1);
   outline->setFixedSize(fontMetrics().height() * 8 / 3, fontMetrics().height() * 7 / 3);
   auto* row = new QHBoxLayout(paper);
@@ -102,6 +116,28 @@ QWidget* frmOptions::MakeLanguageFrame() {
   addLanguage("optEnglish", "En&glish", "en");
   addLanguage("optFrench", "&French", "fr");
   addLanguage("optSpanish", "&Spanish", "es");
+  return frame;
+}
+
+QWidget* frmOptions::MakeUnitFrame() {
+  auto* frame = new QFrame;
+  frame->setObjectName("frmMapUnit");
+  frame->setAccessibleName("Distances on the maps");
+  frame->setFrameShape(QFrame::StyledPanel);
+  auto* layout = new QVBoxLayout(frame);
+  layout->addWidget(MakeLabel("lblMapUnit", "     Distances on the maps"));
+  const auto addUnit = [&](const char* name, const QString& caption, std::int16_t unit) {
+    auto* option = new QRadioButton(caption);
+    option->setObjectName(name);
+    option->setChecked(workspace_.State.MapUnit() == unit);
+    connect(option, &QRadioButton::clicked, this, [this, unit] {
+      workspace_.State.ChosenMapUnit = unit;
+      QSettings().setValue(kUnitSetting, unit);
+    });
+    layout->addWidget(option);
+  };
+  addUnit("optKilometers", "&Kilometers", 0);
+  addUnit("optMiles", "&Miles", 1);
   return frame;
 }
 

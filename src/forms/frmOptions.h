@@ -12,8 +12,11 @@ namespace kestrel {
 
 class MapSurface;
 
-/// Colours of the patterns, language of the web map, the way to the aspect adjustment. Every choice counts at
-/// once.
+/// Takes over the unit of the maps' distances that was chosen in an earlier run.
+void LoadMapUnit(SessionState& state);
+
+/// Colours of the patterns, language of the web map, unit of the maps' distances, the way to the aspect
+/// adjustment. Every choice counts at once.
 class frmOptions final : public Form {
  public:
   explicit frmOptions(const Workspace& workspace, QWidget* parent = nullptr);
@@ -40,6 +43,7 @@ class frmOptions final : public Form {
 
   void AddColor(QGridLayout* grid, ColorValue& color, const ColorNames& names);
   QWidget* MakeLanguageFrame();
+  QWidget* MakeUnitFrame();
   void ChooseColor(ColorValue& color, const QString& title);
   void ShowColors();
 

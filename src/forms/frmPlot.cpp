@@ -23,6 +23,7 @@
 #include "forms/frmShowStations.h"
 #include "map/BandScan.h"
 #include "map/Compass.h"
+#include "map/MapWords.h"
 #include "map/Outlines.h"
 #include "map/StationTip.h"
 #include "map/View.h"
@@ -39,8 +40,8 @@ const QString kPlaceSetting = "frmPlot/place";
 
 /// What the map is drawn from of the places and colours that windows change.
 auto DrawnSettings(const SessionState& state) {
-  return std::tuple(state.HomeName, state.HomeLatitude, state.HomeLongitude, state.DayColor, state.NightColor,
-                    state.UnlimitedColor, state.CriticalColor, state.AdjacentColor);
+  return std::tuple(state.MapUnit(), state.HomeName, state.HomeLatitude, state.HomeLongitude, state.DayColor,
+                    state.NightColor, state.UnlimitedColor, state.CriticalColor, state.AdjacentColor);
 }
 
 }  // namespace
@@ -55,6 +56,7 @@ frmPlot::frmPlot(const Workspace& workspace)
   setWindowTitle("KestrelII - Plot");
 
   surface_->setObjectName("Map");
+  surface_->setAccessibleName("Map");
   view_.Redraw = [this] { Redraw(); };
   surface_->TipWanted = [this](Point place) { return TipAt(place); };
   surface_->Clicked = [this](Point place) {
@@ -102,6 +104,13 @@ void frmPlot::Redraw(MapGround ground) {
   DrawMainMap(surface_->Drawing(), workspace_.Folder, workspace_.State, ground);
   ground == MapGround::Empty ? surface_->ShowDrawing() : surface_->ShowAdditions();
   UpdateCommands();
+  DescribeMap();
+}
+
+void frmPlot::DescribeMap() {
+  const double twipsAcross = double{surface_->TwipsPerPixel()} * surface_->width();
+  surface_->setAccessibleDescription(Text(MapWords(workspace_.State, surface_->Drawing().Stations(),
+                                                   twipsAcross * 75 / workspace_.State.ScaleFactor)));
 }
 
 void frmPlot::UpdateCommands() {

@@ -66,6 +66,7 @@ class frmPlot final : public QWidget {
 
   QPushButton* Button(const char* name) const;
   void UpdateCommands();
+  void DescribeMap();
   void SaveSessionOnce();
 
   Workspace workspace_;

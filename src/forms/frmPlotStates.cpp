@@ -18,17 +18,22 @@ frmPlotStates::frmPlotStates(const Workspace& workspace, QWidget* parent)
   map_ = new MapSurface(this, StatesMapArea,
                         std::min(7.0, screen()->availableSize().height() / kScreenPerXHeight));
   map_->setObjectName("Map");
+  map_->setAccessibleName("Map of the states");
+  map_->setAccessibleDescription(
+      "A click makes the place home; the boxes of the home window take it in numbers");
   map_->setCursor(Qt::CrossCursor);
   map_->setToolTip("A click makes this place your home");
   map_->MouseMoved = [this](Point at) { ShowReadout(at); };
   map_->MousePressed = [this](Point at, Qt::MouseButton button) { TakePoint(at, button); };
-  DrawStatesMap(map_->Drawing(), workspace_.Folder);
+  DrawStatesMap(map_->Drawing(), workspace_.Folder, workspace_.State.Home());
 
   // Its texts stand side by side and must not grow into each other: the size that can just be read is in
   // pixels of the screen itself.
   constexpr double kSmallestXHeight = 4.1;
   readout_ = new MapSurface(this, StatesReadoutArea, kSmallestXHeight / devicePixelRatio());
   readout_->setObjectName("Readout");
+  readout_->setAccessibleName("Mouse and home");
+  readout_->setAccessibleDescription("Home is at " + Text(PlaceText(workspace_.State.Home())));
 
   auto* strip = new QHBoxLayout;
   strip->setContentsMargins(0, 0, 6, 3);

@@ -1,9 +1,12 @@
 #include "forms/frmShowContext.h"
 
 #include <QGridLayout>
+#include <QLabel>
 #include <QPushButton>
 #include <QScreen>
 
+#include "core/Distance.h"
+#include "core/Text.h"
 #include "ui/AddressNotice.h"
 #include "ui/Controls.h"
 #include "ui/Keys.h"
@@ -34,6 +37,9 @@ frmShowContext::frmShowContext(const Workspace& workspace, QWidget* parent, cons
   AddShortcuts(*this, "cmdMore", [this] { cmdMore_->click(); });
   map_->WheelTurned = [this](int steps) { (steps > 0 ? cmdMore_ : cmdLess_)->click(); };
 
+  lblPlace_ = MakeLabel("lblPlace", {});
+  map_->MouseMoved = [this](Point at) { ShowPlace(PlaceOnContextMap(View(), at)); };
+
   auto* column = new QVBoxLayout;
   for (QPushButton* button : {cmdLess_, cmdMore_, web, close}) column->addWidget(button);
   column->addStretch();
@@ -41,12 +47,26 @@ frmShowContext::frmShowContext(const Workspace& workspace, QWidget* parent, cons
   auto* layout = new QGridLayout(this);
   layout->addWidget(map_, 0, 0);
   layout->addLayout(column, 0, 1);
-  layout->addWidget(notice_, 1, 0, 1, 2);
+  layout->addWidget(lblPlace_, 1, 0);
+  layout->addWidget(notice_, 2, 0, 1, 2);
   layout->setColumnStretch(0, 1);
   layout->setRowStretch(0, 1);
   resize(screen()->availableSize() * kOfScreen);
   cmdMore_->setFocus();
   Draw();
+}
+
+ContextView frmShowContext::View() const {
+  const SessionState& state = workspace_.State;
+  return {{selection_.Latitude, selection_.Longitude}, state.Home(), state.MapUnit(), zoom_.Scale};
+}
+
+void frmShowContext::ShowPlace(std::optional<Position> place) {
+  if (!place) return lblPlace_->clear();
+  const SessionState& state = workspace_.State;
+  const DistanceReadout fromHome = MeasureDistance(state.Home(), *place, state.MapUnit());
+  lblPlace_->setText(Text(PlaceText(*place) + "; from home " + std::string(Trim(fromHome.DistanceText)) +
+                          ", " + fromHome.BearingText));
 }
 
 void frmShowContext::Zoom(void (ContextZoom::*step)()) {
@@ -62,7 +82,9 @@ void frmShowContext::Zoom(void (ContextZoom::*step)()) {
 
 void frmShowContext::Draw() {
   map_->Drawing().Clear();
-  DrawContextMap(map_->Drawing(), workspace_.Folder, selection_.Latitude, selection_.Longitude, zoom_.Scale);
+  const ContextView view = View();
+  DrawContextMap(map_->Drawing(), workspace_.Folder, view);
+  map_->setAccessibleDescription(Text(ContextMapWords(view)));
   map_->ShowDrawing();
 }
 

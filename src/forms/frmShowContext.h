@@ -4,6 +4,7 @@
 #include "forms/Form.h"
 #include "map/ContextMap.h"
 
+class QLabel;
 class QPushButton;
 
 namespace kestrel {
@@ -19,10 +20,13 @@ class frmShowContext final : public Form {
  private:
   void Zoom(void (ContextZoom::*step)());
   void Draw();
+  ContextView View() const;
+  void ShowPlace(std::optional<Position> place);
 
   StationSelection selection_;
   ContextZoom zoom_;
   MapSurface* map_;
+  QLabel* lblPlace_;
   AddressNotice* notice_;
   QPushButton* cmdLess_;
   QPushButton* cmdMore_;

@@ -5,6 +5,7 @@
 #include <numbers>
 
 #include "core/Geodesy.h"
+#include "core/Sphere.h"
 
 namespace kestrel {
 namespace {
@@ -48,6 +49,17 @@ std::optional<Point> MapProjection::Station(const Position& position) const {
   Vertices({&position.Latitude, 1}, {&longitudeEast, 1}, {&place, 1});
   if (!std::isfinite(place.x) || !std::isfinite(place.y)) return std::nullopt;
   return Clamped(place);
+}
+
+std::optional<Position> MapProjection::PlaceAt(Point at) const {
+  const double east = double{at.x} - HomeOnSheet.x;
+  const double north = double{HomeOnSheet.y} - at.y;
+  const double arc = std::hypot(east, north) / center_.TwipsPerRadian / kRadian;
+  if (!(arc <= 180)) return std::nullopt;
+  const SpherePoint home = {std::atan2(center_.SinLatitude, center_.CosLatitude) / kRadian,
+                            -center_.LongitudeEast};
+  const SpherePoint place = PlaceAlong(home, {arc, std::atan2(east, north) / kRadian});
+  return Position{static_cast<float>(place.Latitude), static_cast<float>(place.Longitude)};
 }
 
 void MapProjection::Vertices(std::span<const float> latitudes, std::span<const float> longitudes,

@@ -24,6 +24,10 @@ class MapProjection {
   /// The place of a station, limited to the coordinate range. Nothing when the position is no finite number.
   std::optional<Point> Station(const Position& position) const;
 
+  /// The place that lies at a point of the sheet, longitude -180 to 180 WEST positive; nothing beyond the
+  /// antipodes.
+  std::optional<Position> PlaceAt(Point at) const;
+
   /// Vertices given as the outline files do, longitude EAST, not limited. A vertex whose position is no
   /// finite number comes out as NaN. REQUIRES: the spans are of one length.
   void Vertices(std::span<const float> latitudes, std::span<const float> longitudes,

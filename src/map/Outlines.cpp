@@ -10,16 +10,7 @@
 namespace kestrel {
 namespace {
 
-constexpr float kHomeRadius = 50;
 constexpr std::size_t kLongStroke = 4096;  // vertices; no coast of the data given has as many
-
-void DrawHomeMark(Canvas& canvas) {
-  const auto [x, y] = HomeOnSheet;
-  canvas.SetColor(Palette::Home);
-  canvas.Circle(HomeOnSheet, kHomeRadius);
-  canvas.Line({x - kHomeRadius, y}, {x + kHomeRadius, y});
-  canvas.Line({x, y - kHomeRadius}, {x, y + kHomeRadius});
-}
 
 /// Strokes to be drawn later.
 class KeptStrokes {
@@ -192,6 +183,14 @@ void DrawOutline(Canvas& canvas, std::string_view bytes, const OutlinePen& pen) 
   OutlineInHalves(bytes, pen).Draw(canvas);
 }
 
+void DrawHomeMark(Canvas& canvas, Point at) {
+  constexpr float kRadius = 50;
+  canvas.SetColor(Palette::Home);
+  canvas.Circle(at, kRadius);
+  canvas.Line({at.x - kRadius, at.y}, {at.x + kRadius, at.y});
+  canvas.Line({at.x, at.y - kRadius}, {at.x, at.y + kRadius});
+}
+
 std::vector<std::string> DrawOutlineFiles(Canvas& canvas, const DataFolder& folder,
                                           const MapProjection& projection) {
   const OutlinePen pen = PenFor(projection);
@@ -205,7 +204,7 @@ std::vector<std::string> DrawOutlineFiles(Canvas& canvas, const DataFolder& fold
     canvas.SetColor(Palette::StatesOutline);
     DrawOutline(canvas, View(*states), pen);
   }
-  DrawHomeMark(canvas);
+  DrawHomeMark(canvas, HomeOnSheet);
   if (regionOutline) {
     canvas.SetColor(Palette::RegionOutline);
     regionOutline->Draw(canvas);

@@ -60,6 +60,9 @@ class VertexJoiner {
 /// so that two threads ask the pen for places.
 void DrawOutline(Canvas& canvas, std::string_view bytes, const OutlinePen& pen);
 
+/// Draws home's mark, a circle with a cross.
+void DrawHomeMark(Canvas& canvas, Point at);
+
 /// Draws "STATES.dat", the home mark and "REGION2.dat", each in its colour. A file that is missing or cannot
 /// be read draws nothing; returns why one that is there cannot, a line for each.
 std::vector<std::string> DrawOutlineFiles(Canvas& canvas, const DataFolder& folder,

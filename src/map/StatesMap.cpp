@@ -89,10 +89,11 @@ Position ClickedPosition(Point at) {
   return {CutToThousandth(position.Latitude), CutToThousandth(position.Longitude)};
 }
 
-void DrawStatesMap(Canvas& canvas, const DataFolder& folder) {
+void DrawStatesMap(Canvas& canvas, const DataFolder& folder, const Position& home) {
   DrawGrid(canvas);
   DrawFile(canvas, folder, "REGION2.dat", Palette::RegionOutline);
   DrawFile(canvas, folder, "STATES.dat", Palette::StatesOutline);
+  DrawHomeMark(canvas, PlaceOnStatesMap(home.Latitude, 360 - home.Longitude));
 }
 
 void DrawStatesReadout(Canvas& canvas, std::optional<Point> mouse, const SessionState& state) {

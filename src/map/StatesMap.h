@@ -29,8 +29,9 @@ Position PointedPosition(Point at);
 /// three decimals.
 Position ClickedPosition(Point at);
 
-/// Draws the grid, then "REGION2.dat" and "STATES.dat"; a file that cannot be read draws nothing.
-void DrawStatesMap(Canvas& canvas, const DataFolder& folder);
+/// Draws the grid, then "REGION2.dat" and "STATES.dat", then home's mark; a file that cannot be read draws
+/// nothing.
+void DrawStatesMap(Canvas& canvas, const DataFolder& folder, const Position& home);
 
 /// Draws the readout: the position under the mouse, when there is one, and home.
 void DrawStatesReadout(Canvas& canvas, std::optional<Point> mouse, const SessionState& state);

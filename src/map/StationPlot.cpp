@@ -3,6 +3,7 @@
 #include "data/StationLookup.h"
 #include "map/PolarPlot.h"
 #include "map/TowerLayout.h"
+#include "pattern/PatternWords.h"
 
 namespace kestrel {
 
@@ -23,6 +24,21 @@ void DrawStationPlot(Canvas& canvas, float aspectRatio, std::vector<StationRecor
   else
     DrawSpacingRings(canvas, aspectRatio);
   DrawPlotLegend(canvas);
+}
+
+std::string StationPlotWords(std::vector<StationRecord> records) {
+  if (records.empty()) return "pattern not known";
+  std::string words;
+  for (StationRecord& record : records) {
+    const int towers = record.TowerCount;
+    if (!words.empty()) words += "; ";
+    words += record.CallSign + ' ' + HoursWord(record.HoursCode) + ", " + std::to_string(towers) +
+             (towers == 1 ? " tower: " : " towers: ");
+    PatternValues values{};
+    const bool drawn = !HasBrokenTowers(record) && ComputePattern(record, values);
+    words += drawn ? PatternWords(values) : "pattern not known";
+  }
+  return words;
 }
 
 }  // namespace kestrel

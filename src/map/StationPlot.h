@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "data/StationFile.h"
@@ -17,5 +18,9 @@ inline constexpr SheetArea StationPlotArea = {300, 3950, 11200, 5100};
 /// towers; no records are such a one, as when the reader left out one of too many towers. `records` are as
 /// the file holds them.
 void DrawStationPlot(Canvas& canvas, float aspectRatio, std::vector<StationRecord> records);
+
+/// The same in words, for those who do not see it: "QDN620 nighttime, 3 towers: lobe at ...; ..." for each of
+/// the records.
+std::string StationPlotWords(std::vector<StationRecord> records);
 
 }  // namespace kestrel

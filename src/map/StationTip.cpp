@@ -70,8 +70,7 @@ std::string PowerText(float powerKW) {
 }
 
 std::string FromHomeText(const SessionState& state, float latitude, float longitudeWest) {
-  const DistanceReadout readout =
-      MeasureDistance(state.Home(), {latitude, longitudeWest}, state.DistanceUnit);
+  const DistanceReadout readout = MeasureDistance(state.Home(), {latitude, longitudeWest}, state.MapUnit());
   return std::string(Trim(readout.DistanceText)) + ", " + readout.BearingText;
 }
 

@@ -87,10 +87,13 @@ void MarkBox(QLineEdit* box, bool marked) {
 
 std::string TypedNumber(const QLineEdit& box) {
   constexpr QChar kArabicDecimalSeparator(0x066B);
+  constexpr QChar kMinusSign(0x2212);
   QString text = box.text();
   for (QChar& character : text) {
     if (character.isDigit()) character = QChar('0' + character.digitValue());
     if (character == kArabicDecimalSeparator) character = '.';
+    if (character == kMinusSign) character = '-';
+    if (character.isSpace()) character = ' ';
   }
   return text.toStdString();
 }

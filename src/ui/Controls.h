@@ -35,8 +35,9 @@ QLineEdit* MakeBox(const char* name, const QString& tip);
 /// Colours the box as one whose entry wants a second look, or as an ordinary one.
 void MarkBox(QLineEdit* box, bool marked);
 
-/// What the box holds, for the number routine: the decimal digits of every script as 0 to 9, the Arabic
-/// decimal separator as a point.
+/// What the box holds, for the readers of numbers and coordinates: the decimal digits of every script as 0 to
+/// 9, the Arabic decimal separator as a point, the minus sign of typesetting and every blank as those of the
+/// keyboard.
 std::string TypedNumber(const QLineEdit& box);
 
 }  // namespace kestrel

@@ -14,6 +14,9 @@ namespace kestrel {
 namespace {
 
 constexpr const char* kEnter = "Return Enter";
+constexpr const char* kRows = "Up Down PgUp PgDown";
+constexpr const char* kTakesRow = "In the list or the box above it: takes the marked row";
+constexpr const char* kMovesMark = "In the box above the list: moves the mark in the list";
 
 constexpr std::array kTable = {
     CommandKeys{"", "guide", "F1", "Opens this guide at the page of the window"},
@@ -54,9 +57,10 @@ constexpr std::array kTable = {
     CommandKeys{"frmGetFrequency", "cmdErasePlot", kEnter, "Draws the map anew with the channel typed"},
 
     CommandKeys{"frmGetHome", "cmdExit", kEnter, "Accepts the place and returns"},
-    CommandKeys{"frmGetHome", "lstCities", kEnter, "In a list or the box above it: takes the marked row"},
-    CommandKeys{"frmGetHome", "lstCalls", "Up Down PgUp PgDown",
-                "In the box above a list: moves the mark in the list"},
+    CommandKeys{"frmGetHome", "lstCities", kEnter, kTakesRow},
+    CommandKeys{"frmGetHome", "txtFindCity", kRows, kMovesMark},
+    CommandKeys{"frmGetHome", "lstCalls", kEnter, kTakesRow},
+    CommandKeys{"frmGetHome", "txtFindCall", kRows, kMovesMark},
 
     CommandKeys{"frmGetStationData", "cmdGetData", kEnter, "Lists the records of the call sign typed"},
     CommandKeys{"frmGetStationData", "lstGetData", kEnter, "In the list: draws the marked record again"},
@@ -68,8 +72,8 @@ constexpr std::array kTable = {
     CommandKeys{"frmShowContext", "cmdLess", "-", "Shows twice as much of the map"},
 
     CommandKeys{"frmGetDistance", "cmdGetDistance", kEnter, "Computes distance and bearing"},
-    CommandKeys{"frmGetDistance", "lstTarget", kEnter,
-                "In the list or the box above it: takes the marked row"},
+    CommandKeys{"frmGetDistance", "lstTarget", kEnter, kTakesRow},
+    CommandKeys{"frmGetDistance", "txtFindTarget", kRows, kMovesMark},
 
     CommandKeys{"frmShowHets", "cmdExit", kEnter, "Back to the map"},
 
@@ -142,10 +146,16 @@ const CommandKeys& KeysOf(const QWidget& window, const char* command) {
 }
 
 void AddShortcuts(QWidget& window, const char* command, const std::function<void()>& action, QWidget* where) {
+  AddShortcuts(
+      window, command, [action](const QKeySequence&) { action(); }, where);
+}
+
+void AddShortcuts(QWidget& window, const char* command,
+                  const std::function<void(const QKeySequence&)>& action, QWidget* where) {
   for (const QKeySequence& keys : KeysOf(window, command).Sequences()) {
     auto* shortcut = new QShortcut(keys, where ? where : &window);
     if (where) shortcut->setContext(Qt::WidgetShortcut);
-    QObject::connect(shortcut, &QShortcut::activated, &window, action);
+    QObject::connect(shortcut, &QShortcut::activated, &window, [action, keys] { action(keys); });
   }
 }
 

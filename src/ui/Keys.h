@@ -40,6 +40,10 @@ const CommandKeys& KeysOf(const QWidget& window, const char* command);
 void AddShortcuts(QWidget& window, const char* command, const std::function<void()>& action,
                   QWidget* where = nullptr);
 
+/// The same for an action that depends on which of the keys it was.
+void AddShortcuts(QWidget& window, const char* command,
+                  const std::function<void(const QKeySequence&)>& action, QWidget* where);
+
 /// The same for an action of that object name, which gets its tip as well.
 void TakeKeys(QWidget& window, QAction& action);
 

@@ -10,6 +10,7 @@
 
 #include "data/PlaceLists.h"
 #include "ui/Controls.h"
+#include "ui/Keys.h"
 
 namespace kestrel {
 namespace {
@@ -29,14 +30,17 @@ QString Joined(const QString& text) {
 
 }  // namespace
 
-PlacePicker::PlacePicker(const char* listName, const char* searchName, const QString& searchHint,
-                         const std::vector<std::string>& lines, const PlaceListLook& look)
+PlacePicker::PlacePicker(QWidget& window, const char* listName, const char* searchName,
+                         const QString& searchHint, const std::vector<std::string>& lines,
+                         const PlaceListLook& look)
     : lines_(lines), look_(look) {
   search_ = MakeBox(searchName, "Moves the list to the first entry that begins with this; Enter takes it");
   search_->setPlaceholderText(searchHint);
+  search_->setAccessibleName(searchHint);
   search_->setClearButtonEnabled(true);
 
   list_ = new RowsTable(listName, QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  list_->setAccessibleName(look.Name);
   list_->setSelectionMode(QAbstractItemView::SingleSelection);
   list_->SetRows(
       look.Columns, static_cast<int>(lines.size()),
@@ -60,8 +64,19 @@ PlacePicker::PlacePicker(const char* listName, const char* searchName, const QSt
     highlighted_ = list_->selectionModel()->hasSelection();
     if (highlighted_ && Highlighted) Highlighted();
   });
-  search_->installEventFilter(this);
   list_->installEventFilter(this);
+  AddKeys(window);
+}
+
+void PlacePicker::AddKeys(QWidget& window) {
+  const QByteArray list = list_->objectName().toLatin1();
+  const QByteArray search = search_->objectName().toLatin1();
+  // Enter is kept from the form, whose default button it would press.
+  for (QWidget* where : {static_cast<QWidget*>(search_), static_cast<QWidget*>(list_)})
+    AddShortcuts(
+        window, list.constData(), [this] { TakeCurrent(); }, where);
+  const auto move = [this](const QKeySequence& keys) { list_->MoveCurrent(keys[0].key()); };
+  AddShortcuts(window, search.constData(), move, search_);
 }
 
 int PlacePicker::FirstRowBeginning(const QString& text) const {
@@ -103,33 +118,18 @@ void PlacePicker::TakeHighlighted() {
 
 bool PlacePicker::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::KeyPress) return QWidget::eventFilter(watched, event);
-  auto* key = static_cast<QKeyEvent*>(event);
-  switch (key->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-      // Kept from the form, whose default button it would press.
-      TakeCurrent();
-      return true;
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown:
-      if (watched == list_) break;
-      QCoreApplication::sendEvent(list_, event);
-      return true;
-    default:
-      if (watched == search_ || key->text().isEmpty() || !key->text()[0].isLetterOrNumber()) break;
-      // Letters typed in the list are looked for, like those typed above it.
-      search_->clear();
-      search_->setFocus();
-      QCoreApplication::sendEvent(search_, event);
-      return true;
-  }
-  return QWidget::eventFilter(watched, event);
+  const QString text = static_cast<QKeyEvent*>(event)->text();
+  if (text.isEmpty() || !text[0].isLetterOrNumber()) return QWidget::eventFilter(watched, event);
+  // Letters typed in the list are looked for, like those typed above it.
+  search_->clear();
+  search_->setFocus();
+  QCoreApplication::sendEvent(search_, event);
+  return true;
 }
 
 PlaceListLook CityColumns() {
   PlaceListLook look;
+  look.Name = "Cities";
   look.Columns = {{"City", 25},
                   {"State or country", 12},
                   {"Latitude", 9, Qt::AlignRight},
@@ -146,6 +146,7 @@ PlaceListLook CityColumns() {
 
 PlaceListLook CallColumns() {
   PlaceListLook look;
+  look.Name = "Stations";
   look.Columns = {
       {"Call", 8}, {"Place", 25}, {"Latitude", 9, Qt::AlignRight}, {"Longitude", 9, Qt::AlignRight}};
   look.WideColumn = 1;
@@ -163,6 +164,7 @@ PlaceListLook CallColumns() {
 
 PlaceListLook WholeCityLines() {
   PlaceListLook look;
+  look.Name = "Cities";
   look.Columns = {{QString(), 57}};
   look.Cells = [](const std::string& line) { return QStringList{Text(line)}; };
   look.Keys = CityColumns().Keys;

@@ -14,6 +14,7 @@ namespace kestrel {
 
 /// How the lines of a list of places are shown and found.
 struct PlaceListLook {
+  QString Name;  ///< for screen readers
   std::vector<RowsTable::Column> Columns;
   int WideColumn = 0;                                         ///< takes the width that the others leave
   std::function<QStringList(const std::string& line)> Cells;  ///< as many as there are columns
@@ -24,9 +25,9 @@ struct PlaceListLook {
 /// Enter takes a row.
 class PlacePicker final : public QWidget {
  public:
-  /// `listName` and `searchName` become the object names of the two controls. The lines must outlive the
-  /// picker and not change.
-  PlacePicker(const char* listName, const char* searchName, const QString& searchHint,
+  /// `listName` and `searchName` become the object names of the two controls, and their keys are those of the
+  /// window's table. The lines must outlive the picker and not change.
+  PlacePicker(QWidget& window, const char* listName, const char* searchName, const QString& searchHint,
               const std::vector<std::string>& lines, const PlaceListLook& look);
 
   /// Called with the row, counted from 0.
@@ -47,6 +48,7 @@ class PlacePicker final : public QWidget {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void AddKeys(QWidget& window);
   void Find(const QString& text);
   int FirstRowBeginning(const QString& text) const;
   void TakeCurrent();

@@ -4,39 +4,32 @@
 #include <QLabel>
 #include <QLineEdit>
 
-#include "core/EntryHints.h"
 #include "ui/Controls.h"
 
 namespace kestrel {
 
-PositionEntry::PositionEntry(QGridLayout& grid, const Caption& latitude, const Caption& longitude)
-    : latitude_(AddPart(grid, 0, "txtLatitude", "lblHintLatitude", latitude)),
-      longitude_(AddPart(grid, 2, "txtLongitude", "lblHintLongitude", longitude)) {
-  Watch(latitude_);
-  Watch(longitude_);
+PositionEntry::PositionEntry(QGridLayout& grid, EntryOf place, const Caption& latitude,
+                             const Caption& longitude)
+    : latitude_{Axis::Latitude, place}, longitude_{Axis::Longitude, place} {
+  Add(grid, 0, "txtLatitude", "lblHintLatitude", latitude, latitude_);
+  Add(grid, 2, "txtLongitude", "lblHintLongitude", longitude, longitude_);
 }
 
-PositionEntry::Part PositionEntry::AddPart(QGridLayout& grid, int column, const char* box, const char* hint,
-                                           const Caption& caption) {
-  const Part part{MakeBox(box, caption.Tip), MakeLabel(hint, {}), {}};
+void PositionEntry::Add(QGridLayout& grid, int column, const char* box, const char* note,
+                        const Caption& caption, Part& part) {
+  part.Box = MakeBox(box, caption.Tip + "; 42.35, 42.35N and 42 21 00 N are read alike");
+  part.Note = MakeLabel(note, {});
   grid.addWidget(MakeLabel(caption.Name, caption.Text, part.Box), 0, column);
   grid.addWidget(part.Box, 0, column + 1);
-  grid.addWidget(part.Hint, 1, column, 1, 2, Qt::AlignRight);
-  return part;
-}
-
-void PositionEntry::Watch(Part& part) {
-  QObject::connect(part.Box, &QLineEdit::textChanged, part.Box, [this, &part] {
-    part.SetHint({});
-    if (Edited) Edited();
-  });
+  grid.addWidget(part.Note, 1, column, 1, 2, Qt::AlignRight);
+  QObject::connect(part.Box, &QLineEdit::textChanged, part.Box, [&part] { part.ShowNote(part.Read()); });
 }
 
 void PositionEntry::Show(const QString& latitude, const QString& longitude) {
   latitude_.Box->setText(latitude);
   longitude_.Box->setText(longitude);
-  latitude_.SetHint({});
-  longitude_.SetHint({});
+  latitude_.ShowNote({});
+  longitude_.ShowNote({});
   CountAsShown();
 }
 
@@ -44,29 +37,35 @@ void PositionEntry::CountAsShown() {
   for (Part* part : {&latitude_, &longitude_}) part->Shown = part->Box->text();
 }
 
-std::string PositionEntry::Latitude() const {
-  return TypedNumber(*latitude_.Box);
+bool PositionEntry::IsEmpty() const {
+  return latitude_.Box->text().isEmpty() || longitude_.Box->text().isEmpty();
 }
 
-std::string PositionEntry::Longitude() const {
-  return TypedNumber(*longitude_.Box);
+std::optional<Position> PositionEntry::Read() const {
+  const CoordinateEntry latitude = latitude_.Read();
+  const CoordinateEntry longitude = longitude_.Read();
+  if (latitude.Refused || longitude.Refused) return std::nullopt;
+  return Position{latitude.Degrees, longitude.Degrees};
 }
 
-void PositionEntry::ShowHints(EmptyBox empty) {
-  const auto text = [empty](const std::string& typed) {
-    return typed.empty() && empty == EmptyBox::IsNoNumber ? std::string(" ") : typed;
-  };
-  latitude_.SetHint(LatitudeHint(text(Latitude())));
-  longitude_.SetHint(LongitudeHint(text(Longitude())));
+void PositionEntry::FocusRefused() {
+  Part& part = latitude_.Read().Refused ? latitude_ : longitude_;
+  part.Box->setFocus();
+  part.Box->selectAll();
 }
 
 bool PositionEntry::Part::Typed() const {
   return Box->text() != Shown;
 }
 
-void PositionEntry::Part::SetHint(std::string_view hint) {
-  Hint->setText(Text(hint));
-  MarkBox(Box, !hint.empty());
+CoordinateEntry PositionEntry::Part::Read() const {
+  return ReadEntry(TypedNumber(*Box), Of, Place);
+}
+
+void PositionEntry::Part::ShowNote(const CoordinateEntry& entry) {
+  Note->setText(Text(entry.Note));
+  Box->setAccessibleDescription(Note->text());
+  MarkBox(Box, entry.Doubtful);
 }
 
 }  // namespace kestrel

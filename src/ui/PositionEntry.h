@@ -1,9 +1,10 @@
 #pragma once
 
 #include <QString>
-#include <functional>
-#include <string>
-#include <string_view>
+#include <optional>
+
+#include "core/CoordinateEntry.h"
+#include "core/Position.h"
 
 class QGridLayout;
 class QLabel;
@@ -12,7 +13,8 @@ class QLineEdit;
 namespace kestrel {
 
 /// Two boxes in which a position is typed: txtLatitude and txtLongitude, a caption before each, and below
-/// them hints at what the texts are not. A box is marked while it has a hint.
+/// them, while somebody types, what is read or what is wrong with it. A box is marked when its text is
+/// doubtful or refused.
 class PositionEntry {
  public:
   struct Caption {
@@ -22,9 +24,9 @@ class PositionEntry {
   };
 
   /// Adds the controls to the first four columns and two rows of the grid.
-  PositionEntry(QGridLayout& grid, const Caption& latitude, const Caption& longitude);
+  PositionEntry(QGridLayout& grid, EntryOf place, const Caption& latitude, const Caption& longitude);
 
-  /// Shows a position that nobody typed, without hints.
+  /// Shows a position that nobody typed, without notes.
   void Show(const QString& latitude, const QString& longitude);
 
   /// What is in the boxes counts as shown.
@@ -35,34 +37,33 @@ class PositionEntry {
   bool LongitudeTyped() const { return longitude_.Typed(); }
   bool Typed() const { return LatitudeTyped() || LongitudeTyped(); }
 
-  /// What the boxes hold, for the number routine.
-  std::string Latitude() const;
-  std::string Longitude() const;
+  bool IsEmpty() const;  ///< whether nothing at all is in a box
 
-  enum class EmptyBox { IsNone, IsNoNumber };
-  /// Says below the boxes what is no latitude or longitude. Whatever changes a box takes its hint away.
-  void ShowHints(EmptyBox empty);
+  /// What the boxes say; nothing when one of them is refused.
+  std::optional<Position> Read() const;
 
-  /// Called when the text of a box has changed.
-  std::function<void()> Edited;
+  /// Leads to the first box that is refused.
+  void FocusRefused();
 
   QLineEdit* LatitudeBox() { return latitude_.Box; }
 
  private:
   struct Part {
+    Axis Of;
+    EntryOf Place;
     QLineEdit* Box = nullptr;
-    QLabel* Hint = nullptr;
-    QString Shown;
+    QLabel* Note = nullptr;
+    QString Shown = {};
 
     bool Typed() const;
-    void SetHint(std::string_view hint);
+    CoordinateEntry Read() const;
+    void ShowNote(const CoordinateEntry& entry);
   };
 
-  Part AddPart(QGridLayout& grid, int column, const char* box, const char* hint, const Caption& caption);
-  void Watch(Part& part);
+  static void Add(QGridLayout& grid, int column, const char* box, const char* note, const Caption& caption,
+                  Part& part);
 
-  Part latitude_;
-  Part longitude_;
+  Part latitude_, longitude_;
 };
 
 }  // namespace kestrel

@@ -56,6 +56,7 @@ class PrintPreview final : public QDialog {
     setWindowTitle(Text(offer.Page.Name) + " - print preview");
     view_ = new QPrintPreviewWidget(&printer, this);
     view_->setObjectName("viewPages");
+    for (QWidget* part : view_->findChildren<QWidget*>()) part->setAccessibleName("Page");
     view_->fitInView();
     connect(view_, &QPrintPreviewWidget::paintRequested, this, [this](QPrinter* paper) { Paint(*paper); });
 

@@ -11,7 +11,7 @@ namespace kestrel {
 namespace {
 
 bool IsWholePdf(const QString& path) {
-  constexpr qint64 kTail = 64;  // the end mark stands behind a few bytes at most
+  constexpr qint64 kTail = 64;  // at most a few bytes follow the end mark
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly)) return false;
   file.seek(std::max<qint64>(0, file.size() - kTail));

@@ -3,6 +3,7 @@
 #include <QAbstractTableModel>
 #include <QApplication>
 #include <QHeaderView>
+#include <QItemSelectionModel>
 #include <QScrollBar>
 #include <algorithm>
 #include <numeric>
@@ -93,11 +94,34 @@ void RowsTable::SetRows(const std::vector<Column>& columns, int rows,
   widths_ = WidthsOf(columns, rows, cells, fontMetrics(), horizontalHeader()->fontMetrics());
   wideColumn_ = wideColumn;
   QAbstractItemModel* former = model();
+  QItemSelectionModel* formerChoice = selectionModel();
   setModel(new RowsModel(columns, rows, std::move(cells), this));
+  delete formerChoice;
   delete former;
   horizontalHeader()->setVisible(!columns.front().Head.isEmpty());
   for (std::size_t i = 0; i < widths_.size(); ++i) setColumnWidth(static_cast<int>(i), widths_[i]);
   Widen();
+}
+
+void RowsTable::SetGrid(int columnWidth, int headHeight, int rowHeight) {
+  for (int& width : widths_) width = std::max(width, columnWidth);
+  for (std::size_t i = 0; i < widths_.size(); ++i) setColumnWidth(static_cast<int>(i), widths_[i]);
+  horizontalHeader()->setMinimumHeight(headHeight);
+  verticalHeader()->setDefaultSectionSize(std::max(RowHeight(), rowHeight));
+  Widen();
+}
+
+void RowsTable::MoveCurrent(Qt::Key key) {
+  const CursorAction action = key == Qt::Key_Up       ? MoveUp
+                              : key == Qt::Key_Down   ? MoveDown
+                              : key == Qt::Key_PageUp ? MovePageUp
+                                                      : MovePageDown;
+  setCurrentIndex(moveCursor(action, Qt::NoModifier));
+}
+
+void RowsTable::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  QTableView::currentChanged(current, previous);
+  if (CurrentRowChanged && current.isValid()) CurrentRowChanged(current.row());
 }
 
 int RowsTable::WholeWidth() const {

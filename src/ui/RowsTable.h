@@ -25,6 +25,15 @@ class RowsTable final : public QTableView {
   void SetRows(const std::vector<Column>& columns, int rows, std::function<QStringList(int row)> cells,
                int wideColumn);
 
+  /// Called with the row that has become current, counted from 0, in whatever way.
+  std::function<void(int)> CurrentRowChanged;
+
+  /// Does what Up, Down, Page Up or Page Down does in the table.
+  void MoveCurrent(Qt::Key key);
+
+  /// Makes the columns at least so wide and heads and rows so high, in pixels, where their text has room.
+  void SetGrid(int columnWidth, int headHeight, int rowHeight);
+
   /// The width in which every line is seen whole, in pixels.
   int WholeWidth() const;
 
@@ -33,6 +42,7 @@ class RowsTable final : public QTableView {
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
  private:
   void Widen();

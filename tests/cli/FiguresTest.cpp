@@ -56,7 +56,7 @@ TEST(DistanceTest, TakesHomeAndUnitFromTheSessionOrTheOptions) {
   EXPECT_EQ(folder.Run({"distance", "--from", "0,60", "--to", "0,60.0001"}),
             (Answer{0, "Target bearing:   270 deg\nTarget distance:  0 km\n", ""}));
   // Los Angeles to New York in E. Williams' Aviation Formulary: 0.623585 and 1.150035 radians.
-  EXPECT_EQ(folder.Run({"distance", "--from", "33.95,118.4", "--to", "40.633333,73.783333"}),
+  EXPECT_EQ(folder.Run({"distance", "--from", "33d57mN,118 24 W", "--to", "40.633333,73.783333"}),
             (Answer{0, "Target bearing:   65.8 deg\nTarget distance:  3981.6 km\n", ""}));
 }
 

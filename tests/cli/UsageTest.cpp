@@ -10,9 +10,8 @@ TEST(UsageTest, WrongUseIsStatusTwoWithOneLineThatSaysWhatToDo) {
   const QStringList map = {"map", "-o", "x.png"};
   const auto position = [](const std::string& given) {
     return "--to " + given +
-           ": give LAT,LON in degrees, as in 33.24278,96.54139: latitude -90 to 90, longitude -180 to 180 "
-           "and "
-           "positive in the west";
+           ": give LAT,LON in degrees, as in 33.24278,96.54139 or 33d14m34sN,96d32m29sW: latitude -90 to 90, "
+           "longitude -180 to 180 and positive in the west";
   };
   const struct {
     QStringList arguments;
@@ -50,6 +49,7 @@ TEST(UsageTest, WrongUseIsStatusTwoWithOneLineThatSaysWhatToDo) {
       {{"distance", "--to", "40"}, position("40")},
       {{"distance", "--to", "40,"}, position("40,")},
       {{"distance", "--to", "40,75,1"}, position("40,75,1")},
+      {{"distance", "--to", "40N,75S"}, position("40N,75S")},
       {{"hets", "--unknown"},
        "The following argument was not expected: --unknown; kestrel-cli hets --help tells more"},
       {{"map"}, "-o is required; kestrel-cli map --help tells more"},

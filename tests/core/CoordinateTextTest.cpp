@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "core/CoordinateEntry.h"
+
 namespace kestrel {
 namespace {
 
@@ -51,6 +53,43 @@ TEST(CoordinateTextTest, WhatIsNoCoordinateSaysWhy) {
     const auto read = ReadCoordinate(row.text, row.axis);
     ASSERT_TRUE(read) << row.text;
     EXPECT_EQ(read->Fault, row.fault) << row.text;
+  }
+}
+
+TEST(CoordinateEntryTest, ANotationIsTakenExactlyOrRefusedAndANumberByItsRule) {
+  constexpr Axis kNorth = Axis::Latitude;
+  constexpr Axis kWest = Axis::Longitude;
+  constexpr EntryOf kHome = EntryOf::Home;
+  constexpr EntryOf kTarget = EntryOf::Target;
+  const struct {
+    const char* text;
+    Axis axis;
+    EntryOf place;
+    float degrees;
+    const char* note;
+    int doubt;  // 1 doubtful, 2 refused
+  } rows[] = {{"42d21m", kNorth, kHome, 42.35F, "= 42.35 N", 0},
+              {"33 7 30 S", kNorth, kHome, -33.125F, "= 33.125 S", 0},
+              {"89 S", kNorth, kHome, 0, "Home lies from 88 S to 88 N", 2},
+              {"89 S", kNorth, kTarget, -89, "= 89 S", 0},
+              {"42 61 N", kNorth, kTarget, 0, "Minutes run from 0 to 59", 2},
+              {"-71 3", kWest, kHome, 71.05F, "= 71.05 W", 0},
+              {"71.05E", kWest, kTarget, 0, "East of Greenwich; longitudes here are west", 2},
+              {"20 W", kWest, kHome, 0, "Home lies from 30 W to 170 W", 2},
+              {"-45,5", kNorth, kHome, -45.5F, "= 45.5 S", 0},
+              {"-96.5", kWest, kHome, 96.5F, "= 96.5 W", 0},
+              {"-95", kNorth, kHome, -88, "= 88 S, the limit", 1},
+              {"10", kWest, kHome, 30, "= 30 W, the limit", 1},
+              {"10", kWest, kTarget, 10, "= 10 W", 0},
+              {"95", kNorth, kTarget, 95, "Latitude beyond 90", 1},
+              {"north", kNorth, kHome, 0, "No number here", 1},
+              {"", kWest, kHome, 30, "No number here", 1},
+              {"", kWest, kTarget, 0, "", 0}};
+  for (const auto& row : rows) {
+    const CoordinateEntry entry = ReadEntry(row.text, row.axis, row.place);
+    EXPECT_FLOAT_EQ(entry.Degrees, row.degrees) << row.text;
+    EXPECT_EQ(entry.Note, row.note) << row.text;
+    EXPECT_EQ(entry.Doubtful + entry.Refused, row.doubt) << row.text;
   }
 }
 

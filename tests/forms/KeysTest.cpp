@@ -1,29 +1,10 @@
 #include "ui/Keys.h"
 
 #include <QAction>
-#include <QDir>
 #include <QShortcut>
 #include <set>
 
-#include "forms/FormFixture.h"
-#include "forms/frmAbout.h"
-#include "forms/frmAspect.h"
-#include "forms/frmGetDistance.h"
-#include "forms/frmGetFrequency.h"
-#include "forms/frmGetHome.h"
-#include "forms/frmGetStationData.h"
-#include "forms/frmGuide.h"
-#include "forms/frmImport.h"
-#include "forms/frmOpening.h"
-#include "forms/frmOptions.h"
-#include "forms/frmPlot.h"
-#include "forms/frmPlotStates.h"
-#include "forms/frmShowContext.h"
-#include "forms/frmShowHets.h"
-#include "forms/frmShowStations.h"
-#include "forms/frmShowTowers.h"
-#include "map/PrintedPages.h"
-#include "ui/PrintPreview.h"
+#include "forms/EveryForm.h"
 
 namespace kestrel {
 namespace {
@@ -70,36 +51,7 @@ class KeysTest : public FormTest {
 };
 
 TEST_F(KeysTest, TheTableHasEveryKeyOfEveryWindow) {
-  frmOpening opening(Everything);
-  frmPlot plot(Everything);
-  frmGetFrequency frequency(Everything);
-  frmGetHome home(Everything);
-  frmPlotStates states(Everything);
-  frmGetStationData data(Everything, nullptr);
-  frmShowTowers towers(Everything, nullptr, {});
-  frmShowContext context(Everything, nullptr, {});
-  frmShowStations stations(Everything);
-  frmShowHets hets(Everything);
-  frmGetDistance distance(Everything);
-  frmOptions options(Everything);
-  frmAspect aspect(Everything, nullptr);
-  frmImport import(Everything);
-  frmAbout about(Everything);
-  frmGuide guide(System, {});
-  for (QWidget* window : std::initializer_list<QWidget*>{&opening, &plot, &frequency, &home, &states, &data,
-                                                         &towers, &context, &stations, &hets, &distance,
-                                                         &options, &aspect, &import, &about, &guide})
-    Look(*window);
-  for (const QString& header : QDir(KESTREL_FORMS).entryList({"frm*.h"}))
-    EXPECT_TRUE(seen_.contains(header.chopped(2))) << header.toStdString();
-
-  QTimer::singleShot(0, qApp, [this] {
-    auto* preview = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    ASSERT_NE(preview, nullptr);
-    Look(*preview);
-    preview->reject();
-  });
-  ChoosePrinting(nullptr, {OutlinePage(State, Files.Folder()), std::nullopt});
+  ForEveryForm(Everything, [this](QWidget& window) { Look(window); });
   for (const CommandKeys& row : KeyTable())
     EXPECT_TRUE(*row.Window == '\0' || seen_.contains(row.Window)) << row.Window;
 }

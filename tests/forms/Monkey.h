@@ -34,7 +34,7 @@ class Monkey final : public QObject, public Platform {
   /// Every button of those forms, as "form/button", and how often it took effect.
   const std::map<QString, int>& Presses() const { return presses_; }
 
-  /// Called behind every thousandth command.
+  /// Called after every thousandth command.
   std::function<void()> Thousand;
   /// Says every command on standard error.
   bool Speaks = false;

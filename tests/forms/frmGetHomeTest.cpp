@@ -64,19 +64,22 @@ TEST_F(HomeTest, ARowTakenCountsAtOnceAndSurvivesLeaving) {
   EXPECT_EQ(Home(), "Plano  TX 33.0198 96.6989");
 }
 
-TEST_F(HomeTest, TypedCoordinatesCountAndWhatIsNoNumberIsSaid) {
+TEST_F(HomeTest, TypedCoordinatesCountAndWhatIsReadIsTold) {
   frmGetHome form(Everything);
-  const auto hints = [&] { return Shown(form, "lblHintLatitude") + "|" + Shown(form, "lblHintLongitude"); };
+  const std::string before = Home();
+  const auto notes = [&] { return Shown(form, "lblHintLatitude") + "|" + Shown(form, "lblHintLongitude"); };
   const int result = Use(form, [&] {
-    EXPECT_EQ(hints(), "|");
-    Type(form, "txtLatitude", "north");
-    EXPECT_EQ(hints(), "No number here|");
-    Type(form, "txtLongitude", "");
-    EXPECT_EQ(hints(), "No number here|No number here");
+    EXPECT_EQ(notes(), "|");
+    Type(form, "txtLatitude", "42 21 N");
+    Type(form, "txtLongitude", "71.05E");
+    EXPECT_EQ(notes(), "= 42.35 N|East of Greenwich; longitudes here are west");
+    Press(form, "cmdExit");
+    EXPECT_TRUE(form.isVisible());
+    EXPECT_EQ(form.focusWidget()->objectName(), "txtLongitude");
+    EXPECT_EQ(Home(), before);
     Type(form, "txtLatitude", "-95");
-    EXPECT_EQ(hints(), "Latitude beyond 90|No number here");
     Find<QLineEdit>(form, "txtLongitude")->setText("-٩٦٫٥");
-    EXPECT_EQ(hints(), "Latitude beyond 90|");
+    EXPECT_EQ(notes(), "= 88 S, the limit|= 96.5 W");
     QTest::keyClick(Find<QLineEdit>(form, "txtLongitude"), Qt::Key_Return);
   });
   EXPECT_EQ(result, QDialog::Accepted);

@@ -1,6 +1,5 @@
 #include "forms/frmGetStationData.h"
 
-#include <QListWidget>
 #include <algorithm>
 
 #include "forms/FormFixture.h"
@@ -40,7 +39,8 @@ class frmGetStationDataTest : public FormTest {
     QTest::keyClick(Find<QLineEdit>(*form_, "txtGetData"), Qt::Key_Return);
   }
 
-  QListWidget* List() { return Find<QListWidget>(*form_, "lstGetData"); }
+  QAbstractItemView* List() { return Find<QAbstractItemView>(*form_, "lstGetData"); }
+  int Rows() { return List()->model()->rowCount(); }
 
   /// How many of the window's own buttons are visible, or enabled.
   int Commands(bool (QWidget::*is)() const) {
@@ -68,8 +68,8 @@ TEST_F(frmGetStationDataTest, OneEnterShowsAPatternAndTheArrowsTheNextOne) {
   LookFor("  qabc");
   EXPECT_EQ(System.Messages, QStringList());
   EXPECT_EQ(Shown(*form_, "txtGetData"), "QABC");
-  ASSERT_EQ(List()->count(), 2);
-  EXPECT_EQ(List()->currentRow(), 0);
+  ASSERT_EQ(Rows(), 2);
+  EXPECT_EQ(List()->currentIndex().row(), 0);
   EXPECT_EQ(CommandsShown(), 5);
   const RecordingCanvas day = Plotted();
   EXPECT_EQ(day.All("Polyline").at(0).Color, 0x119911);
@@ -90,20 +90,20 @@ TEST_F(frmGetStationDataTest, OneEnterShowsAPatternAndTheArrowsTheNextOne) {
               1.5F * (day.All("Polyline").at(0).Points[90].x - 6000), 2);
 
   LookFor("qtwo");
-  EXPECT_EQ(List()->count(), 2) << "the list is filled anew";
+  EXPECT_EQ(Rows(), 2) << "the list is filled anew";
   EXPECT_EQ(Plotted().All("Line").size(), 2U * 36) << "two records with one call sign, hours and tower count";
 }
 
 TEST_F(frmGetStationDataTest, WhatIsNotFoundIsSaidAndTheRecordDrawnStays) {
   Open("QABC");
-  EXPECT_EQ(List()->count(), 2) << "a call sign given is looked up at once";
+  EXPECT_EQ(Rows(), 2) << "a call sign given is looked up at once";
   const RecordingCanvas drawn = Plotted();
   LookFor("   ");
   LookFor("nope");
   EXPECT_EQ(System.Messages, QStringList({"We need a station callsign entry",
                                           "We did not find a station with callsign 'NOPE'.\r\n"
                                           "It may be listed on a frequency other than this (1230)."}));
-  EXPECT_EQ(List()->count(), 0);
+  EXPECT_EQ(Rows(), 0);
   EXPECT_EQ(CommandsShown(), 5);
   EXPECT_EQ(Plotted().List, drawn.List);
   LookFor(" ");

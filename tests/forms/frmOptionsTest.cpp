@@ -1,8 +1,11 @@
 #include "forms/frmOptions.h"
 
+#include <QSettings>
+
 #include "draw/PainterCanvas.h"
 #include "forms/FormFixture.h"
 #include "forms/frmAspect.h"
+#include "forms/frmGetDistance.h"
 
 namespace kestrel {
 namespace {
@@ -45,7 +48,7 @@ TEST_F(OptionsTest, EveryColorIsChosenAndCancelled) {
     System.NextColor.reset();
     Press(form, kColors[i].Button);
     EXPECT_EQ(Colors(form), wanted) << kColors[i].Button;
-    // The title is set behind a showing and stands over the next one.
+    // The title is set after a showing and stands over the next one.
     EXPECT_EQ(System.ColorQuestions.back().Title, titleBefore);
     EXPECT_EQ(System.ColorQuestions.back().Current, wanted[i]);
 
@@ -87,6 +90,22 @@ TEST_F(OptionsTest, Languages) {
     Press(form, "optEnglish");
     EXPECT_EQ(State.MapLanguage, "en");
   }
+}
+
+TEST_F(OptionsTest, TheUnitOfTheMapsIsKeptAndTheDistanceWindowTellsIt) {
+  State.DistanceUnit = 1;  // until one is chosen, the maps have what was used last
+  frmOptions form(Everything);
+  EXPECT_TRUE(Find<QAbstractButton>(form, "optMiles")->isChecked());
+  Press(form, "optKilometers");
+  EXPECT_EQ(State.MapUnit(), 0);
+  Press(form, "optMiles");
+  State = {};
+  LoadMapUnit(State);
+  EXPECT_EQ(State.MapUnit(), 1);
+  EXPECT_EQ(State.DistanceUnit, 0) << "of the distance window alone";
+  frmGetDistance distance(Everything);
+  EXPECT_TRUE(Shown(distance, "lblMapUnit").ends_with("the maps tell miles, as chosen in the options."));
+  QSettings().clear();
 }
 
 TEST_F(OptionsTest, AspectTenTimesWiderAndBack) {

@@ -1,10 +1,9 @@
 #include "forms/frmShowTowers.h"
 
 #include <QClipboard>
+#include <QTableView>
 
 #include "forms/FormFixture.h"
-#include "map/RecordingCanvas.h"
-#include "ui/MapSurface.h"
 
 namespace kestrel {
 namespace {
@@ -24,23 +23,22 @@ TEST_F(frmShowTowersTest, TheTableStandsInItsColumnsAndIsCopied) {
   selection.SelectedHoursCode = "N";
   selection.SelectedTowerCount = 2;
   frmShowTowers form(Everything, nullptr, selection);
-  RecordingCanvas drawn;
-  Find<MapSurface>(form, "Table")->Drawing().Play(drawn);
-  EXPECT_EQ(drawn.Texts(), (std::vector<std::string>{"Fields", " 1 ", " .8 ", "Heights", " 90 ", " 90.5 ",
-                                                     "Phases", " 0 ", "-90 ", "Spacings", " 0 ", " 90 ",
-                                                     "Bearings", " 0 ", " 45 ", "Switch", "0", " 1"}));
-  const QSizeF screen = QSizeF(form.screen()->size()) * 15;
-  const double lefts[] = {.05, .12, .19, .26, .33, .4};
-  const double tops[] = {.015, .055, .08};
-  std::size_t at = 0;
-  for (const Drawn& text : drawn.All("Text")) {
-    EXPECT_NEAR(text.Points[0].x, screen.width() * lefts[at / 3], 0.5) << text.Text;
-    EXPECT_NEAR(text.Points[0].y, screen.height() * tops[at % 3], 0.5) << text.Text;
-    ++at;
-  }
-
-  Use(form, [&form] {
-    QTest::keyClick(&form, Qt::Key_C, Qt::ControlModifier);
+  auto* table = Find<QTableView>(form, "Table");
+  Use(form, [&] {
+    // As shares of the screen, at whose half the window stands.
+    const double lefts[] = {.05, .12, .19, .26, .33, .4};
+    const char* cells[][6] = {{" 1 ", " 90 ", " 0 ", " 0 ", " 0 ", "0"},
+                              {" .8 ", " 90.5 ", "-90 ", " 90 ", " 45 ", " 1"}};
+    for (int row = 0; row < 2; ++row) {
+      for (int column = 0; column < 6; ++column) {
+        const QModelIndex cell = table->model()->index(row, column);
+        EXPECT_EQ(cell.data().toString(), cells[row][column]);
+        const QPoint at = table->viewport()->mapTo(&form, table->visualRect(cell).topLeft());
+        EXPECT_NEAR(at.x(), form.screen()->size().width() * lefts[column], 6) << column;
+        EXPECT_NEAR(at.y(), form.screen()->size().height() * (.055 + .025 * row), 6) << row;
+      }
+    }
+    QTest::keyClick(table, Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(
         QApplication::clipboard()->text(),
         "Fields\tHeights\tPhases\tSpacings\tBearings\tSwitch\n1\t90\t0\t0\t0\t0\n.8\t90.5\t-90\t90\t45\t1\n");
