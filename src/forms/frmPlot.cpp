@@ -104,7 +104,6 @@ void frmPlot::Redraw(MapGround ground) {
   DrawMainMap(surface_->Drawing(), workspace_.Folder, workspace_.State, ground);
   ground == MapGround::Empty ? surface_->ShowDrawing() : surface_->ShowAdditions();
   UpdateCommands();
-  DescribeMap();
 }
 
 void frmPlot::DescribeMap() {
@@ -119,6 +118,7 @@ void frmPlot::UpdateCommands() {
   // At a moment each station shows the hours that it has then.
   Button("cmdHours")->setEnabled(!scanning_ && !hour_.IsOn());
   timeBar_->setEnabled(!scanning_);
+  DescribeMap();
 }
 
 void frmPlot::RunForm(QDialog& form) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QHelpEvent>
-#include <QListWidget>
 #include <QToolTip>
 #include <memory>
 #include <set>
@@ -97,7 +96,8 @@ class frmPlotTest : public FormTest {
       auto* lookup = qobject_cast<QDialog*>(QApplication::activeModalWidget());
       ASSERT_NE(lookup, nullptr);
       found = Shown(*lookup, "txtGetData") + ": " +
-              std::to_string(Find<QListWidget>(*lookup, "lstGetData")->count()) + " records";
+              std::to_string(Find<QAbstractItemView>(*lookup, "lstGetData")->model()->rowCount()) +
+              " records";
       lookup->reject();
     });
     look.start(0);
