@@ -1,5 +1,7 @@
 #include "forms/frmGetDistance.h"
 
+#include <QScrollBar>
+
 #include "forms/FormFixture.h"
 
 namespace kestrel {
@@ -80,6 +82,11 @@ TEST_F(DistanceTest, ACityAndTheBoxesItFills) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     // By the haversine formula: 25.3599 degrees of arc on a course of 62.777.
     EXPECT_EQ(Answer(form), "62.7 deg|2826.1 km ");
+    Type(form, "txtFindTarget", "abi");
+    Press(form, "cmdGetDistance");
+    EXPECT_EQ(Shown(form, "txtLatitude"), "32.4487") << "the row that the search has led to";
+    form.resize(300, form.height());
+    EXPECT_GT(Find<QAbstractItemView>(form, "lstTarget")->horizontalScrollBar()->maximum(), 0);
     QTest::keyClick(&form, Qt::Key_Escape);
   });
 }

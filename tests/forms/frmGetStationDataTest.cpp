@@ -18,7 +18,9 @@ const QByteArray kFile =
     "1230, QTWO, TWICE                   , TX  , United States, D, 30, 100, 1,-,-, 1\n"
     "0,1,90,0,0,0\n"
     "1230, QTWO, TWICE                   , TX  , United States, D, 30, 100, 5,-,-, 1\n"
-    "0,1,90,0,0,0\n";
+    "0,1,90,0,0,0\n"
+    "1230, QBIG, TOWN                    , TX  , United States, D, 30, 100, 5,-,-, 14\n" +
+    QByteArray("0,1,90,0,0,0\n").repeated(14);
 
 /// The lookup opened on a channel with a few stations.
 class frmGetStationDataTest : public FormTest {
@@ -92,6 +94,8 @@ TEST_F(frmGetStationDataTest, OneEnterShowsAPatternAndTheArrowsTheNextOne) {
   LookFor("qtwo");
   EXPECT_EQ(Rows(), 2) << "the list is filled anew";
   EXPECT_EQ(Plotted().All("Line").size(), 2U * 36) << "two records with one call sign, hours and tower count";
+  LookFor("qbig");
+  EXPECT_EQ(Plotted().Texts().at(12), "Pattern not known") << "more towers than are read";
 }
 
 TEST_F(frmGetStationDataTest, WhatIsNotFoundIsSaidAndTheRecordDrawnStays) {

@@ -99,6 +99,26 @@ TEST_F(frmPlotTest, AddPlotKeepsTheFirstChannelAndEraseDoesNot) {
   EXPECT_EQ(ChannelsDrawn(), Channels{}) << "a channel without a file";
 }
 
+TEST_F(frmPlotTest, OptionsDrawTheMapAnewOnlyWhereTheyChangeIt) {
+  Open();
+  AddChannel("1230");
+  System.NextColor.reset();
+  PressInForm("cmdOptions", {"cmdNight", "optFrench", "cmdExit"});
+  EXPECT_EQ(ChannelsDrawn(), (Channels{620, 1230})) << "left as it was";
+  for (const char* change : {"cmdNight", "optMiles"}) {
+    AddChannel("620");
+    AddChannel("1230");
+    System.NextColor = 0x123456;
+    PressInForm("cmdOptions", {change, "cmdExit"});
+    EXPECT_EQ(ChannelsDrawn(), Channels{1230}) << change;
+  }
+  RecordingCanvas shown;
+  plot_->Surface().Drawing().Play(shown);
+  const auto lines = shown.All("Polygon");
+  EXPECT_TRUE(
+      std::any_of(lines.begin(), lines.end(), [](const auto& line) { return line.Color == 0x123456; }));
+}
+
 TEST_F(frmPlotTest, ScanDrawsEveryChannelUntilStopped) {
   Files.Put("620x.dat", "620, QFAR, TOWN, TX, United States, D, 33, 99, 1,-,-, 0\n");
   Open();
@@ -203,6 +223,10 @@ TEST_F(frmPlotTest, PrintOffersTheMapAsItIsShown) {
   ASSERT_LT(corner.x, -3000) << "the window shows more than the sheet";
   EXPECT_LE(onPage.Left, corner.x + 1);
   EXPECT_GE(onPage.Left + onPage.Width, SheetWidth - corner.x - 1);
+  plot_->resize(600, 900);
+  EXPECT_EQ(printed(), "620 kHz");
+  EXPECT_GE(onPage.Top + onPage.Height, plot_->Surface().ToSheet({0, 900.0}).y - 1)
+      << "higher than the sheet";
   AddChannel("1230");
   EXPECT_EQ(printed(), "1230 kHz with 620 kHz");
   ScanTheBand();
