@@ -100,44 +100,42 @@ void frmOptions::AddColor(QGridLayout* grid, ColorValue& color, const ColorNames
 }
 
 QWidget* frmOptions::MakeLanguageFrame() {
-  auto* frame = new QFrame;
-  frame->setObjectName("frmLanguage");
-  frame->setAccessibleName("Google Maps language");
-  frame->setFrameShape(QFrame::StyledPanel);
-  auto* layout = new QVBoxLayout(frame);
-  layout->addWidget(MakeLabel("lblLanguage", "     Google Maps language"));
-  const auto addLanguage = [&](const char* name, const QString& caption, const char* code) {
-    auto* option = new QRadioButton(caption);
-    option->setObjectName(name);
-    option->setChecked(workspace_.State.MapLanguage == code);
-    connect(option, &QRadioButton::clicked, this, [this, code] { workspace_.State.MapLanguage = code; });
-    layout->addWidget(option);
+  const auto language = [this](const char* name, const QString& caption, const char* code) {
+    std::string& chosen = workspace_.State.MapLanguage;
+    return Choice{name, caption, chosen == code, [&chosen, code] { chosen = code; }};
   };
-  addLanguage("optEnglish", "En&glish", "en");
-  addLanguage("optFrench", "&French", "fr");
-  addLanguage("optSpanish", "&Spanish", "es");
-  return frame;
+  return MakeFrame("frmLanguage", "lblLanguage", "Google Maps language",
+                   {language("optEnglish", "En&glish", "en"), language("optFrench", "&French", "fr"),
+                    language("optSpanish", "&Spanish", "es")});
 }
 
 QWidget* frmOptions::MakeUnitFrame() {
+  const auto unit = [&state = workspace_.State](const char* name, const QString& caption,
+                                                std::int16_t number) {
+    return Choice{name, caption, state.MapUnit() == number, [&state, number] {
+                    state.ChosenMapUnit = number;
+                    QSettings().setValue(kUnitSetting, number);
+                  }};
+  };
+  return MakeFrame("frmMapUnit", "lblMapUnit", "Distances on the maps",
+                   {unit("optKilometers", "&Kilometers", 0), unit("optMiles", "&Miles", 1)});
+}
+
+QWidget* frmOptions::MakeFrame(const char* name, const char* label, const QString& heading,
+                               const std::vector<Choice>& choices) {
   auto* frame = new QFrame;
-  frame->setObjectName("frmMapUnit");
-  frame->setAccessibleName("Distances on the maps");
+  frame->setObjectName(name);
+  frame->setAccessibleName(heading);
   frame->setFrameShape(QFrame::StyledPanel);
   auto* layout = new QVBoxLayout(frame);
-  layout->addWidget(MakeLabel("lblMapUnit", "     Distances on the maps"));
-  const auto addUnit = [&](const char* name, const QString& caption, std::int16_t unit) {
-    auto* option = new QRadioButton(caption);
-    option->setObjectName(name);
-    option->setChecked(workspace_.State.MapUnit() == unit);
-    connect(option, &QRadioButton::clicked, this, [this, unit] {
-      workspace_.State.ChosenMapUnit = unit;
-      QSettings().setValue(kUnitSetting, unit);
-    });
+  layout->addWidget(MakeLabel(label, "     " + heading));
+  for (const Choice& choice : choices) {
+    auto* option = new QRadioButton(choice.Caption);
+    option->setObjectName(choice.Name);
+    option->setChecked(choice.Chosen);
+    connect(option, &QRadioButton::clicked, this, choice.Choose);
     layout->addWidget(option);
-  };
-  addUnit("optKilometers", "&Kilometers", 0);
-  addUnit("optMiles", "&Miles", 1);
+  }
   return frame;
 }
 

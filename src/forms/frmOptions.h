@@ -42,6 +42,16 @@ class frmOptions final : public Form {
   };
 
   void AddColor(QGridLayout* grid, ColorValue& color, const ColorNames& names);
+  /// One of a frame's options, of which one is chosen.
+  struct Choice {
+    const char* Name;
+    QString Caption;
+    bool Chosen;
+    std::function<void()> Choose;
+  };
+
+  QWidget* MakeFrame(const char* name, const char* label, const QString& heading,
+                     const std::vector<Choice>& choices);
   QWidget* MakeLanguageFrame();
   QWidget* MakeUnitFrame();
   void ChooseColor(ColorValue& color, const QString& title);

@@ -57,6 +57,7 @@ frmPlot::frmPlot(const Workspace& workspace)
 
   surface_->setObjectName("Map");
   surface_->setAccessibleName("Map");
+  surface_->Words = [this] { return Words(); };
   view_.Redraw = [this] { Redraw(); };
   surface_->TipWanted = [this](Point place) { return TipAt(place); };
   surface_->Clicked = [this](Point place) {
@@ -106,10 +107,11 @@ void frmPlot::Redraw(MapGround ground) {
   UpdateCommands();
 }
 
-void frmPlot::DescribeMap() {
+QString frmPlot::Words() const {
   const double twipsAcross = double{surface_->TwipsPerPixel()} * surface_->width();
-  surface_->setAccessibleDescription(Text(MapWords(workspace_.State, surface_->Drawing().Stations(),
-                                                   twipsAcross * 75 / workspace_.State.ScaleFactor)));
+  const std::optional<Moment> moment = hour_.IsOn() ? std::optional(timeBar_->At()) : std::nullopt;
+  return Text(MapWords(workspace_.State, surface_->Drawing().Stations(),
+                       twipsAcross * 75 / workspace_.State.ScaleFactor, moment));
 }
 
 void frmPlot::UpdateCommands() {
@@ -118,7 +120,6 @@ void frmPlot::UpdateCommands() {
   // At a moment each station shows the hours that it has then.
   Button("cmdHours")->setEnabled(!scanning_ && !hour_.IsOn());
   timeBar_->setEnabled(!scanning_);
-  DescribeMap();
 }
 
 void frmPlot::RunForm(QDialog& form) {

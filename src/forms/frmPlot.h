@@ -66,7 +66,7 @@ class frmPlot final : public QWidget {
 
   QPushButton* Button(const char* name) const;
   void UpdateCommands();
-  void DescribeMap();
+  QString Words() const;
   void SaveSessionOnce();
 
   Workspace workspace_;

@@ -17,13 +17,15 @@ std::string_view HoursWords(HoursFilter filter) {
 
 }  // namespace
 
-std::string MapWords(const SessionState& state, std::span<const StationMark> marks, double kilometresAcross) {
+std::string MapWords(const SessionState& state, std::span<const StationMark> marks, double kilometresAcross,
+                     std::optional<Moment> moment) {
   std::set<std::pair<int, std::string_view>> stations;  // several records can be one station's
   for (const StationMark& mark : marks) stations.emplace(mark.Channel, mark.CallSign);
   std::string words = NumberText(state.CurrentFrequency) + " kHz";
   if (state.AdjacentsShown == 1) words += " with adjacent channels";
   words += ", " + std::to_string(stations.size()) + (stations.size() == 1 ? " station, " : " stations, ");
-  words += std::string(HoursWords(state.HoursFilter)) + "; around home, ";
+  words += moment ? "at " + MomentText(*moment) : std::string(HoursWords(state.HoursFilter));
+  words += "; around home, ";
   if (const std::string_view name = Trim(state.HomeName); !name.empty()) words += std::string(name) + ", at ";
   const bool miles = state.MapUnit() == 1;
   const double across = miles ? kilometresAcross * MilesPerKilometre : kilometresAcross;

@@ -14,6 +14,11 @@ class AccessibleSurface final : public QAccessibleWidget {
   QAccessible::Role role() const override {
     return widget()->isWindow() ? QAccessible::Window : QAccessible::Graphic;
   }
+  QString text(QAccessible::Text kind) const override {
+    const auto* surface = dynamic_cast<const MapSurface*>(widget());
+    const bool words = kind == QAccessible::Description && surface != nullptr && surface->Words;
+    return words ? surface->Words() : QAccessibleWidget::text(kind);
+  }
 };
 
 /// Our classes have no meta-object of their own, so they come as their base.

@@ -58,6 +58,10 @@ class MapSurface : public QWidget {
 
   void HideTip();
 
+  /// What the surface shows in words, for screen readers, which ask when they need it; without it its
+  /// accessible description.
+  std::function<QString()> Words;
+
   /// Called with the wheel's whole steps, away from the user positive.
   std::function<void(int)> WheelTurned;
 

@@ -3,7 +3,6 @@
 #include <QJsonArray>
 #include <QJsonObject>
 #include <cmath>
-#include <sstream>
 
 #include "cli/Companion.h"
 
@@ -129,20 +128,6 @@ TEST_F(PatternTest, HoursChooseARecordAndOthersAreEmptyOrNull) {
             "Tower  Switch  Field  Height  Phase  Spacing  Bearing\n"
             "    1       0      0      90      0        0        0\n\n"
             "The pattern cannot be computed.\n");
-}
-
-TEST_F(PatternTest, TheTableHasEveryValueOfTheListInThousandths) {
-  const QJsonArray list = Search({"--call", "QDIR", "--hours", "N"})[0].toObject()["values"].toArray();
-  const std::string table = folder_.Run({"pattern", "--call", "QDIR", "--hours", "N"}).Out;
-  std::istringstream lines(table.substr(table.find('\n', table.find("Azimuth"))));
-  lines.imbue(std::locale::classic());
-  int azimuth = 0;
-  for (int first = 0; lines >> first;) {
-    ASSERT_EQ(first, azimuth);
-    for (double value = 0; azimuth < first + 10 && lines >> value; ++azimuth)
-      EXPECT_NEAR(value, list[azimuth].toDouble(), 0.00051) << azimuth;
-  }
-  EXPECT_EQ(azimuth, 360);
 }
 
 }  // namespace
