@@ -56,11 +56,6 @@ bool DataFolder::Has(const QString& name) const {
   return Find(name).has_value();
 }
 
-qint64 DataFolder::Size(const QString& name) const {
-  const std::optional<QString> path = Find(name);
-  return path ? QFileInfo(*path).size() : 0;
-}
-
 Result<Done> DataFolder::Write(const QString& name, std::string_view bytes) const {
   return WriteFile(Find(name).value_or(QDir(path_).filePath(name)), bytes);
 }

@@ -25,9 +25,6 @@ class DataFolder {
 
   bool Has(const QString& name) const;
 
-  /// The file's size in bytes; 0 when there is none.
-  qint64 Size(const QString& name) const;
-
   /// Replaces the file as a whole, or leaves the old one whole. A name already there in another case is kept.
   Result<Done> Write(const QString& name, std::string_view bytes) const;
 

@@ -1,34 +1,14 @@
 #include "map/MainMap.h"
 
-#include <algorithm>
-#include <future>
-
 #include "core/Band.h"
 #include "data/StationFile.h"
 #include "map/ChannelPlot.h"
 #include "map/Compass.h"
-#include "map/DisplayList.h"
 #include "map/Legend.h"
 #include "map/MapProjection.h"
 #include "map/Outlines.h"
 
 namespace kestrel {
-namespace {
-
-/// Channels ask for the size of no text.
-class NoMeasure final : public TextMeasure {
-  float TextWidth(const Font&, std::string_view) const override { return 0; }
-  float TextHeight(const Font&) const override { return 0; }
-};
-
-/// Whether the files are about as long as those of real channels, the longest of which has 50 KB.
-bool AreOrdinary(const std::vector<float>& channels, const DataFolder& folder) {
-  constexpr qint64 kLong = 200'000;
-  return std::all_of(channels.begin(), channels.end(),
-                     [&](float channel) { return folder.Size(StationFileName(channel)) <= kLong; });
-}
-
-}  // namespace
 
 std::vector<float> ShownChannels(const SessionState& state) {
   const float current = state.CurrentFrequency;
@@ -56,25 +36,10 @@ std::vector<std::string> DrawMainMap(Canvas& canvas, const DataFolder& folder, c
                                      MapGround ground) {
   const MapProjection projection(state.Home(), state.ScaleFactor);
   const std::vector<float> channels = ShownChannels(state);
-  const auto plot = [&](Canvas& on) {
-    return ForShownChannels(
-        folder, state, [&](float channel) { return PlotChannel(on, folder, state, projection, channel); });
-  };
   std::vector<std::string> notes;
-  ChannelOutcome outcome;
-  if (ground == MapGround::Empty && AreOrdinary(channels, folder)) {
-    // The channels' antennas are reckoned while the outlines, which come first, are read. For a moment the
-    // channels are in memory twice.
-    const NoMeasure measure;
-    DisplayList plotted(measure);
-    auto plotting = std::async([&] { return plot(plotted); });
-    notes = DrawOutlineFiles(canvas, folder, projection);
-    outcome = plotting.get();
-    plotted.Play(canvas);
-  } else {
-    if (ground == MapGround::Empty) notes = DrawOutlineFiles(canvas, folder, projection);
-    outcome = plot(canvas);
-  }
+  if (ground == MapGround::Empty) notes = DrawOutlineFiles(canvas, folder, projection);
+  const ChannelOutcome outcome = ForShownChannels(
+      folder, state, [&](float channel) { return PlotChannel(canvas, folder, state, projection, channel); });
   notes.insert(notes.end(), outcome.Notes.begin(), outcome.Notes.end());
   if (!channels.empty()) {
     DrawLegend(canvas, state);
