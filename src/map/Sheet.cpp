@@ -1,7 +1,6 @@
 #include "map/Sheet.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace kestrel {
 
@@ -12,26 +11,14 @@ SheetFit FitSheet(float surfaceWidth, float surfaceHeight, const SheetArea& area
 }
 
 SheetBox BoxAround(std::span<const Point> points) {
-  // Two points at a time, their x and y beside each other: written with vectors, since the compiler takes no
-  // minimum of floats for one whose order does not matter.
-  using TwoPoints [[gnu::vector_size(16)]] = float;
-  static_assert(sizeof(TwoPoints) == 2 * sizeof(Point));
   constexpr float kFar = std::numeric_limits<float>::infinity();
-  TwoPoints low = {kFar, kFar, kFar, kFar};
-  TwoPoints high = -low;
-  const auto add = [&](TwoPoints two) {
-    low = two < low ? two : low;
-    high = two > high ? two : high;
-  };
-  std::size_t i = 0;
-  for (; i + 1 < points.size(); i += 2) {
-    TwoPoints two;
-    std::memcpy(&two, &points[i], sizeof two);
-    add(two);
+  SheetBox box = {{kFar, kFar}, {-kFar, -kFar}};
+  // Written so that a coordinate that is no number changes nothing.
+  for (const Point point : points) {
+    box.TopLeft = {std::min(box.TopLeft.x, point.x), std::min(box.TopLeft.y, point.y)};
+    box.BottomRight = {std::max(box.BottomRight.x, point.x), std::max(box.BottomRight.y, point.y)};
   }
-  if (i < points.size()) add(TwoPoints{points[i].x, points[i].y, points[i].x, points[i].y});
-  return {{std::min(low[0], low[2]), std::min(low[1], low[3])},
-          {std::max(high[0], high[2]), std::max(high[1], high[3])}};
+  return box;
 }
 
 }  // namespace kestrel
