@@ -13,13 +13,11 @@
 namespace kestrel {
 namespace {
 
-/// A decimal number as it stands in the text: digits times ten to the exponent.
+/// A decimal number as it stands in the text.
 struct Decimal {
   bool negative = false;
-  std::string_view text;     // from the first digit or point to the last character that belongs to it
-  std::uint64_t digits = 0;  // the first 19 significant ones
-  int significant = 0;       // how many there are in all
-  long long exponent = 0;    // of the last digit counted in `digits`
+  std::string_view text;  // its mantissa and exponent; empty when all digits are 0
+  long long power = 0;    // the smallest power of ten above it
 };
 
 /// Reads the exponent behind a mantissa; returns the offset behind it, `at` when there is none.
@@ -43,6 +41,7 @@ Decimal ReadDecimal(std::string_view text) {
   const std::size_t begin = i;
   bool pointSeen = false;
   bool digitSeen = false;
+  bool significant = false;
   for (; i < text.size(); ++i) {
     const char c = text[i];
     if (c == '.' && !pointSeen) {
@@ -51,35 +50,14 @@ Decimal ReadDecimal(std::string_view text) {
     }
     if (!IsDigit(c)) break;
     digitSeen = true;
-    if (decimal.significant > 0 || c != '0') ++decimal.significant;
-    if (decimal.significant <= 19) {
-      decimal.digits = decimal.digits * 10 + static_cast<std::uint64_t>(c - '0');
-      if (pointSeen) --decimal.exponent;
-    } else if (!pointSeen) {
-      ++decimal.exponent;
-    }
+    significant = significant || c != '0';
+    if (significant && !pointSeen) ++decimal.power;
+    if (!significant && pointSeen) --decimal.power;
   }
   if (!digitSeen) return {};
-  i = ReadExponent(text, i, decimal.exponent);
-  decimal.text = text.substr(begin, i - begin);
+  i = ReadExponent(text, i, decimal.power);
+  if (significant) decimal.text = text.substr(begin, i - begin);
   return decimal;
-}
-
-/// Correctly rounded; limited to the largest single.
-double Magnitude(const Decimal& decimal) {
-  if (decimal.digits == 0) return 0;
-  // Up to 15 digits and a power of ten up to 22 are both exact in a double, so one operation rounds once.
-  if (decimal.significant <= 15 && decimal.exponent >= -22 && decimal.exponent <= 22) {
-    const auto digits = static_cast<double>(decimal.digits);
-    return decimal.exponent < 0 ? digits / PowersOfTen[static_cast<std::size_t>(-decimal.exponent)]
-                                : digits * PowersOfTen[static_cast<std::size_t>(decimal.exponent)];
-  }
-  double value = 0;
-  const auto [end, error] =
-      std::from_chars(decimal.text.data(), decimal.text.data() + decimal.text.size(), value);
-  if (error == std::errc::result_out_of_range)
-    value = decimal.exponent > 0 ? std::numeric_limits<double>::max() : 0;
-  return value;
 }
 
 /// Multiplier of an engineering suffix; 0 for a character that is none.
@@ -126,7 +104,11 @@ double LeadingNumber(std::string_view text) {
   if (behind && (behind == end || (*behind != 'E' && *behind != 'e'))) return plain;
 
   const Decimal decimal = ReadDecimal(text);
-  const double magnitude = std::min<double>(Magnitude(decimal), std::numeric_limits<float>::max());
+  const char* const last = decimal.text.data() + decimal.text.size();
+  double magnitude = 0;
+  if (std::from_chars(decimal.text.data(), last, magnitude).ec == std::errc::result_out_of_range)
+    magnitude = decimal.power > 0 ? std::numeric_limits<double>::max() : 0;
+  magnitude = std::min<double>(magnitude, std::numeric_limits<float>::max());
   return decimal.negative ? -magnitude : magnitude;
 }
 

@@ -4,8 +4,6 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "core/EightCharacters.h"
-
 namespace kestrel {
 
 /// Powers of ten that a double holds exactly.
@@ -15,30 +13,6 @@ inline constexpr std::array<double, 23> PowersOfTen = {1e0,  1e1,  1e2,  1e3,  1
 
 inline bool IsDigit(char c) {
   return static_cast<unsigned char>(c - '0') < 10;
-}
-
-/// A number without a sign of at most eight characters. Nine can be read at `at`; the digits are moved
-/// together where they lie, without a loop. Returns where the number ends, nullptr for none and for a longer
-/// one.
-inline const char* ReadShortNumber(const char* at, double& magnitude) {
-  const std::uint64_t values = EightCharacters(at) ^ (0x0101010101010101 * '0');
-  const std::uint64_t others = BytesFrom(values, 10);
-  const int whole = BytesBefore(others);
-  const bool hasPoint = whole < 8 && at[whole] == '.';
-  const int length = hasPoint ? BytesBefore(others & (others - 1)) : whole;
-  if (length == 8 && (IsDigit(at[8]) || at[8] == '.')) return nullptr;
-  const int decimals = hasPoint ? length - whole - 1 : 0;
-  const int count = whole + decimals;
-  if (count == 0) return nullptr;
-  // Written without branches, since no two numbers of a file are alike.
-  const std::uint64_t front = (std::uint64_t{1} << 8 * (whole % 8)) - 1;
-  const std::uint64_t back = hasPoint ? values >> 8 : values;
-  const std::uint64_t digits = (values & front) | (back & ~front);
-  // Moved up until they end with the word, zeros before them; what stood behind them falls out.
-  const std::uint64_t number = EightDigits(digits << 8 * (8 - count));
-  magnitude = static_cast<double>(static_cast<std::int64_t>(number)) /
-              PowersOfTen[static_cast<std::size_t>(decimals)];
-  return at + length;
 }
 
 /// Reads a number as the data files mostly hold it: an optional minus sign, then up to 15 digits with at most
@@ -51,13 +25,6 @@ inline const char* ReadPlainNumber(const char* at, const char* end, double& valu
   const auto atDigit = [&] { return at != end && IsDigit(*at); };
   const bool negative = at != end && *at == '-';
   if (negative) ++at;
-  double magnitude = 0;
-  if (end - at > 8) {
-    if (const char* const behind = ReadShortNumber(at, magnitude)) {
-      value = negative ? -magnitude : magnitude;
-      return behind;
-    }
-  }
   const char* const begin = at;
   std::uint64_t digits = 0;
   for (; atDigit(); ++at) digits = digits * 10 + static_cast<std::uint64_t>(*at - '0');
@@ -70,8 +37,8 @@ inline const char* ReadPlainNumber(const char* at, const char* end, double& valu
     count += decimals;
   }
   if (count == 0 || count > kMostDigits) return nullptr;
-  magnitude = static_cast<double>(static_cast<std::int64_t>(digits)) /
-              PowersOfTen[static_cast<std::size_t>(decimals)];
+  const double magnitude = static_cast<double>(static_cast<std::int64_t>(digits)) /
+                           PowersOfTen[static_cast<std::size_t>(decimals)];
   value = negative ? -magnitude : magnitude;
   return at;
 }

@@ -24,10 +24,6 @@ bool ReadPlainTower(std::string_view line, std::size_t i, StationRecord& record)
        {&record.Fields[i], &record.Heights[i], &record.Phases[i], &record.Spacings[i], &record.Bearings[i]}) {
     if (at == end || *at != ',') return false;
     if (++at != end && *at == ' ') ++at;
-    if (at != end && IsDigit(*at) && (at + 1 == end || at[1] == ',')) {  // as most are
-      *number = static_cast<float>(*at++ - '0');
-      continue;
-    }
     double value = 0;
     at = ReadPlainNumber(at, end, value);
     if (!at) return false;
@@ -38,14 +34,8 @@ bool ReadPlainTower(std::string_view line, std::size_t i, StationRecord& record)
 
 }  // namespace
 
-double StationLine::Number(std::string_view field) const {
-  const char* begin = field.data();
-  const char* const end = begin + field.size();
-  if (begin != end && *begin == ' ') ++begin;
-  if (end - begin == 1 && IsDigit(*begin)) return *begin - '0';  // as nearly all tower counts are
-  double plain = 0;
-  // Nearly all end with their field; where the line goes on behind it, no care need be taken of its end.
-  return begin != end && ReadPlainNumber(begin, LineEnd, plain) == end ? plain : LeadingNumber(field);
+Position StationLine::At() const {
+  return {Number(Latitude), Number(Longitude)};
 }
 
 bool IsStationLine(std::string_view line) {
@@ -54,17 +44,8 @@ bool IsStationLine(std::string_view line) {
 
 StationLine CutStationLine(std::string_view line) {
   const auto fields = FirstFields<12>(line);  // the tenth and eleventh carry nothing
-  return {fields[0],
-          fields[1],
-          fields[2],
-          fields[3],
-          fields[4],
-          fields[5],
-          fields[6],
-          fields[7],
-          fields[8],
-          fields[11],
-          line.data() + line.size()};
+  return {fields[0], fields[1], fields[2], fields[3], fields[4],
+          fields[5], fields[6], fields[7], fields[8], fields[11]};
 }
 
 void CutTowerLine(std::string_view line, int tower, StationRecord& record) {
@@ -85,10 +66,10 @@ double StoreStationLine(const StationLine& line, StationRecord& record) {
   record.State = Trim(line.State);
   record.Country = Trim(line.Country);
   record.HoursCode = Trim(line.HoursCode);
-  record.Latitude = static_cast<float>(line.Number(line.Latitude));
-  record.Longitude = static_cast<float>(line.Number(line.Longitude));
-  record.PowerKW = static_cast<float>(line.Number(line.PowerKW));
-  const double towers = RoundToWhole(line.Number(line.TowerCount));
+  record.Latitude = Number(line.Latitude);
+  record.Longitude = Number(line.Longitude);
+  record.PowerKW = Number(line.PowerKW);
+  const double towers = RoundToWhole(LeadingNumber(line.TowerCount));
   record.TowerCount =
       towers >= 0 && towers <= MaxTowers ? static_cast<std::int16_t>(towers) : std::int16_t{0};
   return towers;

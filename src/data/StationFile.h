@@ -45,14 +45,8 @@ struct StationRecord {
 struct StationLine {
   std::string_view Frequency, CallSign, City, State, Country, HoursCode, Latitude, Longitude, PowerKW,
       TowerCount;
-  const char* LineEnd = nullptr;  ///< at or behind the end of every field
 
-  /// What LeadingNumber reads in one of the fields.
-  double Number(std::string_view field) const;
-
-  Position At() const {
-    return {static_cast<float>(Number(Latitude)), static_cast<float>(Number(Longitude))};
-  }
+  Position At() const;
 };
 
 /// Whether the line begins with a digit 1 to 9, as station lines do and tower lines must not.

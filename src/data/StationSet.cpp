@@ -26,10 +26,12 @@ int StationsIn(const DataFolder& folder) {
   for (float channel = LowestChannel; channel <= HighestChannel; channel += ChannelStep) {
     const Result<QByteArray> bytes = folder.Read(StationFileName(channel));
     if (!bytes) continue;
-    std::set<std::tuple<std::string, double, double>> sites;
+    std::set<std::tuple<std::string, float, float>> sites;
     StationLineReader reader({bytes->constData(), static_cast<std::size_t>(bytes->size())});
-    while (const auto line = reader.Next())
-      sites.emplace(Trim(line->CallSign), line->Number(line->Latitude), line->Number(line->Longitude));
+    while (const auto line = reader.Next()) {
+      const Position at = line->At();
+      sites.emplace(Trim(line->CallSign), at.Latitude, at.Longitude);
+    }
     count += sites.size();
   }
   return static_cast<int>(count);

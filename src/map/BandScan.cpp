@@ -39,9 +39,10 @@ Result<std::vector<StationMark>> ReadMarks(const DataFolder& folder, const MapPr
                      static_cast<int>(channel),
                      std::string(Trim(line->CallSign)),
                      std::string(Trim(line->HoursCode)),
-                     static_cast<float>(line->Number(line->PowerKW))});
-    latitudes.push_back(static_cast<float>(line->Number(line->Latitude)));
-    longitudesEast.push_back(-static_cast<float>(line->Number(line->Longitude)));
+                     static_cast<float>(LeadingNumber(line->PowerKW))});
+    const Position at = line->At();
+    latitudes.push_back(at.Latitude);
+    longitudesEast.push_back(-at.Longitude);
   }
   std::vector<Point> places(marks.size());
   projection.Vertices(latitudes, longitudesEast, places);

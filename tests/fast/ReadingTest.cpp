@@ -49,7 +49,7 @@ TEST(ReadingTest, StationFilesOfTheWholeBand) {
       ASSERT_NO_FATAL_FAILURE(ExpectSameRecord(*same, *record)) << name.toStdString();
       const auto line = lines.Next();
       ASSERT_TRUE(line);
-      ASSERT_EQ(static_cast<float>(line->Number(line->Latitude)), record->Latitude);
+      ASSERT_EQ(line->At().Latitude, record->Latitude);
       ++records;
     }
     ASSERT_EQ(quick.Next(), nullptr);
