@@ -113,7 +113,7 @@ void AddProjectionRows(const std::string& work, bool asked, Place place) {
 
 /// Home as the kernel takes it.
 ProjectionCenter Center() {
-  const auto [sine, cosine] = VertexAngle(kHomeLatitude);
+  const auto [sine, cosine] = SineAndCosine(kHomeLatitude);
   return {sine, cosine, -double{kHomeLongitude}, KilometresPerDegree * DegreesPerRadian * kScale / 75};
 }
 

@@ -29,7 +29,7 @@ double ResidentMegabytes() {
   return 0;
 }
 
-/// Calls back behind the next painting of a widget.
+/// Calls back after the next painting of a widget.
 class PaintWatch final : public QObject {
  public:
   PaintWatch(QWidget* widget, std::function<void()> painted) : QObject(widget), painted_(std::move(painted)) {

@@ -57,7 +57,7 @@ bool Lines(std::string_view bytes) {
     const auto asItStands = byteReader.NextBytes();
     Hold(line && asItStands, "as many lines as by the rules");
     Hold(*line == wanted.Text && *asItStands == wanted.Bytes, "a line is read by the rules");
-    Hold(asItStands->size() <= LongestLine, "no line is longer than the longest");
+    Hold(asItStands->size() <= LongestDataLine, "no line is longer than the longest");
     Hold(IsUtf8(*line), "text is UTF-8");
     Hold(Columns(*line, 1, 8) == ColumnsByTheRules(wanted.Text, 1, 8), "columns count characters");
     Hold(Columns(*line, 1, 8).size() + Columns(*line, 9, line->size()).size() == line->size(),

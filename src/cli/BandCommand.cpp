@@ -59,7 +59,7 @@ std::vector<std::string> NowhereFound(const std::vector<Ranking>& rankings) {
 }
 
 void TellBand(const Request& request) {
-  const auto platform = StartPlatform(Platform::Files);
+  const auto qt = StartQt(QtUse::Files);
   const SessionState state = SessionFor(request);
   const DataFolder folder = DataFor(request);
   BandRanking band(folder, state.Home(), GroundFor(request));

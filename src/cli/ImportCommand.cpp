@@ -145,7 +145,7 @@ void WriteReport(const std::string& path, const std::string& text, bool imported
 }
 
 void Import(const Request& request, const ImportArguments& arguments) {
-  const auto platform = StartPlatform(Platform::Files);
+  const auto qt = StartQt(QtUse::Files);
   const DataFolder folder = DataFor(request);
   ImportRequest import{{}, arguments.options, arguments.dryRun};
   for (const std::string& file : arguments.files) import.Files << QString::fromStdString(file);
@@ -170,7 +170,7 @@ if (outcome.Failure)
 }  // namespace
 
 void Undo(const Request& request) {
-  const auto platform = StartPlatform(Platform::Files);
+  const auto qt = StartQt(QtUse::Files);
   const DataFolder folder = DataFor(request);
   if (const Result<Done> undone = UndoImport(folder); !undone) throw Failure(undone.error().Message());
   const std::string line = StationsLineOf(folder);

@@ -22,7 +22,7 @@ struct View {
 };
 
 void DrawMap(const Request& request, const View& view) {
-  const auto platform = StartPlatform(Platform::Pictures);
+  const auto qt = StartQt(QtUse::Pictures);
   SessionState state = SessionFor(request);
   state.SelectedFrequency = state.CurrentFrequency;
   state.AdjacentsShown = view.Adjacents ? 1 : 0;

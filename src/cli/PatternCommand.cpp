@@ -117,7 +117,7 @@ std::string ForPeople(const std::vector<Found>& matches) {
 }
 
 void ShowPattern(const Request& request, const Sought& sought) {
-  const auto platform = StartPlatform(Platform::Files);
+  const auto qt = StartQt(QtUse::Files);
   const SessionState state = SessionFor(request);
   const QByteArray bytes = ReadChannel(DataFor(request), state.CurrentFrequency);
   StationFileReader reader(StationFileName(state.CurrentFrequency).toStdString(),

@@ -76,7 +76,7 @@ QByteArray ReadChannel(const DataFolder& folder, float frequency) {
   return std::move(*bytes);
 }
 
-std::unique_ptr<QCoreApplication> StartPlatform(Platform needed) {
+std::unique_ptr<QCoreApplication> StartQt(QtUse use) {
   static int count = 1;
   static char name[] = "kestrel-cli";
   static char* arguments[] = {name, nullptr};
@@ -86,7 +86,7 @@ std::unique_ptr<QCoreApplication> StartPlatform(Platform needed) {
     qunsetenv(variable);
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-  if (needed == Platform::Pictures) return std::make_unique<QGuiApplication>(count, arguments);
+  if (use == QtUse::Pictures) return std::make_unique<QGuiApplication>(count, arguments);
   return std::make_unique<QCoreApplication>(count, arguments);
 }
 

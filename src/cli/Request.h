@@ -53,10 +53,10 @@ std::string StationsLineOf(const DataFolder& folder);
 /// The bytes of the channel's station file. Throws Failure when there are none.
 QByteArray ReadChannel(const DataFolder& folder, float frequency);
 
-/// What of the platform a command needs. Fonts and pictures take longer to start.
-enum class Platform { Files, Pictures };
+/// What a command needs of Qt. Fonts and pictures take longer to start.
+enum class QtUse { Files, Pictures };
 
-/// Starts the platform, without a display; it ends with what is returned.
-[[nodiscard]] std::unique_ptr<QCoreApplication> StartPlatform(Platform needed);
+/// Starts Qt, without a display; it ends with what is returned.
+[[nodiscard]] std::unique_ptr<QCoreApplication> StartQt(QtUse use);
 
 }  // namespace kestrel::cli

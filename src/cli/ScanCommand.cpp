@@ -53,7 +53,7 @@ void DrawBand(const DataFolder& folder, const MapProjection& projection, Canvas&
 
 /// The stations of all channels.
 void ListBand(const Request& request) {
-  const auto platform = StartPlatform(Platform::Files);
+  const auto qt = StartQt(QtUse::Files);
   const SessionState state = SessionFor(request);
   const DataFolder folder = DataFor(request);
   CsvWriter csv = StationCsv();
@@ -75,7 +75,7 @@ void ListBand(const Request& request) {
 void Scan(const Request& request) {
   if (request.Csv) return ListBand(request);
   if (request.Output.empty()) throw WrongUse("-o is required; kestrel-cli scan --help tells more");
-  const auto platform = StartPlatform(Platform::Pictures);
+  const auto qt = StartQt(QtUse::Pictures);
   const SessionState state = SessionFor(request);
   const DataFolder folder = DataFor(request);
   const MapProjection projection(state.Home(), state.ScaleFactor);

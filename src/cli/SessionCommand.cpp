@@ -88,7 +88,7 @@ void Save(SessionState state, const std::string& path) {
 
 void ShowSession(Request request, const std::optional<std::string>& file,
                  const std::optional<std::string>& writeTo) {
-  const auto platform = StartPlatform(Platform::Files);
+  const auto qt = StartQt(QtUse::Files);
   if (file) request.SessionFile = file;
   const SessionState state = SessionFor(request, MissingSession::IsFirstStart);
   const DataFolder folder = DataFor(request);

@@ -55,7 +55,7 @@ std::string ForPeople(const std::vector<ListedStation>& stations) {
 }
 
 void ListStations(const Request& request) {
-  const auto platform = StartPlatform(Platform::Files);
+  const auto qt = StartQt(QtUse::Files);
   const SessionState state = SessionFor(request);
   const float frequency = state.CurrentFrequency;
   const QByteArray bytes = ReadChannel(DataFor(request), frequency);

@@ -65,7 +65,7 @@ std::string ForPeople(const Answer& answer) {
 }
 
 void TellWho(const Request& request) {
-  const auto platform = StartPlatform(Platform::Files);
+  const auto qt = StartQt(QtUse::Files);
   const SessionState state = SessionFor(request);
   const QByteArray bytes = ReadChannel(DataFor(request), state.CurrentFrequency);
   ChannelRanking channel(state.CurrentFrequency, state.Home(), GroundFor(request));

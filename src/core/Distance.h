@@ -14,7 +14,7 @@ struct DistanceReadout {
   float Distance = 0;        ///< kilometres, or statute miles when `Unit` is 1
   int Unit = 0;              ///< 0 kilometres, 1 statute miles
   std::string BearingText;   ///< "123.9 deg"
-  std::string DistanceText;  ///< "426.8 km " or "265.2 mi ", the blank behind it included
+  std::string DistanceText;  ///< "426.8 km " or "265.2 mi ", the blank at its end included
 };
 
 /// By GreatCircle, so distances below some 3 km are coarse. `unit` as `SessionState::DistanceUnit`; any value

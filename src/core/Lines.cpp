@@ -24,14 +24,14 @@ bool IsPlainAscii(std::string_view bytes) {
 
 /// A line as long as it may be, without a piece of a character at its end.
 std::string_view Cut(std::string_view line) {
-  if (line.size() <= LongestLine) return line;
+  if (line.size() <= LongestDataLine) return line;
   const auto continues = [&line](std::size_t at) { return (line[at] & 0xC0) == 0x80; };
-  std::size_t length = LongestLine;
-  while (length > LongestLine - 3 && continues(length)) --length;
+  std::size_t length = LongestDataLine;
+  while (length > LongestDataLine - 3 && continues(length)) --length;
   return line.substr(0, length);
 }
 
-/// Whether a CR stands anywhere without an LF behind it. Without an early end, likewise, from the first on.
+/// Whether a CR stands anywhere without an LF after it. Without an early end, too.
 bool HasLoneReturn(std::string_view bytes) {
   unsigned char lone = bytes.ends_with('\r');
   for (std::size_t i = Find(bytes, '\r', 0) + 1; i < bytes.size(); ++i)

@@ -8,14 +8,14 @@
 
 namespace kestrel {
 
-/// No line is longer; what stands behind the first so many bytes of a longer one is passed over.
-inline constexpr std::size_t LongestLine = 4096;
+/// No line is longer; the rest of a longer one is passed over.
+inline constexpr std::size_t LongestDataLine = 4096;
 
 /// Walks over the lines of a file's bytes.
 ///
 /// A line ends at CR LF, LF or CR; the last one may lack its end, and a UTF-8 byte-order mark at the front
-/// is passed over. A file that ends in a line end has no further, empty line behind it. A line is cut at
-/// LongestLine bytes, or before the character that lies across that place.
+/// is passed over. A file that ends in a line end has no further, empty line after it. A line is cut at
+/// LongestDataLine bytes, or before the character that lies across that place.
 class LineReader {
  public:
   /// The bytes must outlive the reader.
@@ -28,7 +28,7 @@ class LineReader {
   /// The next line as it stands, for readers that look at ASCII only.
   std::optional<std::string_view> NextBytes();
 
-  /// What has not been read, for readers that know a line's end before it is looked for.
+  /// What has not been read, for readers that find the line ends themselves.
   std::string_view Rest() const { return bytes_.substr(std::min(position_, bytes_.size())); }
 
   /// Passes over `count` lines of `length` bytes together at the front of Rest(), their ends included.
@@ -47,7 +47,7 @@ class LineReader {
   bool plain_ = false;          // no byte needs mending
   bool hasLoneReturn_ = false;  // a line somewhere ends in CR alone
   std::size_t position_ = 0;
-  std::size_t nextLineFeed_ = 0;  // at or behind position_, bytes_.size() when there is no more
+  std::size_t nextLineFeed_ = 0;  // at or after position_, bytes_.size() when there is no more
   int lineNumber_ = 0;
   std::string mended_;  // the line that Next() had to change
 };

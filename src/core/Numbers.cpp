@@ -20,7 +20,7 @@ struct Decimal {
   long long power = 0;    // the smallest power of ten above it
 };
 
-/// Reads the exponent behind a mantissa; returns the offset behind it, `at` when there is none.
+/// Reads the exponent after a mantissa; returns the offset after it, `at` when there is none.
 std::size_t ReadExponent(std::string_view text, std::size_t at, long long& exponent) {
   if (at >= text.size() || (text[at] != 'E' && text[at] != 'e')) return at;
   std::size_t i = at + 1;
@@ -100,8 +100,8 @@ double LeadingNumber(std::string_view text) {
   const char* const end = begin + text.size();
   while (begin != end && *begin == ' ') ++begin;
   double plain = 0;
-  const char* const behind = ReadPlainNumber(begin, end, plain);
-  if (behind && (behind == end || (*behind != 'E' && *behind != 'e'))) return plain;
+  const char* const after = ReadPlainNumber(begin, end, plain);
+  if (after && (after == end || (*after != 'E' && *after != 'e'))) return plain;
 
   const Decimal decimal = ReadDecimal(text);
   const char* const last = decimal.text.data() + decimal.text.size();

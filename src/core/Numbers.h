@@ -10,7 +10,7 @@
 namespace kestrel {
 
 /// The number at the front of `text`: blanks are skipped, then an optional sign, digits with at most one
-/// point, and an exponent when digits stand behind its "E" or "e". It ends at the first other character, a
+/// point, and an exponent when digits follow its "E" or "e". It ends at the first other character, a
 /// blank included; "inf", "nan" and hexadecimal are no numbers.
 ///
 ///     "12.5kW" -> 12.5    " -.5" -> -0.5    "1e3" -> 1000    "1e" -> 1    "1 2" -> 1    "x" -> 0
@@ -19,7 +19,7 @@ namespace kestrel {
 /// sign. No number: 0.
 double LeadingNumber(std::string_view text);
 
-/// A number as people type it: a comma is a decimal point, and a letter behind it scales it
+/// A number as people type it: a comma is a decimal point, and a letter after it scales it
 /// (p 1e-12, n 1e-9, u 1e-6, m 0.001, k 1000, M 1e6, G 1e9; only for M the case matters).
 /// Other characters are passed over, so units and inner signs do no harm; at most 16 digits and signs count.
 ///
@@ -42,7 +42,7 @@ std::string NumberText(float value);
 /// The plain form with a blank in place of a positive number's sign: " 1230", "-.5".
 std::string SignedNumberText(float value);
 
-/// The display form: the signed form and one blank behind it: " .75 ".
+/// The display form: the signed form and one blank after it: " .75 ".
 std::string DisplayNumberText(float value);
 
 /// So many decimals, rounded, a digit before the point: "-0.5000". Zero has no sign.

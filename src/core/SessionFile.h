@@ -15,7 +15,7 @@ namespace kestrel {
 ///
 /// - No file, or a whole number that overflows its type: channel, home, pattern size and scale take their
 ///   defaults, colours of 0 too; everything else stays as it was.
-/// - A file that ends early keeps the values read so far, without their limits; one that ends behind the
+/// - A file that ends early keeps the values read so far, without their limits; one that ends after the
 ///   language still gets them.
 /// - Limits: pattern size 0.02 to 1, scale 100 to 10000, aspect ratio 0.6 to 1.5 (0: 0.75); a colour of 0
 ///   takes its default.

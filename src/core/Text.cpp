@@ -28,7 +28,7 @@ std::size_t SequenceLength(std::string_view bytes) {
   return length;
 }
 
-/// Offset of the character that stands `count` characters behind `from`, or the end.
+/// Offset of the character that stands `count` characters after `from`, or the end.
 std::size_t Advance(std::string_view text, std::size_t from, std::size_t count) {
   while (count > 0 && from < text.size()) {
     do ++from;

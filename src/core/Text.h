@@ -34,7 +34,7 @@ std::string FromLatin1(std::string_view bytes);
 
 std::size_t CharacterCount(std::string_view text);
 
-/// The characters of columns `first` to `first + width - 1`, columns counted from 1. Columns behind the end
+/// The characters of columns `first` to `first + width - 1`, columns counted from 1. Columns after the end
 /// of the text give nothing, so the result may be shorter than `width` or empty.
 std::string_view Columns(std::string_view text, std::size_t first, std::size_t width);
 

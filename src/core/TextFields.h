@@ -10,7 +10,7 @@
 // Cutting a data line into its fields, front to back.
 //
 // Separators at the front are skipped, the field runs to the next separator or the end, and all separators
-// behind it go with it. So a run of separators counts as one, an empty field cannot be expressed, and blanks
+// after it go with it. So a run of separators counts as one, an empty field cannot be expressed, and blanks
 // inside a comma-separated field stay.
 
 namespace kestrel {

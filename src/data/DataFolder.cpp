@@ -45,7 +45,7 @@ std::optional<QString> DataFolder::Find(const QString& name) const {
 }
 
 Result<QByteArray> DataFolder::Read(const QString& name, qint64 largest) const {
-  // Nearly always it is there under the very name.
+  // Nearly always the file has exactly this name.
   Result<QByteArray> bytes = ReadFile(QDir(path_).filePath(name), largest);
   if (bytes || bytes.error().kind != Error::Kind::NotFound) return bytes;
   const std::optional<QString> path = Find(name);
@@ -97,8 +97,8 @@ Result<Done> FillDataFolder(const QString& folder, const QString& from) {
                  "the folder for the station data cannot be made"};
   const QDir source(from);
   QStringList names = source.entryList(QDir::Files, QDir::Name);
-  // Its presence says that the folder is filled, so it comes last: a filling that broke off is taken up
-  // again.
+  // Its presence says that the folder is filled, so it comes last: an interrupted filling is completed at the
+  // next start.
   if (names.removeOne(kOutlineFile)) names.append(kOutlineFile);
   for (const QString& name : names) {
     if (!IsData(name) || DataFolder(folder).Has(name)) continue;

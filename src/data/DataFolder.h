@@ -32,7 +32,7 @@ class DataFolder {
   /// Errors as ReadFile's for one that is there.
   Result<std::string> ReadStationsLine() const;
 
-  /// The same for who can do without: empty for a file that cannot be read, too.
+  /// The same where a fault does not matter: empty for a file that cannot be read, too.
   std::string StationsLine() const;
 
  private:

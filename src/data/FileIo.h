@@ -27,7 +27,7 @@ class PlainFile {
 
   int Descriptor() const { return descriptor_; }
   qint64 Size() const { return size_; }  ///< bytes, when it was opened
-  /// The descriptor, for who closes it himself.
+  /// The descriptor, for a caller who closes it.
   int Release() { return std::exchange(descriptor_, -1); }
 
  private:

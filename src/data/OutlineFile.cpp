@@ -76,8 +76,8 @@ std::size_t FindPenUp(std::string_view bytes, std::size_t from) {
   constexpr std::string_view kLine = "\n-100 -100";
   for (std::size_t at = bytes.find(kLine, from); at != std::string_view::npos;
        at = bytes.find(kLine, at + 1)) {
-    const std::size_t behind = at + kLine.size();
-    if (behind < bytes.size() && (bytes[behind] == '\n' || bytes[behind] == '\r')) return at + 1;
+    const std::size_t after = at + kLine.size();
+    if (after < bytes.size() && (bytes[after] == '\n' || bytes[after] == '\r')) return at + 1;
   }
   return bytes.size();
 }

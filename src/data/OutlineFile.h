@@ -28,7 +28,7 @@ enum class CommentLines { Skip, Read };
 
 /// Reads the vertices of an outline file piece by piece, so that a long file is never in memory as numbers
 /// as a whole, up to the end mark -2000 or the end of the file. Empty lines are skipped; a vertex of -100
-/// -100 is a pen-up mark. Reading ends behind MaxVertices vertices or pen-up marks. A malformed number reads
+/// -100 is a pen-up mark. Reading ends after MaxVertices vertices or pen-up marks. A malformed number reads
 /// as its leading part or 0; all are finite, of whatever size.
 class OutlineReader {
  public:
@@ -55,7 +55,7 @@ class OutlineReader {
   bool ended_ = false;
 };
 
-/// Where the first line "-100 -100" behind `from` begins; the bytes' size when there is none. What stands
+/// Where the first line "-100 -100" after `from` begins; the bytes' size when there is none. What stands
 /// from there on can be read, and drawn, as an outline of its own.
 std::size_t FindPenUp(std::string_view bytes, std::size_t from);
 

@@ -29,7 +29,7 @@ std::string StationRecordText(int channel, const StationRecord& record, FieldCha
 /// fit into 8 characters; never 0, but 0.0001 or -0.0001.
 std::string DegreesText(float degrees);
 
-/// `value` in ordinary digits with at most `decimals` of them behind the point, fewer when the text would be
+/// `value` in ordinary digits with at most `decimals` of them after the point, fewer when the text would be
 /// longer than `width`; without trailing zeros, with a zero before the point: "0.25", "-33.4", "5", never
 /// "-0".
 std::string DecimalText(double value, int decimals, std::size_t width = 32);

@@ -50,7 +50,7 @@ struct SearchResult {
 SearchResult SearchStations(const DataFolder& folder, float frequency, std::string_view entry);
 
 /// A station line's fields as one line of fixed columns: 8, 29, 34, 52, 56, 68, 80 and 87 characters up to
-/// the end of each but the last. A longer field pushes all behind it to the right.
+/// the end of each but the last. A longer field pushes all after it to the right.
 std::string ListLine(const StationLine& line);
 
 /// The heads of a list's columns, each word over its column.

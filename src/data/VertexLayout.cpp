@@ -24,7 +24,7 @@ std::optional<VertexLayout::Fraction> VertexLayout::Fraction::Of(const char* lin
   const std::size_t length = at - fraction.begin;
   if (length < 2 || length > kMost) return std::nullopt;
   fraction.whole = point - fraction.begin;
-  fraction.behind = static_cast<int>(8 * (kMost - length));
+  fraction.after = static_cast<int>(8 * (kMost - length));
   const std::size_t decimals = at - point - 1;
   fraction.back = ~std::uint64_t{0} << 8 << 8 * (kMost - 1 - decimals);
   const auto power = static_cast<float>(PowersOfTen[decimals]);
@@ -35,7 +35,7 @@ std::optional<VertexLayout::Fraction> VertexLayout::Fraction::Of(const char* lin
 /// Rounded once: seven digits and the power of ten are both exact in a single.
 inline float VertexLayout::Fraction::Read(const char* line) const {
   const std::uint64_t values = EightCharacters(line + begin) ^ (0x0101010101010101 * '0');
-  const std::uint64_t moved = values << behind;
+  const std::uint64_t moved = values << after;
   // The digits in front of the point take its place.
   const std::uint64_t digits = EightDigits((moved & back) | (moved << 8 & ~back));
   return static_cast<float>(static_cast<std::int32_t>(digits)) / divisor;

@@ -10,8 +10,8 @@
 namespace kestrel {
 
 /// Where the signs, digits and points of a vertex line stand: two fractions, "-26.4645 254.5387", each of two
-/// to eight characters behind its sign with a point among them, the first of at most two digits before it;
-/// one blank between them and a line end behind them.
+/// to eight characters after its sign with a point among them, the first of at most two digits before it;
+/// one blank between them and a line end after them.
 ///
 /// A coast runs on in short steps, so that nearly every line is laid out as the one before. A comparison of
 /// its characters with those that may stand there finds that out; then nothing in it need be looked for, and
@@ -40,8 +40,8 @@ class VertexLayout {
   struct Fraction {
     std::size_t begin = 0;   // of its digits
     std::size_t whole = 0;   // digits before the point
-    int behind = 0;          // bits of the eight characters from `begin` on that stand behind it
-    std::uint64_t back = 0;  // its digits behind the point, when those bits have been shifted out
+    int after = 0;           // bits of the eight characters from `begin` on that stand after it
+    std::uint64_t back = 0;  // its digits after the point, when those bits have been shifted out
     float divisor = 1;       // a power of ten with the number's sign
 
     /// Passes over the fraction at `at`, of which no more than eleven characters are looked at.
@@ -53,7 +53,7 @@ class VertexLayout {
 
   Fraction latitude_, longitude_;
   std::size_t lineLength_ = 0;
-  Window least_ = {};  // of the characters that may stand in each place; any may behind the line
+  Window least_ = {};  // of the characters that may stand in each place; any may after the line
   Window range_ = {};  // how far above
 };
 

@@ -26,7 +26,7 @@ FaceFamilies FamiliesOf(FontFace face) {
 /// A device that has as many dots to the inch as a point has parts: its pixels are the font's units.
 constexpr double kPointsPerInch = 72;
 
-/// Metrics in twips of the sheet. Making them is dear, so each face and size is made once.
+/// Metrics in twips of the sheet. Making them takes long, so each face and size is made once.
 const QFontMetricsF& SheetMetrics(const Font& font) {
   thread_local std::map<std::pair<FontFace, float>, QFontMetricsF> metrics;
   const auto key = std::pair(font.Face, font.Points);

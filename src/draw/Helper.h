@@ -9,8 +9,8 @@
 
 namespace kestrel {
 
-/// A thread that helps whenever it is asked to. It lasts, and with it the fonts that the platform makes for
-/// each thread anew.
+/// A thread that helps whenever it is asked to. It lives on in between, since Qt makes fonts for each thread
+/// again.
 class Helper {
  public:
   /// Throws std::system_error when the system has no thread to give.

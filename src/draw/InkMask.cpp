@@ -91,7 +91,7 @@ void InkMask::InkPiece(const WideLine& line, const Axes& axes, int first, int la
     std::uint8_t* pixel = column + place.Row * axes.acrossStep;
     int room = 256 - place.InRow;
     int left = line.Across();
-    // Pixels that the line does not reach are given nothing, which is quicker than to ask.
+    // Pixels that the line does not reach are given nothing, which is quicker than a test.
     for (int k = 0; k < rowsAcross; ++k, pixel += axes.acrossStep, room = 256) {
       const int covered = std::min(room, left);
       left -= covered;

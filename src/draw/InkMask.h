@@ -32,7 +32,7 @@ namespace kestrel {
 /// or two million pixels away (WideLine::Farthest), is left out.
 class InkMask {
  public:
-  /// Lines farther than so many pixels from the picture leave no ink on it.
+  /// Lines farther than this many pixels from the picture leave no ink on it.
   static constexpr int LongestReach = 48;
 
   /// Makes the mask, empty, one for the rows from `top` on of a picture, as many as the size has.

@@ -48,8 +48,8 @@ void Renderer::DrawStrips(QImage& image, int top, std::size_t figures, const Sur
   uchar* const pixels = image.bits();
   const auto drawStrip = [&](int strip, DrawingTools& tools) {
     const int first = image.height() * strip / strips;
-    const int behind = image.height() * (strip + 1) / strips;
-    QImage rows(pixels + first * image.bytesPerLine(), image.width(), behind - first, image.bytesPerLine(),
+    const int end = image.height() * (strip + 1) / strips;
+    QImage rows(pixels + first * image.bytesPerLine(), image.width(), end - first, image.bytesPerLine(),
                 image.format());
     RasterCanvas canvas(rows, rules, tools, top + first);
     drawRows(rows, canvas, BoxOf(rows, top + first, rules.Fit));

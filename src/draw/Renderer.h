@@ -14,8 +14,8 @@ namespace kestrel {
 class Helper;
 
 /// Draws display lists onto images in memory. A large image is drawn in strips by several processors,
-/// which come out the same as the whole does. Whoever draws again and again keeps his renderer, and with
-/// it the tools.
+/// which come out the same as the whole does. A caller who draws again and again keeps the
+/// renderer, and with it the tools.
 class Renderer {
  public:
   /// Draws with so many processors; 0: with those of the machine, at most four.
@@ -33,7 +33,7 @@ class Renderer {
   template <typename DrawRows>
   void DrawStrips(QImage& image, int top, std::size_t figures, const SurfaceRules& rules, DrawRows drawRows);
 
-  /// Has so many threads that help, as far as the system gives them.
+  /// Sees to `count` threads that help, or as many as the system gives.
   void EngageHelpers(int count);
 
   const int processors_;

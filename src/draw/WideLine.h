@@ -17,7 +17,7 @@ namespace kestrel {
 ///     y + (p - x) m - w / 2
 ///
 /// at place p along the columns: in whole numbers, edge_ + 2 p slope_. Lines are short and run in any
-/// direction, so that hardly any choice about them can be foreseen: this holds for the first and the last
+/// direction, so the processor mispredicts nearly every branch on them: this holds for the first and the last
 /// column, too, p being the middle of what the line reaches of a column.
 class WideLine {
  public:

@@ -12,8 +12,8 @@
 
 namespace kestrel {
 
-/// The whole-band scan: all channels from the lowest to the highest, one after the other, for whoever wants
-/// to show each as it comes. While one is drawn and shown, the files of those that follow are read by other
+/// The whole-band scan: all channels from the lowest to the highest, one after the other, so that each
+/// can be shown as it comes. While one is drawn and shown, the files of those that follow are read by other
 /// threads; the scan itself belongs to one.
 class BandScan {
  public:
@@ -33,7 +33,7 @@ class BandScan {
  private:
   using Marks = Result<std::vector<StationMark>>;
 
-  /// Reads the first channel that nobody has begun with. Returns whether there was one.
+  /// Reads the first channel that no thread has begun. Returns whether there was one.
   bool ReadOne();
 
   std::vector<std::packaged_task<Marks()>> readings_;  // by channel

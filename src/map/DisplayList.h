@@ -80,7 +80,7 @@ class DisplayList final : public Canvas {
   }
 
   /// Likewise, but lines, open or closed, that do not touch `shown` are passed over, unless they belong to a
-  /// panel. Lines have no width here: who draws wide ones shows more by their reach.
+  /// panel. Lines have no width here: for wide ones `shown` is larger by their reach.
   /// The labels come where `places` says, those beyond its end where the canvas has them. Layers that the
   /// look does not show are left out.
   void PlayFrom(std::size_t length, Canvas& canvas, const SheetBox& shown, const LabelPlaces& places = {},

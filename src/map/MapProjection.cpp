@@ -16,7 +16,7 @@ constexpr double kKilometresPerScale = 75;
 }  // namespace
 
 MapProjection::MapProjection(const Position& home, float scaleFactor) {
-  const auto [sine, cosine] = VertexAngle(home.Latitude);
+  const auto [sine, cosine] = SineAndCosine(home.Latitude);
   center_ = {sine, cosine, -double{home.Longitude},
              KilometresPerDegree / kRadian * scaleFactor / kKilometresPerScale};
   onEarth_ = std::abs(home.Latitude) <= 90 && std::abs(home.Longitude) <= 360;

@@ -30,7 +30,7 @@ KESTREL_CLONES void PlaceVertices(const ProjectionCenter& home, const float* lat
   }
 }
 
-SineCosine VertexAngle(double degrees) {
+SineCosine SineAndCosine(double degrees) {
   return OfDegrees(degrees);
 }
 

@@ -35,7 +35,7 @@ void PlaceVertices(const ProjectionCenter& home, const float* latitudes, const f
                    float* places, std::size_t count);
 
 /// Sine and cosine of an angle in degrees as PlaceVertices takes them.
-SineCosine VertexAngle(double degrees);
+SineCosine SineAndCosine(double degrees);
 
 /// A longitude in -180 to 180: above 180, 360 is taken off, at most twice; then below -180, 360 is added.
 /// Exactly 180 stays.
@@ -48,6 +48,6 @@ static inline float LongitudeInRange(float longitudeEast) {
 }  // namespace KESTREL_KERNELS
 using KESTREL_KERNELS::LongitudeInRange;
 using KESTREL_KERNELS::PlaceVertices;
-using KESTREL_KERNELS::VertexAngle;
+using KESTREL_KERNELS::SineAndCosine;
 
 }  // namespace kestrel

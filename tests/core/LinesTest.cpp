@@ -51,15 +51,15 @@ TEST(LineReaderTest, NextBytesLeavesTheLineAsItIs) {
 }
 
 TEST(LineReaderTest, CutsALongLineBetweenItsCharacters) {
-  const std::string most(LongestLine, 'x');
+  const std::string most(LongestDataLine, 'x');
   EXPECT_EQ(AllLines(most + "\n" + most + "yyy\r\nz"), (std::vector<std::string>{most, most, "z"}));
   // A character of two, three or four bytes across the limit goes as a whole; the line stays UTF-8.
   for (const std::string wide : {"é", "€", "😀"})
     for (std::size_t inside = 1; inside < wide.size(); ++inside) {
-      const std::string before = "ñ" + std::string(LongestLine - 2 - inside, 'x');
+      const std::string before = "ñ" + std::string(LongestDataLine - 2 - inside, 'x');
       EXPECT_EQ(AllLines(before + wide + "y\nz"), (std::vector<std::string>{before, "z"})) << wide << inside;
     }
-  EXPECT_EQ(AllLines(std::string(LongestLine + 9, '\x80')).front().size(), 2 * (LongestLine - 3))
+  EXPECT_EQ(AllLines(std::string(LongestDataLine + 9, '\x80')).front().size(), 2 * (LongestDataLine - 3))
       << "Latin-1, which has no place to cut at";
 }
 

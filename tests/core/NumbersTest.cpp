@@ -66,8 +66,8 @@ TEST(LeadingNumberTest, IsCorrectlyRounded) {
     ASSERT_EQ(LeadingNumber(text), std::min(expected, kLargest)) << text;
     ASSERT_EQ(LeadingNumber(" -" + text + " kHz"), -std::min(expected, kLargest)) << text;
     // Signs whose bits lie next to the digits'.
-    const char behind = "/:,\0\x80\xB5 -+"[below(9)];
-    ASSERT_EQ(LeadingNumber(text + behind + "1.5,2"), std::min(expected, kLargest)) << text << behind;
+    const char after = "/:,\0\x80\xB5 -+"[below(9)];
+    ASSERT_EQ(LeadingNumber(text + after + "1.5,2"), std::min(expected, kLargest)) << text << after;
   }
 }
 

@@ -52,7 +52,7 @@ SessionState Read(const std::string& bytes, SessionState state = {}) {
   return state;
 }
 
-/// The good file with line `number` (from 1) replaced, and optionally nothing behind it.
+/// The good file with line `number` (from 1) replaced, and optionally nothing after it.
 enum class Rest { Kept, Cut };
 std::string WithLine(int number, const std::string& line, Rest rest = Rest::Kept) {
   std::string bytes;
@@ -105,7 +105,7 @@ TEST(SessionFileTest, RowsOfTheReadersRules) {
   }
 }
 
-/// A file may end behind any value; only one that reaches the language gets limits.
+/// A file may end after any value; only one that reaches the language gets limits.
 TEST(SessionFileTest, EarlyEnds) {
   SessionState before;
   before.PatternSize = 5;
@@ -118,7 +118,7 @@ TEST(SessionFileTest, EarlyEnds) {
   EXPECT_EQ(Carried(Read("* nothing but comments\r\n\r\n", before)), Carried(before));
   EXPECT_EQ(Carried(Read(WithLine(6, "Home latitude: 10", Rest::Cut), before)),
             "1230 10 96.54139 5 20 9 0 0 0 255 16776960 208931 [Albany   NY] [es]");
-  // Behind the distance unit, with and without a comment after it.
+  // After the distance unit, with and without a comment.
   for (const char* unit : {"Distance: 1", "Distance: 1\r\n", "Distance: 1\r\n\r\n* end\r\n"})
     EXPECT_EQ(Carried(Read(WithLine(10, unit, Rest::Cut), before)),
               "1230 42.65 73.75 0.25 400 9 1 0 0 255 16776960 208931 [Albany   NY] [es]");
@@ -126,10 +126,10 @@ TEST(SessionFileTest, EarlyEnds) {
   // Among the colours.
   EXPECT_EQ(Carried(Read(WithLine(12, "N: 7", Rest::Cut), before)),
             "1230 42.65 73.75 0.25 400 9 1 1 7 255 16776960 208931 [Albany   NY] [es]");
-  // Behind the language: limits apply, to an aspect ratio from elsewhere too.
+  // After the language: limits apply, to an aspect ratio from elsewhere too.
   EXPECT_EQ(Carried(Read(WithLine(16, "G: de", Rest::Cut), before)),
             "1230 42.65 73.75 0.25 400 1.5 1 1 2 3 4 5 [Albany   NY] [de]");
-  // A comment behind the language is no end, but the aspect ratio is missing all the same: no limits.
+  // A comment after the language is no end, but the aspect ratio is missing all the same: no limits.
   EXPECT_EQ(Carried(Read(WithLine(16, "G: de\r\n*\r\n", Rest::Cut), before)),
             "1230 42.65 73.75 0.25 400 9 1 1 2 3 4 5 [Albany   NY] [de]");
 }

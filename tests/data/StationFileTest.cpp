@@ -36,7 +36,7 @@ Yield ReadAll(std::string_view bytes) {
          {&record->Fields, &record->Heights, &record->Phases, &record->Spacings, &record->Bearings})
       for (const float number : *numbers) EXPECT_TRUE(std::isfinite(number));
   }
-  EXPECT_EQ(reader.Next(), nullptr) << "nothing behind the end";
+  EXPECT_EQ(reader.Next(), nullptr) << "nothing after the end";
   yield.notes = reader.Notes();
   return yield;
 }

@@ -46,7 +46,7 @@ TEST(ProjectionTest, SineAndCosineAreAsExactAsStated) {
   constexpr double kStated = 3.5e-12;
   for (int i = -72'000; i <= 72'000; ++i) {
     const double degrees = i / 100.0;
-    const auto [sine, cosine] = VertexAngle(degrees);
+    const auto [sine, cosine] = SineAndCosine(degrees);
     ASSERT_NEAR(sine, std::sin(degrees * 3.14159265358979324 / 180), kStated) << degrees;
     ASSERT_NEAR(cosine, std::cos(degrees * 3.14159265358979324 / 180), kStated) << degrees;
     if (i % 9000 != 0) continue;
