@@ -67,8 +67,8 @@ double StoreStationLine(const StationLine& line, StationRecord& record);
 /// A line that stands where a station line should and is none, and a record with a tower count outside 0 to
 /// MaxTowers, are left out up to the next station line, and noted: "1030x.dat:17: 14 towers, at most 12".
 /// A malformed number reads as its leading part or 0; all are finite, of whatever size. A record whose tower
-/// lines are cut short by the end of the file is not returned. Reading ends after MaxRecords records, those left
-/// out among them, which is noted.
+/// lines are cut short by the end of the file is not returned. Reading ends after MaxRecords records, those
+/// left out among them, which is noted.
 class StationFileReader {
  public:
   /// The bytes must outlive the reader; `name` is used in notes.
