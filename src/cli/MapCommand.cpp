@@ -5,6 +5,8 @@
 #include "cli/Console.h"
 #include "cli/Options.h"
 #include "cli/RankingOptions.h"
+#include "core/Band.h"
+#include "data/DataFolder.h"
 #include "draw/Fonts.h"
 #include "draw/Picture.h"
 #include "map/MainMap.h"
@@ -31,15 +33,19 @@ void DrawMap(const Request& request, const View& view) {
   if (request.Time && view.HoursFilter && !view.Shade)
     throw WrongUse("--time chooses the hours at each station; --hours has no part in it without --shade");
 
+  const DataFolder folder = DataFor(request);
+  const QString stations = StationFileName(state.CurrentFrequency);
+  if (IsInBand(state.CurrentFrequency) && !folder.Has(stations))
+    Say(stations.toStdString() + ": there is no such file");
   const PlatformTextMeasure measure;
   DisplayList drawing(measure);
   if (view.Shade) DrawNightShade(drawing, state.Home(), state.ScaleFactor, MomentFor(request, state.Home()));
   if (request.Time && !view.Shade) {
     MomentMap map(measure);
-    Say(map.Read(DataFor(request), state));
+    Say(map.Read(folder, state));
     map.Draw(drawing, MomentFor(request, state.Home()), HoursRule::Auto);
   } else {
-    Say(DrawMainMap(drawing, DataFor(request), state));
+    Say(DrawMainMap(drawing, folder, state));
   }
   const Result<Done> written =
       WritePicture(drawing, request.Size, QString::fromStdString(request.Output), request.Look);

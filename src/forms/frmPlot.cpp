@@ -68,11 +68,18 @@ frmPlot::frmPlot(const Workspace& workspace)
   auto* column = new CommandColumn(this);
   AddCommands(*column);
   column->Finish();
+  leftOut_ = new QLabel(this);
+  leftOut_->setObjectName("LeftOut");
+  leftOut_->setTextFormat(Qt::PlainText);
+  leftOut_->setMargin(3);
+  leftOut_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);  // a long line does not widen the window
+
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
   auto* mapAndTime = new QVBoxLayout;
   mapAndTime->addWidget(surface_, 1);
+  mapAndTime->addWidget(leftOut_);
   mapAndTime->addWidget(timeBar_);
   layout->addLayout(mapAndTime, 1);
   layout->addWidget(column);
@@ -99,10 +106,10 @@ void frmPlot::Redraw(MapGround ground) {
     scanned_ = false;
   }
   if (hour_.IsOn()) {
-    hour_.Redraw(ground);
+    SayLeftOut(hour_.Redraw(ground));
     return UpdateCommands();
   }
-  DrawMainMap(surface_->Drawing(), workspace_.Folder, workspace_.State, ground);
+  SayLeftOut(DrawMainMap(surface_->Drawing(), workspace_.Folder, workspace_.State, ground));
   ground == MapGround::Empty ? surface_->ShowDrawing() : surface_->ShowAdditions();
   UpdateCommands();
 }
@@ -112,6 +119,13 @@ QString frmPlot::Words() const {
   const std::optional<Moment> moment = hour_.IsOn() ? std::optional(timeBar_->At()) : std::nullopt;
   return Text(MapWords(workspace_.State, surface_->Drawing().Stations(),
                        twipsAcross * 75 / workspace_.State.ScaleFactor, moment));
+}
+
+void frmPlot::SayLeftOut(const std::vector<std::string>& notes) {
+  leftOut_->setText(Text(NotesLine(notes)));
+  const QString lines = leftOut_->text().replace("; ", "\n").toHtmlEscaped();
+  leftOut_->setToolTip("<p style='white-space:pre'>" + lines + "</p>");
+  leftOut_->setVisible(!notes.empty());
 }
 
 void frmPlot::UpdateCommands() {
@@ -250,20 +264,22 @@ void frmPlot::ScanOnce() {
   surface_->Drawing().Clear();
   scanned_ = true;
   const MapProjection projection(state.Home(), state.ScaleFactor);
-  DrawOutlineFiles(surface_->Drawing(), workspace_.Folder, projection);
+  std::vector<std::string> notes = DrawOutlineFiles(surface_->Drawing(), workspace_.Folder, projection);
   surface_->ShowDrawing();
   for (BandScan scan(workspace_.Folder, projection); !scan.AtEnd() && !state.StopRequested;) {
     const int channel = static_cast<int>(scan.Channel());
     progress_->setValue(channel);
     progress_->setFormat(QString::number(channel) + " kHz");
+    const Result<Done> drawn = scan.DrawNext(surface_->Drawing());
     // A channel without a file has no stations.
-    static_cast<void>(scan.DrawNext(surface_->Drawing()));
+    if (!drawn && drawn.error().kind != Error::Kind::NotFound) notes.push_back(drawn.error().Message());
     surface_->ShowAdditions();
     workspace_.System.ProcessEvents();
   }
   state.StopRequested = true;
   // The labels that came channel by channel are placed once more, each with regard to all.
   surface_->ShowDrawing();
+  SayLeftOut(notes);
 }
 
 void frmPlot::ShowScanControls(bool running) {

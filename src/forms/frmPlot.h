@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "forms/MapHour.h"
 #include "forms/MapView.h"
@@ -60,6 +61,9 @@ class frmPlot final : public QWidget {
   void ScanOnce();
   void ShowScanControls(bool running);
 
+  /// Shows in a line under the map what its readers left out; none when they left out nothing.
+  void SayLeftOut(const std::vector<std::string>& notes);
+
   QString TipAt(Point place) const;
   void ClickAt(Point place);
   const StationMark* MarkAt(Point place) const;
@@ -77,6 +81,7 @@ class frmPlot final : public QWidget {
   ViewMenu* menu_;
   QProgressBar* progress_;
   QLabel* savedNotice_;
+  QLabel* leftOut_;
   QPointer<frmAspect> aspect_;  // while it is open
   bool scanning_ = false;
   bool scanned_ = false;     // the map began with the stations of a scan

@@ -144,7 +144,8 @@ ChannelOutcome ForEachRecord(const DataFolder& folder, float frequency,
   if (!IsInBand(frequency)) return {};
   const QString name = StationFileName(frequency);
   const Result<QByteArray> bytes = folder.Read(name);
-  if (!bytes) return {true, {bytes.error().Message()}};
+  if (!bytes && bytes.error().kind == Error::Kind::NotFound) return {true, {}};
+  if (!bytes) return {false, {bytes.error().Message()}};
   StationFileReader reader(name.toStdString(), {bytes->constData(), static_cast<std::size_t>(bytes->size())});
   while (StationRecord* record = reader.Next()) use(*record);
   return {false, reader.Notes()};

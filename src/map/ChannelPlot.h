@@ -62,8 +62,8 @@ bool HasPattern(StationRecord& record, PatternValues& pattern);
 
 /// What plotting a channel met.
 struct ChannelOutcome {
-  bool FileMissing = false;
-  std::vector<std::string> Notes;  ///< what the reader left out
+  bool FileMissing = false;        ///< there is no station file
+  std::vector<std::string> Notes;  ///< what the reader left out, or why a file that is there cannot be read
 };
 
 /// Reads a channel's station file and hands out its records, which `use` may change; the outcome's notes are

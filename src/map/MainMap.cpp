@@ -1,7 +1,9 @@
 #include "map/MainMap.h"
 
+#include <algorithm>
+#include <string_view>
+
 #include "core/Band.h"
-#include "data/StationFile.h"
 #include "map/ChannelPlot.h"
 #include "map/Compass.h"
 #include "map/Legend.h"
@@ -18,18 +20,38 @@ std::vector<float> ShownChannels(const SessionState& state) {
   return channels;
 }
 
-ChannelOutcome ForShownChannels(const DataFolder& folder, const SessionState& state,
+ChannelOutcome ForShownChannels(const SessionState& state,
                                 const std::function<ChannelOutcome(float channel)>& use) {
   ChannelOutcome outcome;
   for (const float channel : ShownChannels(state)) {
     const ChannelOutcome used = use(channel);
-    const bool current = channel == state.CurrentFrequency;
-    if (current) outcome.FileMissing = used.FileMissing;
-    // A neighbour without a file is nothing to speak of, one whose file cannot be read is.
-    if (current || !used.FileMissing || folder.Has(StationFileName(channel)))
-      outcome.Notes.insert(outcome.Notes.end(), used.Notes.begin(), used.Notes.end());
+    if (channel == state.CurrentFrequency) outcome.FileMissing = used.FileMissing;
+    outcome.Notes.insert(outcome.Notes.end(), used.Notes.begin(), used.Notes.end());
   }
   return outcome;
+}
+
+std::string NotesLine(const std::vector<std::string>& notes) {
+  struct File {
+    std::string_view Name, First;
+    int More = 0;
+  };
+  std::vector<File> files;
+  for (const std::string_view note : notes) {
+    const std::string_view name = note.substr(0, note.find(':'));
+    const auto known =
+        std::find_if(files.begin(), files.end(), [&](const File& f) { return f.Name == name; });
+    if (known == files.end())
+      files.push_back({name, note});
+    else
+      ++known->More;
+  }
+  std::string line;
+  for (const File& file : files) {
+    line.append(line.empty() ? "Left out: " : "; ").append(file.First);
+    if (file.More > 0) line += " (and " + std::to_string(file.More) + " more)";
+  }
+  return line;
 }
 
 std::vector<std::string> DrawMainMap(Canvas& canvas, const DataFolder& folder, const SessionState& state,
@@ -39,7 +61,7 @@ std::vector<std::string> DrawMainMap(Canvas& canvas, const DataFolder& folder, c
   std::vector<std::string> notes;
   if (ground == MapGround::Empty) notes = DrawOutlineFiles(canvas, folder, projection);
   const ChannelOutcome outcome = ForShownChannels(
-      folder, state, [&](float channel) { return PlotChannel(canvas, folder, state, projection, channel); });
+      state, [&](float channel) { return PlotChannel(canvas, folder, state, projection, channel); });
   notes.insert(notes.end(), outcome.Notes.begin(), outcome.Notes.end());
   if (!channels.empty()) {
     DrawLegend(canvas, state);

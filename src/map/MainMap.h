@@ -25,11 +25,15 @@ enum class MapGround {
 std::vector<std::string> DrawMainMap(Canvas& canvas, const DataFolder& folder, const SessionState& state,
                                      MapGround ground = MapGround::Empty);
 
+/// Such notes in one line for a window, one for each file: "Left out: 1030x.dat:17: 14 towers, at most 12
+/// (and 2 more); REGION2.dat: is larger than 100 MB". Empty without notes.
+std::string NotesLine(const std::vector<std::string>& notes);
+
 /// The channels that the session shows, the current one first; none outside the band.
 std::vector<float> ShownChannels(const SessionState& state);
 
 /// Calls `use` for each of them. Returns whether the current channel's file is missing, and the notes of all.
-ChannelOutcome ForShownChannels(const DataFolder& folder, const SessionState& state,
+ChannelOutcome ForShownChannels(const SessionState& state,
                                 const std::function<ChannelOutcome(float channel)>& use);
 
 }  // namespace kestrel

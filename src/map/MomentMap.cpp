@@ -17,7 +17,7 @@ std::vector<std::string> MomentMap::Read(const DataFolder& folder, const Session
   }
   Layer& layer = layers_.emplace_back();
   layer.State = state;
-  const ChannelOutcome outcome = ForShownChannels(folder, state, [&](float frequency) {
+  const ChannelOutcome outcome = ForShownChannels(state, [&](float frequency) {
     Channel& channel = layer.Channels.emplace_back();
     channel.Frequency = frequency;
     return ForEachRecord(folder, frequency, [&channel](StationRecord& record) {

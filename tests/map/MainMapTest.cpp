@@ -97,7 +97,7 @@ TEST_F(MainMapTest, AMissingFileLeavesItsNotice) {
   EXPECT_EQ(texts.front(), "1240 WXYZ");
   EXPECT_EQ(texts.back(), "    No station file for 1230 kHz");
   EXPECT_EQ(std::count(texts.begin(), texts.end(), "Unlimited"), 1);
-  EXPECT_EQ(notes_, (Texts{"1230x.dat: there is no such file", "1240x.dat:1: 13 towers, at most 12"}));
+  EXPECT_EQ(notes_, (Texts{"1240x.dat:1: 13 towers, at most 12"}));
 
   files_.Put("1230x.dat", kStation);  // now the missing one is an adjacent
   const Texts whole = Draw();
@@ -106,6 +106,20 @@ TEST_F(MainMapTest, AMissingFileLeavesItsNotice) {
                     [](const std::string& text) { return text.find("No station") != std::string::npos; }),
       0);
   EXPECT_EQ(notes_, (Texts{"1240x.dat:1: 13 towers, at most 12"}));
+}
+
+TEST_F(MainMapTest, AFileThatIsThereAndCannotBeReadIsNotMissing) {
+  QDir(files_.Folder().Path()).mkdir("1230x.dat");
+  Draw();
+  EXPECT_EQ(canvas_.Readable().find("No station file"), std::string::npos);
+  ASSERT_EQ(notes_.size(), 1U);
+  EXPECT_EQ(notes_[0].substr(0, 11), "1230x.dat: ");
+}
+
+TEST(NotesLineTest, SaysTheFirstFaultOfEachFile) {
+  EXPECT_EQ(NotesLine({}), "");
+  EXPECT_EQ(NotesLine({"a: lost"}), "Left out: a: lost");
+  EXPECT_EQ(NotesLine({"a:1: x", "b: y", "a:2: z", "a:9: x"}), "Left out: a:1: x (and 2 more); b: y");
 }
 
 TEST_F(MainMapTest, TheScanMarksStationsWithoutPatterns) {
