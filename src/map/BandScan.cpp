@@ -80,10 +80,11 @@ void DrawChannel(Canvas& canvas, float channel, const std::vector<StationMark>& 
 
 }  // namespace
 
-BandScan::BandScan(const DataFolder& folder, const MapProjection& projection) {
+BandScan::BandScan(const DataFolder& folder, const MapProjection& projection, int processors) {
   for (std::size_t i = 0; ChannelOf(i) <= HighestChannel; ++i)
     readings_.emplace_back([folder, projection, i] { return ReadMarks(folder, projection, ChannelOf(i)); });
-  for (int i = 1; i < ProcessorsToUse(); ++i)
+  if (processors == 0) processors = ProcessorsToUse();
+  for (int i = 1; i < processors; ++i)
     readers_.push_back(std::async([this] {
       while (ReadOne())
         ;

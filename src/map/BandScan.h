@@ -17,7 +17,8 @@ namespace kestrel {
 /// threads; the scan itself belongs to one.
 class BandScan {
  public:
-  BandScan(const DataFolder& folder, const MapProjection& projection);
+  /// Reads ahead with so many processors, the caller's among them; 0: with those of the machine.
+  BandScan(const DataFolder& folder, const MapProjection& projection, int processors = 0);
   /// Waits for the files being read.
   ~BandScan();
 

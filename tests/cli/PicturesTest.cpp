@@ -69,11 +69,13 @@ TEST_F(PicturesTest, SvgHoldsAGroupForEachRecordInsideAndItsTextAsText) {
 
 TEST_F(PicturesTest, OptionsChooseWhatIsDrawn) {
   EXPECT_EQ(MapSvg({"--hours", "day"}).Ids, (QStringList{"QAAA-620-D", "QB1-620-U"}));
+  EXPECT_EQ(MapSvg({"--hours", "all"}).Ids, MapSvg().Ids);
   EXPECT_TRUE(MapSvg({"--hours", "night"}).Texts.contains("    Night, critical & unlimited only"));
   EXPECT_TRUE(MapSvg({"--adjacents"}).Ids.contains("QLOW-610-U"));
   EXPECT_FALSE(MapSvg().Texts.contains("350"));
   EXPECT_TRUE(MapSvg({"--compass"}).Texts.contains("350"));
   EXPECT_TRUE(MapSvg({"--home", "33.24278,96.54139"}).Texts.contains("Home:  "));
+  EXPECT_TRUE(MapSvg({"--home", "-90,180"}).Texts.contains("Home Lat: -90    Home Lon: 180"));
   EXPECT_TRUE(MapSvg({"--pattern-size", ".25"}).Texts.contains("Pattern:1  all"));
 }
 

@@ -74,6 +74,21 @@ TEST_F(frmPlotTest, AnImportIsOnTheMapAndInTheListOfCallSigns) {
   EXPECT_EQ(State.CallList, calls);
 }
 
+TEST_F(frmPlotTest, WhatReadersLeftOutStandsUnderTheMap) {
+  Files.Put("1230x.dat", "1230,QXYZ,City,ST,US,U,40,75,1,-,-,14\n");
+  QDir().mkpath(Files.Path("1250x.dat"));
+  Open();
+  EXPECT_FALSE(Find<QLabel>(*plot_, "LeftOut")->isVisible());
+  PressInForm("cmdFreq", {"cmdErasePlot"}, "1230");
+  EXPECT_TRUE(Find<QLabel>(*plot_, "LeftOut")->isVisible());
+  EXPECT_EQ(Shown(*plot_, "LeftOut"), "Left out: 1230x.dat:1: 14 towers, at most 12");
+  PressInForm("cmdFreq", {"cmdErasePlot"}, "1240");  // is missing, which the map says
+  EXPECT_FALSE(Find<QLabel>(*plot_, "LeftOut")->isVisible());
+  ScanTheBand();
+  EXPECT_EQ(Shown(*plot_, "LeftOut").substr(0, 21), "Left out: 1250x.dat: ");
+  EXPECT_TRUE(System.Messages.isEmpty());
+}
+
 TEST_F(frmPlotTest, AddPlotKeepsTheFirstChannelAndEraseDoesNot) {
   Open();
   AddChannel("1230");

@@ -141,19 +141,21 @@ TEST_F(MainMapTest, TheScanMarksStationsWithoutPatterns) {
   // The others in their order, one that is no file among them, whoever reads them ahead.
   for (const char* name : {"1240x.dat", "1690x.dat", "1700x.dat"}) files_.Put(name, kStation);
   QDir(files_.Folder().Path()).mkdir("1250x.dat");
-  canvas.Clear();
-  std::vector<float> drawn, faulty;
-  for (BandScan whole(files_.Folder(), projection); !whole.AtEnd();) {
-    const float channel = whole.Channel();
-    const Result<Done> done = whole.DrawNext(canvas);
-    if (done)
-      drawn.push_back(channel);
-    else if (done.error().kind != Error::Kind::NotFound)
-      faulty.push_back(channel);
+  for (const int processors : {1, 4}) {
+    canvas.Clear();
+    std::vector<float> drawn, faulty;
+    for (BandScan whole(files_.Folder(), projection, processors); !whole.AtEnd();) {
+      const float channel = whole.Channel();
+      const Result<Done> done = whole.DrawNext(canvas);
+      if (done)
+        drawn.push_back(channel);
+      else if (done.error().kind != Error::Kind::NotFound)
+        faulty.push_back(channel);
+    }
+    EXPECT_EQ(drawn, (std::vector<float>{1230, 1240, 1690, 1700}));
+    EXPECT_EQ(faulty, std::vector<float>{1250});
+    EXPECT_EQ(canvas.Texts(), (Texts{"1230", "1230", "1240", "1690", "1700"}));
   }
-  EXPECT_EQ(drawn, (std::vector<float>{1230, 1240, 1690, 1700}));
-  EXPECT_EQ(faulty, std::vector<float>{1250});
-  EXPECT_EQ(canvas.Texts(), (Texts{"1230", "1230", "1240", "1690", "1700"}));
 }
 
 // A station by day and by night, one that sends by day only, and an added channel; nothing is read after

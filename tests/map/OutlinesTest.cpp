@@ -8,6 +8,7 @@
 #include "RecordingCanvas.h"
 #include "TestFolder.h"
 #include "WholeOutline.h"
+#include "map/OverviewMap.h"
 
 namespace kestrel {
 namespace {
@@ -141,6 +142,20 @@ TEST(OutlinesTest, FilesInTheirColoursWithTheHomeMarkBetween) {
   QDir(empty.Folder().Path()).mkdir("region2.dat");
   EXPECT_EQ(DrawOutlineFiles(canvas, empty.Folder(), MapProjection({0, 75}, 750)),
             std::vector<std::string>{"region2.dat: is a folder or a device, not a file"});
+}
+
+TEST(OutlinesTest, TheOpeningMapHasCoastsStatesAndTheLocalStations) {
+  const TestFolder files;
+  files.Put("REGION2.dat", "39 263\n40 263\n");
+  files.Put("STATES.dat", "39 263\n39 264\n");
+  files.Put("1490x.dat", "1490,A,c,s,u,U,39,97,1,-,-,0\n");
+  files.Put("1500x.dat", "1500,A,c,s,u,U,39,97,1,-,-,0\n");
+  RecordingCanvas canvas;
+  DrawOverviewMap(canvas, files.Folder());
+  EXPECT_EQ(canvas.Readable(),
+            "Polyline E8B890 (6000,4500) (6000,4262)\n"
+            "Polyline A06848 (6000,4500) (6185,4499)\n"
+            "FilledCircle FF9911 (6000,4500) r7\n");
 }
 
 }  // namespace

@@ -86,6 +86,7 @@ TEST(PrintedPagesTest, ThePageHoldsAllThatTheWindowShows) {
 
 TEST(PrintedPagesTest, TheStationPageTellsTheRecordInWords) {
   TestFolder data;
+  data.Put("Stations.txt", "Made of the FCC's lists");
   SessionState state;
   state.CurrentFrequency = 1230;
   state.HomeLatitude = 40;
@@ -115,6 +116,18 @@ TEST(PrintedPagesTest, TheStationPageTellsTheRecordInWords) {
     }
     EXPECT_LE(bottom, size.Height + 1);
   }
+  RecordingCanvas canvas;
+  for (const PagePane& pane : page.Layout(kLetterPortrait)) pane.Draw(canvas);
+  const auto points = [&canvas](std::string_view text) {
+    for (const Drawn& drawn : canvas.All("Text"))
+      if (drawn.Text == text) return drawn.Face.Points;
+    return 0.0F;
+  };
+  EXPECT_EQ(points("ratio"), 8) << "what is smaller cannot be read on paper";
+  EXPECT_EQ(points("Made of the FCC's lists"), 8);
+  EXPECT_GT(points("SPRINGFIELD"), 8);
+  EXPECT_GT(points("Station data: QABC"), points("SPRINGFIELD"));
+
   const auto texts = TextsOf(StationPage(state, data.Folder(), selection, {}), kLetterPortrait);
   EXPECT_EQ(std::count(texts.begin(), texts.end(), "No towers are known"), 1);
 
