@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <clocale>
-#include <cmath>
 #include <cstdint>
 #include <cstdlib>
 #include <limits>
@@ -74,38 +73,6 @@ double ByTheLibrary(const std::string& number) {
   static const locale_t kPlain = newlocale(LC_ALL_MASK, "C", nullptr);
   constexpr double kLargest = std::numeric_limits<float>::max();
   return std::clamp(strtod_l(number.c_str(), nullptr, kPlain), -kLargest, kLargest);
-}
-
-float Single(const std::string& text) {
-  return static_cast<float>(NumberByTheRules(text));
-}
-
-StationRecord RecordOf(const std::vector<std::string>& fields, int towers) {
-  StationRecord record;
-  record.CallSign = Trimmed(fields[1]);
-  record.City = Trimmed(fields[2]);
-  record.State = Trimmed(fields[3]);
-  record.Country = Trimmed(fields[4]);
-  record.HoursCode = Trimmed(fields[5]);
-  record.Latitude = Single(fields[6]);
-  record.Longitude = Single(fields[7]);
-  record.PowerKW = Single(fields[8]);
-  record.TowerCount = static_cast<std::int16_t>(towers);
-  return record;
-}
-
-void AddTower(const std::string& line, std::size_t tower, StationRecord& record) {
-  const auto fields = FieldsByTheRules(line, ',', 6);
-  record.Switch[tower] = fields[0];
-  record.Fields[tower] = Single(fields[1]);
-  record.Heights[tower] = Single(fields[2]);
-  record.Phases[tower] = Single(fields[3]);
-  record.Spacings[tower] = Single(fields[4]);
-  record.Bearings[tower] = Single(fields[5]);
-}
-
-bool IsStation(const std::string& line) {
-  return !line.empty() && IsDigit(line[0]) && line[0] != '0';
 }
 
 }  // namespace
@@ -180,43 +147,6 @@ double NumberByTheRules(const std::string& text) {
       for (i = sign; IsDigit(at(i));) ++i;
   }
   return ByTheLibrary(text.substr(begin, i - begin));
-}
-
-StationsByTheRules ReadStationsByTheRules(std::string_view bytes) {
-  const std::vector<TextLine> lines = LinesByTheRules(bytes);
-  StationsByTheRules read;
-  for (const TextLine& line : lines)
-    if (IsStation(line.Text)) read.Stations.push_back(FieldsByTheRules(line.Text, ',', 12));
-
-  bool leavingOut = false;
-  const auto leaveOut = [&](std::size_t line) {
-    if (!leavingOut) read.FaultyLines.push_back(static_cast<int>(line));
-    leavingOut = true;
-  };
-  for (std::size_t i = 0; i < lines.size();) {
-    const std::string& line = lines[i++].Text;
-    if (!IsStation(line)) {
-      if (!Trimmed(line).empty()) leaveOut(i);
-      continue;
-    }
-    leavingOut = false;
-    const auto fields = FieldsByTheRules(line, ',', 12);
-    const double towers = std::nearbyint(NumberByTheRules(fields[11]));
-    if (towers < 0 || towers > 12) {
-      leaveOut(i);
-      continue;
-    }
-    StationRecord record = RecordOf(fields, static_cast<int>(towers));
-    for (std::size_t tower = 1; tower <= static_cast<std::size_t>(towers); ++tower) {
-      if (i == lines.size()) {
-        leaveOut(i);
-        return read;
-      }
-      AddTower(lines[i++].Text, tower, record);
-    }
-    read.Records.push_back(record);
-  }
-  return read;
 }
 
 }  // namespace kestrel::fuzz

@@ -4,8 +4,6 @@
 #include <string_view>
 #include <vector>
 
-#include "data/StationFile.h"
-
 // The files read anew by what docs/formats says, with nothing of the program's own readers: slow and plain,
 // for comparison.
 
@@ -24,7 +22,7 @@ std::vector<std::string> EntriesByTheRules(std::string_view bytes);
 /// Without the blanks at both ends.
 std::string Trimmed(const std::string& text);
 
-/// All fields of a line, a run of separators counting as one; at least `least`, empty ones behind the last.
+/// All fields of a line, a run of separators counting as one; at least `least`, empty ones after the last.
 std::vector<std::string> FieldsByTheRules(const std::string& line, char separator, std::size_t least);
 
 /// The characters of columns `first` to `last`, counted from 1.
@@ -32,13 +30,5 @@ std::string ColumnsByTheRules(const std::string& line, std::size_t first, std::s
 
 /// The leading number, limited to the largest single.
 double NumberByTheRules(const std::string& text);
-
-struct StationsByTheRules {
-  std::vector<StationRecord> Records;
-  std::vector<int> FaultyLines;                    ///< counted from 1, a fault each
-  std::vector<std::vector<std::string>> Stations;  ///< the fields of every station line, those left out too
-};
-
-StationsByTheRules ReadStationsByTheRules(std::string_view bytes);
 
 }  // namespace kestrel::fuzz

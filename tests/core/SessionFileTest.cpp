@@ -4,12 +4,9 @@
 
 #include <array>
 #include <charconv>
-#include <cmath>
 #include <limits>
 #include <optional>
-#include <random>
 #include <string>
-#include <vector>
 
 namespace kestrel {
 namespace {
@@ -196,33 +193,6 @@ TEST(SessionFileTest, AZeroResetsTheWholeHome) {
             "displayed: 620\r\nHome: Plano  TX\r\nHome latitude: 33.24278\r\nHome longitude: 96.54139\r\n"),
         std::string::npos)
         << text;
-  }
-}
-
-TEST(SessionFileTest, WriteReadWriteIsTheSame) {
-  std::mt19937 random(3);
-  const auto real = [&random](float from, float to) {
-    return std::uniform_real_distribution<float>(from, to)(random);
-  };
-  const std::vector<std::string> names = {"", "Plano   TX", "Bogotá  DC", "a: b", "* star", "São Paulo  SP"};
-  for (int i = 0; i < 2000; ++i) {
-    SessionState state;
-    for (float* degrees : {&state.HomeLatitude, &state.HomeLongitude}) *degrees = real(-180, 180);
-    for (ColorValue* color : {&state.DayColor, &state.NightColor, &state.UnlimitedColor, &state.CriticalColor,
-                              &state.AdjacentColor})
-      *color = static_cast<ColorValue>(1 + random() % 16777215);
-    if (i % 2 == 0) state.NightColor = 0;
-    state.CurrentFrequency = real(1, 2000);
-    state.PatternSize = real(0, 2);
-    state.ScaleFactor = std::exp(real(3, 10));
-    state.DistanceUnit = static_cast<std::int16_t>(random());
-    state.HomeName = names[random() % names.size()];
-    state.MapLanguage = names[random() % names.size()];
-    state.AspectRatio = real(0.6F, 1.5F);
-    const std::string text = WriteSession(state, "1/2/2024");
-    SessionState read = Read(text);
-    ASSERT_EQ(Carried(read), Carried(state)) << text;
-    ASSERT_EQ(WriteSession(read, "1/2/2024"), text);
   }
 }
 

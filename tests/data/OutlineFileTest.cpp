@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-#include <limits>
 #include <string>
 
 #include "WholeOutline.h"
@@ -54,20 +52,6 @@ TEST(OutlineFileTest, CommentLinesArePassedOverOnRequest) {
   EXPECT_EQ(WholeOutline(bytes).Latitude.size(), 10U);
 }
 
-TEST(OutlineFileTest, EveryTruncation) {
-  const std::string good =
-      "-100 -100\r\n45.5 266.25\r\n46 267\r\n-100 -100\r\n10 20\r\n-2000\r\nbehind 1 2\r\n";
-  const std::size_t whole = good.find("-2000") + 5;
-  for (std::size_t length = 0; length <= good.size(); ++length) {
-    const Outline outline = WholeOutline(std::string_view(good).substr(0, length));
-    // A broken end mark, -2 to -200, is one vertex more.
-    EXPECT_LE(outline.Latitude.size(), length < whole ? 4U : 3U) << length;
-    if (length >= whole) {
-      EXPECT_EQ(Strokes(good.substr(0, length)), "/ 45.5,266.25 46,267 / 10,20 ");
-    }
-  }
-}
-
 TEST(OutlineFileTest, ReadingEndsAtMaxVertices) {
   std::string bytes;
   for (std::size_t i = 0; i < MaxVertices - 1; ++i) bytes += "1 2\n";
@@ -75,14 +59,6 @@ TEST(OutlineFileTest, ReadingEndsAtMaxVertices) {
   const Outline outline = WholeOutline(bytes);
   EXPECT_EQ(outline.Latitude.size(), MaxVertices - 1);
   EXPECT_EQ(outline.PenUpBefore.size(), 1U);
-}
-
-TEST(OutlineFileTest, NumbersStayWithinTheirRange) {
-  const std::string nines(400, '9');
-  const std::string most = NumberText(std::numeric_limits<float>::max());
-  EXPECT_EQ(Strokes("1e400 -1e400\n" + nines + " -" + nines + "\nnan inf\n1e-400 -0\n"),
-            most + ",-" + most + ' ' + most + ",-" + most + " 0,0 0,0 ");
-  EXPECT_TRUE(std::signbit(WholeOutline("1 -0\n").Longitude.at(0)));
 }
 
 }  // namespace

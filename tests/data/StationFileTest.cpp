@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-#include <limits>
 #include <string>
 #include <vector>
 
@@ -20,7 +18,7 @@ const std::string kGood =
     "1230,CDEF,Halifax,NS,Canada,N,44.6,63.5,50,-,-,1\r\n"
     " 1,1,100,0,0,0\r\n";
 
-/// Everything that a file yields: a line for each record, and the notes.
+/// Everything that a file yields: the call sign of each record, and the notes.
 struct Yield {
   std::vector<std::string> calls;
   std::vector<std::string> notes;
@@ -28,14 +26,7 @@ struct Yield {
 Yield ReadAll(std::string_view bytes) {
   Yield yield;
   StationFileReader reader("1230x.dat", bytes);
-  while (const StationRecord* record = reader.Next()) {
-    yield.calls.push_back(record->CallSign);
-    EXPECT_TRUE(record->TowerCount >= 0 && record->TowerCount <= MaxTowers);
-    EXPECT_EQ(record->Spacings[0], 0);
-    for (const auto* numbers :
-         {&record->Fields, &record->Heights, &record->Phases, &record->Spacings, &record->Bearings})
-      for (const float number : *numbers) EXPECT_TRUE(std::isfinite(number));
-  }
+  while (const StationRecord* record = reader.Next()) yield.calls.push_back(record->CallSign);
   EXPECT_EQ(reader.Next(), nullptr) << "nothing after the end";
   yield.notes = reader.Notes();
   return yield;
@@ -124,45 +115,6 @@ TEST(StationFileTest, NotesWhatItLeavesOut) {
   }
 }
 
-/// A shorter file never yields more than the whole one, and never a record whose towers it does not hold.
-TEST(StationFileTest, EveryTruncation) {
-  const std::size_t firstTowersEnd = kGood.find("\r\n1230,WABC");
-  const std::size_t secondEnd = kGood.find(",0\r\n1230,CDEF");
-  for (std::size_t length = 0; length <= kGood.size(); ++length) {
-    const Yield yield = ReadAll(std::string_view(kGood).substr(0, length));
-    EXPECT_LE(yield.calls.size(), 3U) << length;
-    EXPECT_LE(yield.notes.size(), 1U) << length;
-    if (length >= firstTowersEnd) {
-      ASSERT_FALSE(yield.calls.empty()) << length;
-      EXPECT_EQ(yield.calls[0], "WXYZ") << length;
-      EXPECT_EQ(yield.notes, (length >= kGood.find(",1\r\n 1,") + 2 && length <= kGood.find(" 1,1,100")
-                                  ? Texts{"1230x.dat:5: the file ends before the last of 1 towers"}
-                                  : Texts{}))
-          << length;
-    }
-    if (length >= secondEnd + 1) {
-      EXPECT_EQ(yield.calls[1], "WABC") << length;
-    }
-  }
-}
-
-TEST(StationFileTest, EveryByteDisturbed) {
-  for (std::size_t at = 0; at < kGood.size(); ++at)
-    for (const char byte : {'\0', '\n', ',', '0', '9', 'e', '-', '\xC3', '\xFF'}) {
-      std::string bytes = kGood;
-      bytes[at] = byte;
-      const Yield yield = ReadAll(bytes);
-      EXPECT_LE(yield.calls.size(), 5U) << bytes;
-      // The damage stays in its record: the last one is found unless it is the one that was hit, or the tower
-      // count in front of it.
-      if (at < kGood.find(",2\r\n") ||
-          (at > kGood.find(",2\r\n") + 3 && at < kGood.find(",0\r\n1230,CDEF"))) {
-        ASSERT_FALSE(yield.calls.empty()) << bytes;
-        EXPECT_EQ(yield.calls.back(), "CDEF") << bytes;
-      }
-    }
-}
-
 TEST(StationLineReaderTest, PassesOverTowerLines) {
   StationLineReader reader(kGood);
   Texts calls;
@@ -194,29 +146,6 @@ TEST(StationFileTest, ReadingEndsAtItsLimits) {
   ASSERT_EQ(notes.size(), MaxNotes + 1U);
   EXPECT_EQ(notes[MaxNotes - 1], "1230x.dat:100: 13 towers, at most 12");
   EXPECT_EQ(notes[MaxNotes], "1230x.dat: more than 100 faults; the others are not listed");
-}
-
-// Whatever the field, numbers beyond all ranges are finite.
-TEST(StationFileTest, NumbersStayWithinTheirRange) {
-  constexpr float kLargest = std::numeric_limits<float>::max();
-  const std::string nines(400, '9');
-  const struct {
-    std::string text;
-    float value;
-  } rows[] = {{"1e400", kLargest}, {"-1e400", -kLargest}, {nines, kLargest}, {"." + nines, 1},
-              {"1e-400", 0},       {"-0", -0.0F},         {"nan", 0},        {"inf", 0},
-              {"-inf", 0}};
-  for (const auto& [text, value] : rows) {
-    const std::string bytes = "1230,A,c,s,u,U," + text + ',' + text + ',' + text + ",-,-,1\n0," + text + ',' +
-                              text + ',' + text + ',' + text + ',' + text + '\n';
-    StationFileReader reader("1230x.dat", bytes);
-    const StationRecord* record = reader.Next();
-    ASSERT_NE(record, nullptr) << text;
-    for (const float number :
-         {record->Latitude, record->Longitude, record->PowerKW, record->Fields[1], record->Heights[1],
-          record->Phases[1], record->Spacings[1], record->Bearings[1]})
-      EXPECT_EQ(number, value) << text;
-  }
 }
 
 }  // namespace
