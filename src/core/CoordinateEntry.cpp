@@ -29,8 +29,7 @@ CoordinateEntry Refusal(std::string why) {
 
 CoordinateEntry FromNotation(const CoordinateReading& reading, Axis axis, EntryOf place) {
   if (!reading.Fault.empty()) return Refusal(reading.Fault);
-  if (axis == Axis::Longitude && reading.Hemisphere == 'E')
-    return Refusal("East of Greenwich; longitudes here are west");
+  if (axis == Axis::Longitude && reading.Hemisphere == 'E') return Refusal("East: longitudes are west here");
   const float given = axis == Axis::Longitude ? std::abs(reading.Degrees) : reading.Degrees;
   if (Held(given, axis, place) != given)
     return Refusal(axis == Axis::Latitude ? "Home lies from 88 S to 88 N" : "Home lies from 30 W to 170 W");

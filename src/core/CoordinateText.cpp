@@ -117,14 +117,13 @@ std::string FaultOf(const Pieces& pieces, Axis axis) {
   const bool latitude = axis == Axis::Latitude;
   if (pieces.hemisphere != 0 &&
       std::string_view(latitude ? "NS" : "EW").find(pieces.hemisphere) == std::string_view::npos)
-    return latitude ? "A latitude is north (N) or south (S)" : "A longitude is west (W) or east (E)";
-  if (pieces.hemisphere != 0 && pieces.sign != 0) return "A sign and a letter: one of them will do";
+    return latitude ? "Latitudes are N or S" : "Longitudes are W or E";
+  if (pieces.hemisphere != 0 && pieces.sign != 0) return "A sign or a letter, not both";
   static constexpr std::array kOrder = {Mark::Degree, Mark::Minute, Mark::Second};
   for (std::size_t i = 0; i < pieces.count; ++i) {
     const Part& part = pieces.parts[i];
-    if (part.mark != Mark::None && part.mark != kOrder[i])
-      return "Degrees come first, then minutes, then seconds";
-    if (!part.whole && i + 1 < pieces.count) return "Only the last part can have decimals";
+    if (part.mark != Mark::None && part.mark != kOrder[i]) return "Order: degrees, minutes, seconds";
+    if (!part.whole && i + 1 < pieces.count) return "Decimals in the last part only";
     if (i > 0 && !(part.value < 60)) return i == 1 ? "Minutes run from 0 to 59" : "Seconds run from 0 to 59";
   }
   return {};

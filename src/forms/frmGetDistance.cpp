@@ -19,8 +19,11 @@ frmGetDistance::frmGetDistance(const Workspace& workspace, QWidget* parent)
       cities_(new PlacePicker(*this, "lstTarget", "txtFindTarget", "Search: a city's first letters",
                               workspace.State.CityList, WholeCityLines())),
       grid_(new QGridLayout),
-      target_(*grid_, EntryOf::Target, {"lblTargetLatitude", "Target &latitude: ", "Degrees, north positive"},
-              {"lblTargetLongitude", "Target l&ongitude: ", "Degrees west, whatever the sign"}),
+      target_(*grid_, EntryOf::Target,
+              {"lblTargetLatitude",
+               "Target &latitude: ", "Degrees, north positive; as 42.35, 42.35N or 42 21 00 N"},
+              {"lblTargetLongitude",
+               "Target l&ongitude: ", "Degrees west, whatever the sign; as 71.05, 71.05W or 71 3 0 W"}),
       bearing_(AddAnswer(grid_, "lblTargetBearing", "txtTargetBearing", "Target bearing: ", 0)),
       distance_(AddAnswer(grid_, "lblTargetDistance", "txtTargetDistance", "Target distance: ", 2)) {
   grid_->addWidget(MakeUnits(), 0, 4, 3, 1, Qt::AlignTop);
@@ -43,9 +46,9 @@ frmGetDistance::frmGetDistance(const Workspace& workspace, QWidget* parent)
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(MakeLabel("lblInstructions", Text(DistanceInstruction(state.HomeName, state.Home()))));
   layout->addLayout(grid_);
-  const std::string unit = state.MapUnit() == 1 ? "miles" : "kilometers";
-  layout->addWidget(MakeLabel("lblMapUnit", Text("This window opens with kilometers; the maps tell " + unit +
-                                                 ", as chosen in the options.")));
+  const QString mapUnit = state.MapUnit() == 1 ? "miles" : "kilometers";
+  layout->addWidget(MakeLabel("lblMapUnit", "This window opens with kilometers; the unit of the maps (" +
+                                                mapUnit + ") is chosen in the options."));
   layout->addWidget(MakeLabel("Label1", "&Select a city:", cities_->SearchBox()));
   layout->addWidget(cities_, 1);
   layout->addLayout(buttons);

@@ -16,8 +16,11 @@ namespace kestrel {
 frmGetHome::frmGetHome(const Workspace& workspace, QWidget* parent)
     : Form(workspace, parent, "frmGetHome", "Get home"),
       grid_(new QGridLayout),
-      entry_(*grid_, EntryOf::Home, {"lblLatitude", "Home &latitude: ", "Degrees, north positive, -88 to 88"},
-             {"lblLongitude", "Home l&ongitude: ", "Degrees, west positive, 30 to 170; a sign is dropped"}) {
+      entry_(*grid_, EntryOf::Home,
+             {"lblLatitude",
+              "Home &latitude: ", "Degrees, north positive, -88 to 88; as 42.35, 42.35N or 42 21 00 N"},
+             {"lblLongitude", "Home l&ongitude: ",
+              "Degrees, west positive, 30 to 170, a sign is dropped; as 71.05, 71.05W or 71 3 0 W"}) {
   const SessionState& state = workspace_.State;
   entry_.Show(Text(FormatNumber(state.HomeLatitude)), Text(FormatNumber(state.HomeLongitude)));
   QLabel* info = MakeLabel("lblInfo", "Entries are positive for North and for West.");

@@ -17,7 +17,7 @@ PositionEntry::PositionEntry(QGridLayout& grid, EntryOf place, const Caption& la
 
 void PositionEntry::Add(QGridLayout& grid, int column, const char* box, const char* note,
                         const Caption& caption, Part& part) {
-  part.Box = MakeBox(box, caption.Tip + "; 42.35, 42.35N and 42 21 00 N are read alike");
+  part.Box = MakeBox(box, caption.Tip);
   part.Note = MakeLabel(note, {});
   grid.addWidget(MakeLabel(caption.Name, caption.Text, part.Box), 0, column);
   grid.addWidget(part.Box, 0, column + 1);

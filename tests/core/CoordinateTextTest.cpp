@@ -42,11 +42,11 @@ TEST(CoordinateTextTest, WhatIsNoCoordinateSaysWhy) {
     const char* fault;
   } rows[] = {{"42 60 N", Axis::Latitude, "Minutes run from 0 to 59"},
               {"42 59 60", Axis::Latitude, "Seconds run from 0 to 59"},
-              {"42.5 30 N", Axis::Latitude, "Only the last part can have decimals"},
-              {"42' 30", Axis::Latitude, "Degrees come first, then minutes, then seconds"},
-              {"71 W", Axis::Latitude, "A latitude is north (N) or south (S)"},
-              {"42 N", Axis::Longitude, "A longitude is west (W) or east (E)"},
-              {"-42 N", Axis::Latitude, "A sign and a letter: one of them will do"},
+              {"42.5 30 N", Axis::Latitude, "Decimals in the last part only"},
+              {"42' 30", Axis::Latitude, "Order: degrees, minutes, seconds"},
+              {"71 W", Axis::Latitude, "Latitudes are N or S"},
+              {"42 N", Axis::Longitude, "Longitudes are W or E"},
+              {"-42 N", Axis::Latitude, "A sign or a letter, not both"},
               {"90 0 1 N", Axis::Latitude, "Latitude beyond 90"},
               {"181 W", Axis::Longitude, "Longitude beyond 180"}};
   for (const auto& row : rows) {
@@ -74,7 +74,7 @@ TEST(CoordinateEntryTest, ANotationIsTakenExactlyOrRefusedAndANumberByItsRule) {
               {"89 S", kNorth, kTarget, -89, "= 89 S", 0},
               {"42 61 N", kNorth, kTarget, 0, "Minutes run from 0 to 59", 2},
               {"-71 3", kWest, kHome, 71.05F, "= 71.05 W", 0},
-              {"71.05E", kWest, kTarget, 0, "East of Greenwich; longitudes here are west", 2},
+              {"71.05E", kWest, kTarget, 0, "East: longitudes are west here", 2},
               {"20 W", kWest, kHome, 0, "Home lies from 30 W to 170 W", 2},
               {"-45,5", kNorth, kHome, -45.5F, "= 45.5 S", 0},
               {"-96.5", kWest, kHome, 96.5F, "= 96.5 W", 0},

@@ -72,7 +72,7 @@ TEST_F(HomeTest, TypedCoordinatesCountAndWhatIsReadIsTold) {
     EXPECT_EQ(notes(), "|");
     Type(form, "txtLatitude", "42 21 N");
     Type(form, "txtLongitude", "71.05E");
-    EXPECT_EQ(notes(), "= 42.35 N|East of Greenwich; longitudes here are west");
+    EXPECT_EQ(notes(), "= 42.35 N|East: longitudes are west here");
     Press(form, "cmdExit");
     EXPECT_TRUE(form.isVisible());
     EXPECT_EQ(form.focusWidget()->objectName(), "txtLongitude");

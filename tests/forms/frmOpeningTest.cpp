@@ -28,6 +28,17 @@ TEST_F(frmOpeningTest, LoadsListsAndSessionAndLeadsOn) {
   EXPECT_FALSE(opening.isVisible());
 }
 
+TEST_F(frmOpeningTest, ALongLineOfTheStationsIsWrappedAndThenShortenedInSight) {
+  const QByteArray line = QByteArray("made of many files ").repeated(30).trimmed();
+  Files.Put("Stations.txt", line);
+  frmOpening opening(Everything);
+  opening.show();
+  auto* label = Find<QLabel>(opening, "lblStations");
+  EXPECT_TRUE(label->text().endsWith(QChar(0x2026)));
+  EXPECT_GT(label->text().size(), 100);
+  EXPECT_EQ(label->toolTip().toUtf8(), line);
+}
+
 TEST_F(frmOpeningTest, LoadsOnceShownUnlessItHasBeenLeft) {
   for (const std::string way : {"cmdEnter", "cmdExit", "Escape"}) {
     frmOpening opening(Everything);

@@ -104,7 +104,7 @@ TEST_F(OptionsTest, TheUnitOfTheMapsIsKeptAndTheDistanceWindowTellsIt) {
   EXPECT_EQ(State.MapUnit(), 1);
   EXPECT_EQ(State.DistanceUnit, 0) << "of the distance window alone";
   frmGetDistance distance(Everything);
-  EXPECT_TRUE(Shown(distance, "lblMapUnit").ends_with("the maps tell miles, as chosen in the options."));
+  EXPECT_TRUE(Shown(distance, "lblMapUnit").ends_with("of the maps (miles) is chosen in the options."));
   QSettings().clear();
 }
 
