@@ -101,6 +101,7 @@ TEST(AmqList, RowsLieAcrossThePiecesThatAreRead) {
   const TextImport import = ImportRows(text);
   EXPECT_EQ(import.stations.size(), 3000U);
   EXPECT_EQ(import.Examples(Finding::WrongForm), "amq.txt:1501: the row is longer than 64 KB\n");
+  EXPECT_EQ(import.stations.back().Row.Line, 3001);
   EXPECT_EQ(import.report.Files().front().Rows, 3001);
 }
 

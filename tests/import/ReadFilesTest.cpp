@@ -14,13 +14,14 @@ constexpr Date Day(int year, unsigned month, unsigned day) {
   return {std::chrono::year(year), std::chrono::month(month), std::chrono::day(day)};
 }
 
-/// Bytes that go on for ever after `front`; what is read of them is counted.
+/// Bytes that go on for 64 MB after `front`; what is read of them is counted.
 class EndlessStream : public ByteStream {
  public:
   EndlessStream(std::string_view front, std::size_t& read) : front_(front), read_(read) {}
 
   std::size_t Read(char* to, std::size_t most) override {
     const std::size_t fromFront = front_.Read(to, most);
+    if (read_ > 64 << 20) return 0;
     const std::size_t count = fromFront > 0 ? fromFront : most;
     if (fromFront == 0) std::fill_n(to, most, '\n');
     read_ += count;
@@ -95,6 +96,15 @@ TEST_F(ReadFilesTest, NoMoreRowsOfAKindAreHeldThanAllowed) {
       report_.Of(Finding::NoRoom).Examples,
       (std::vector<std::string>{"am_ant_sys.dat:4: 703", "am_towers.dat:4: a tower of antenna system 701",
                                 "am_towers.dat:5: a tower of antenna system 702", "amq:3: QAAA"}));
+
+  // An array told anew makes room for itself.
+  report_ = {};
+  readings_ = Readings(Day(2026, 8, 2));
+  readings_.Tables.MostRows = 3;
+  EXPECT_FALSE(Read(SourceFiles({texts[0], texts[1], {"again", texts[1].second}})));
+  const TowerRows* const array = readings_.Tables.Towers.Find("701");
+  ASSERT_TRUE(array);
+  EXPECT_EQ(array->Rows.size(), 3U);
 }
 
 TEST_F(ReadFilesTest, ANarrowTableIsTaken) {
@@ -136,8 +146,14 @@ TEST_F(ReadFilesTest, ItStopsWhereItIsTold) {
   }));
   EXPECT_EQ(last, 1);
   int calls = 0;
-  EXPECT_FALSE(Read(SourceFiles(tables), [&](double, std::string_view) { return ++calls < 3; }));
-  EXPECT_EQ(calls, 3);
+  std::size_t read = 0;
+  const std::string list = AmqRow{}.Text();
+  const SourceFile endless{
+      "amq", 1 << 30,
+      [&] { return Result<std::unique_ptr<ByteStream>>(std::make_unique<EndlessStream>(list, read)); }};
+  EXPECT_FALSE(Read({endless, endless}, [&](double, std::string_view) { return ++calls < 5; }));
+  EXPECT_EQ(calls, 5);
+  EXPECT_LT(read, 1U << 20);
 }
 
 }  // namespace
