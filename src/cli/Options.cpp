@@ -150,6 +150,10 @@ CLI::Option* AddPicture(CLI::App& command, Request& request) {
       .add_option_function<std::string>("--labels", storeLabels,
                                         "of the stations: fitting, all or none [fitting]")
       ->type_name("CHOICE");
+  command.add_flag("--rings", request.Look.Rings, "circles of round distances around home");
+  command.add_flag("!--no-legend", request.Look.Legend, "leaves the legend out");
+  command.add_flag("!--no-scale-bar", request.Look.ScaleBar, "leaves the scale bar out");
+  command.add_flag("--hour-lines", request.Look.HourLines, "tells the hours by broken lines, too");
   const auto storeOutput = [&request](const std::string& given) {
     if (!NamesPicture(given)) Refuse("-o", given, "a file name that ends in .png, .svg or .pdf");
     request.Output = given;

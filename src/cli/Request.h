@@ -25,7 +25,7 @@ struct Request {
   std::optional<float> PatternSize;
   std::optional<float> Aspect;
   QSize Size = {1600, 1200};
-  MapLook Look;
+  MapLook Look{.ScaleBar = true};
   std::string Output;
   bool Json = false;
   bool Csv = false;

@@ -11,7 +11,8 @@
 #include "draw/Fonts.h"
 #include "draw/Picture.h"
 #include "map/BandScan.h"
-#include "map/Outlines.h"
+#include "map/MainMap.h"
+#include "map/Rings.h"
 
 namespace kestrel::cli {
 namespace {
@@ -82,8 +83,9 @@ void Scan(const Request& request) {
 
   const PlatformTextMeasure measure;
   DisplayList drawing(measure);
-  Say(DrawOutlineFiles(drawing, folder, projection));
+  Say(DrawMapGround(drawing, folder, state));
   DrawBand(folder, projection, drawing);
+  DrawScaleBar(drawing, state);
   const Result<Done> written =
       WritePicture(drawing, request.Size, QString::fromStdString(request.Output), request.Look);
   if (!written) Fail(request.Output, written.error(), "the picture was not written");

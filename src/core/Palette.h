@@ -35,6 +35,9 @@ struct Palette {
   static constexpr ColorValue CompassSpoke = 0xFF8888;
   static constexpr ColorValue CompassPaper = 0xFFEEDD;
   static constexpr ColorValue CompassText = 0xFF1111;
+  static constexpr ColorValue Ring = 0x90B8CC;  ///< of distance around home
+  static constexpr ColorValue RingText = 0x28587A;
+  static constexpr ColorValue ScaleBar = 0x404040;
 
   // The opening screen's map, on a dark ground.
   static constexpr ColorValue OpeningRegion = 0xE8B890;

@@ -152,6 +152,26 @@ void LabelPlacement::PlaceMore(const DisplayList& list, const SurfaceRules& rule
   }
 }
 
+std::vector<std::uint32_t> LabelsAt(const DisplayList& list, const SurfaceRules& rules,
+                                    const LabelPlaces& places, const QPointF& at) {
+  const SurfaceView view(rules);
+  const PlatformTextMeasure measure;
+  std::vector<std::uint32_t> found;
+  for (std::uint32_t i = 0; i < list.Labels().size(); ++i) {
+    const KeptLabel& label = list.Labels()[i];
+    const bool placed = i < places.size();
+    if (placed && !places[i]) continue;
+    const Point start = view.Baseline(placed ? *places[i] : FirstLabelPlace(label.At), label.Face);
+    const double size = view.FontSize(label.Face);
+    const QRectF reach(start.x, start.y - kAboveBaseline * size, size * label.Count, size);
+    if (!reach.contains(at)) continue;
+    const double width = size * measure.TextWidth(label.Face, list.LabelText(label)) /
+                         (double{label.Face.Points} * TwipsPerPoint);
+    if (at.x() <= start.x + width) found.push_back(i);
+  }
+  return found;
+}
+
 void PlayPlaced(const DisplayList& list, const SurfaceRules& rules, Canvas& canvas) {
   LabelPlacement placement;
   placement.PlaceAll(list, rules);

@@ -35,6 +35,10 @@ class LabelPlacement {
   std::size_t panelsTaken_ = 0;
 };
 
+/// The labels that are drawn over a place of the surface, by the rules and places they were drawn with.
+std::vector<std::uint32_t> LabelsAt(const DisplayList& list, const SurfaceRules& rules,
+                                    const LabelPlaces& places, const QPointF& at);
+
 /// Plays a list on a canvas of a surface with the rules, its labels placed.
 void PlayPlaced(const DisplayList& list, const SurfaceRules& rules, Canvas& canvas);
 

@@ -19,6 +19,7 @@ class PainterCanvas final : public Canvas {
   void SetColor(ColorValue color) override;
   void SetLineWidth(float width) override;
   void SetFont(const Font& font) override;
+  void SetDash(Dash dash) override { view_.SetDash(dash); }
   void Line(Point from, Point to) override;
   void Polyline(std::span<const Point> points) override;
   void Polygon(std::span<const Point> points) override;

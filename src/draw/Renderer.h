@@ -26,6 +26,9 @@ class Renderer {
   /// picture that the rules are for.
   void Draw(const DisplayList& list, const SurfaceRules& rules, QImage& image, int top = 0);
 
+  /// Where the labels of the picture drawn last came.
+  const LabelPlaces& Labels() const { return labels_.Places(); }
+
   /// Draws what was drawn after the list was `from` long over what the image shows, whose labels stay.
   void DrawMore(const DisplayList& list, std::size_t from, const SurfaceRules& rules, QImage& image);
 

@@ -79,6 +79,11 @@ void SurfaceView::EndPanel() {
   fit_ = rules_.Fit;
 }
 
+void SurfaceView::SetDash(Dash dash) {
+  const bool ofHours = dash != Dash::None && dash != Dash::Spoke;
+  dash_ = DashLengths(ofHours && !rules_.Look.HourLines ? Dash::None : dash);
+}
+
 QRectF SurfaceView::Filled(Point corner, Point opposite) const {
   const auto snapped = [&](Point sheet) {
     const Point at = At(sheet);

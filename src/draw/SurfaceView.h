@@ -5,6 +5,7 @@
 #include <optional>
 #include <span>
 
+#include "draw/DashedLine.h"
 #include "draw/ThinnedRun.h"
 #include "map/MapLook.h"
 #include "map/Sheet.h"
@@ -60,6 +61,8 @@ class SurfaceView {
   void BeginPanel(Point anchor, const Font& smallest, PanelPlace place = PanelPlace::OnMap);
   void EndPanel();
 
+  void SetDash(Dash dash);
+
   /// A box on the surface, its edges on whole pixels: boxes that share an edge leave no seam between them
   /// through which lines shine.
   QRectF Filled(Point corner, Point opposite) const;
@@ -73,7 +76,7 @@ class SurfaceView {
   bool Shows(Point sheet, double radiusTwips) const;
 
   /// Calls `draw(std::span<const Point>)`, on the surface, for each run of the polyline that may touch the
-  /// surface's area.
+  /// surface's area, or for each dash of these.
   template <typename Draw>
   void ForEachRun(std::span<const Point> points, Draw draw);
 
@@ -87,6 +90,7 @@ class SurfaceView {
   double panelGrowth_ = 1;
   Point panelAnchor_;
   ThinnedRun run_;
+  std::span<const float> dash_;  // empty: lines are whole
 };
 
 /// The part of a surface that lines may touch, a little larger than what it shows.
@@ -111,7 +115,12 @@ void SurfaceView::ForEachRun(std::span<const Point> points, Draw draw) {
   const ClipArea area(rules_.Area, 4 * rules_.PixelSize);
   run_.Clear();
   const auto endRun = [&] {
-    if (run_.Vertices().size() > 1) draw(run_.Vertices());
+    if (run_.Vertices().size() > 1) {
+      if (dash_.empty())
+        draw(run_.Vertices());
+      else
+        ForEachDash(run_.Vertices(), dash_, static_cast<float>(rules_.PixelSize), draw);
+    }
     run_.Clear();
   };
   Point previous;

@@ -24,6 +24,7 @@ class SvgCanvas final : public Canvas {
   void SetColor(ColorValue color) override;
   void SetLineWidth(float width) override { lineWidth_ = width; }
   void SetFont(const Font& font) override { font_ = font; }
+  void SetDash(Dash dash) override { view_.SetDash(dash); }
   void Line(Point from, Point to) override;
   void Polyline(std::span<const Point> points) override;
   void Polygon(std::span<const Point> points) override;

@@ -8,6 +8,7 @@
 #include <QRadioButton>
 
 #include "core/Distance.h"
+#include "core/Numbers.h"
 #include "data/PlaceLists.h"
 #include "ui/Controls.h"
 #include "ui/PlacePicker.h"
@@ -77,6 +78,11 @@ void frmGetDistance::Answer::Show(const std::string& text) const {
   Box->setText(Text(text));
   Caption->show();
   Box->show();
+}
+
+void frmGetDistance::ShowDistanceTo(const Position& place) {
+  target_.Show(Text(NumberText(place.Latitude)), Text(NumberText(place.Longitude)));
+  Compute();
 }
 
 QWidget* frmGetDistance::MakeUnits() {

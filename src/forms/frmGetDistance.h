@@ -16,6 +16,9 @@ class frmGetDistance final : public Form {
  public:
   explicit frmGetDistance(const Workspace& workspace, QWidget* parent = nullptr);
 
+  /// Fills in the place, which lies west of Greenwich, and the answer.
+  void ShowDistanceTo(const Position& place);
+
  private:
   /// A box for an answer and the label before it, hidden until there is one.
   struct Answer {

@@ -14,6 +14,7 @@
 #include <utility>
 
 #include "data/StationFile.h"
+#include "forms/MapPointer.h"
 #include "forms/frmAspect.h"
 #include "forms/frmGetFrequency.h"
 #include "forms/frmGetHome.h"
@@ -24,13 +25,16 @@
 #include "map/BandScan.h"
 #include "map/Compass.h"
 #include "map/MapWords.h"
-#include "map/Outlines.h"
+#include "map/PrintedPages.h"
+#include "map/Rings.h"
 #include "map/StationTip.h"
+#include "map/StatusWords.h"
 #include "map/View.h"
 #include "ui/CommandColumn.h"
 #include "ui/Controls.h"
 #include "ui/MapSurface.h"
 #include "ui/PrintCommands.h"
+#include "ui/StatusLine.h"
 #include "ui/ViewMenu.h"
 
 namespace kestrel {
@@ -59,6 +63,13 @@ frmPlot::frmPlot(const Workspace& workspace)
   surface_->setAccessibleName("Map");
   surface_->Words = [this] { return Words(); };
   view_.Redraw = [this] { Redraw(); };
+  status_ = new StatusLine(this);
+  status_->setObjectName("lblMap");
+  surface_->MouseMoved = [this](Point place) {
+    status_->SetPassing(Text(MouseWords(workspace_.State, place)));
+  };
+  surface_->MouseLeft = [this] { status_->SetPassing({}); };
+  surface_->Resized = [this] { TellOfMap(); };
   surface_->TipWanted = [this](Point place) { return TipAt(place); };
   surface_->Clicked = [this](Point place) {
     if (!scanning_) ClickAt(place);
@@ -77,11 +88,13 @@ frmPlot::frmPlot(const Workspace& workspace)
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
-  auto* mapAndTime = new QVBoxLayout;
-  mapAndTime->addWidget(surface_, 1);
-  mapAndTime->addWidget(leftOut_);
-  mapAndTime->addWidget(timeBar_);
-  layout->addLayout(mapAndTime, 1);
+  auto* map = new QVBoxLayout;
+  map->setSpacing(0);
+  map->addWidget(surface_, 1);
+  map->addWidget(leftOut_);
+  map->addWidget(timeBar_);
+  map->addWidget(status_);
+  layout->addLayout(map, 1);
   layout->addWidget(column);
 
   savedNotice_ = new QLabel("Session data has been saved", surface_);
@@ -105,13 +118,28 @@ void frmPlot::Redraw(MapGround ground) {
     surface_->Drawing().Clear();
     scanned_ = false;
   }
-  if (hour_.IsOn()) {
-    SayLeftOut(hour_.Redraw(ground));
-    return UpdateCommands();
-  }
-  SayLeftOut(DrawMainMap(surface_->Drawing(), workspace_.Folder, workspace_.State, ground));
-  ground == MapGround::Empty ? surface_->ShowDrawing() : surface_->ShowAdditions();
+  added_ = ground == MapGround::AsDrawn;
+  SayLeftOut(DrawOn(ground));
   UpdateCommands();
+  TellOfMap();
+}
+
+std::vector<std::string> frmPlot::DrawOn(MapGround ground) {
+  if (hour_.IsOn()) return hour_.Redraw(ground);
+  std::vector<std::string> notes =
+      DrawMainMap(surface_->Drawing(), workspace_.Folder, workspace_.State, ground);
+  ground == MapGround::Empty ? surface_->ShowDrawing() : surface_->ShowAdditions();
+  return notes;
+}
+
+void frmPlot::TellOfMap() {
+  const SessionState& state = workspace_.State;
+  const float width = surface_->TwipsPerPixel() * static_cast<float>(surface_->width());
+  QStringList words = {Text(ChannelsOn(PresentMap(), state)),
+                       Text(ShownWords(state, StationCount(surface_->Drawing().Stations()), width)),
+                       Text(workspace_.Folder.StationsLine())};
+  words.removeAll({});
+  status_->SetRest(words.join("    "));
 }
 
 QString frmPlot::Words() const {
@@ -227,12 +255,15 @@ void frmPlot::ToggleCompass() {
   surface_->ShowAdditions();
 }
 
-void frmPlot::Print() {
+ShownMap frmPlot::PresentMap() const {
   const Point corner = surface_->ToSheet({0, 0});
   const Point opposite = surface_->ToSheet(QPointF(surface_->width(), surface_->height()));
   const SheetArea shown = {corner.x, corner.y, opposite.x - corner.x, opposite.y - corner.y};
-  const ShownMap map = {surface_->Drawing(), shown, scanned_, surface_->Look(), surface_->Moved()};
-  PrintMap(workspace_.System, workspace_.Folder, workspace_.State, map, this);
+  return {surface_->Drawing(), shown, scanned_, surface_->Look(), surface_->Moved()};
+}
+
+void frmPlot::Print() {
+  PrintMap(workspace_.System, workspace_.Folder, workspace_.State, PresentMap(), this);
 }
 
 void frmPlot::ChooseScan() {
@@ -264,7 +295,8 @@ void frmPlot::ScanOnce() {
   surface_->Drawing().Clear();
   scanned_ = true;
   const MapProjection projection(state.Home(), state.ScaleFactor);
-  std::vector<std::string> notes = DrawOutlineFiles(surface_->Drawing(), workspace_.Folder, projection);
+  status_->SetRest("All stations are being drawn");
+  std::vector<std::string> notes = DrawMapGround(surface_->Drawing(), workspace_.Folder, state);
   surface_->ShowDrawing();
   for (BandScan scan(workspace_.Folder, projection); !scan.AtEnd() && !state.StopRequested;) {
     const int channel = static_cast<int>(scan.Channel());
@@ -277,9 +309,11 @@ void frmPlot::ScanOnce() {
     workspace_.System.ProcessEvents();
   }
   state.StopRequested = true;
+  DrawScaleBar(surface_->Drawing(), state);
   // The labels that came channel by channel are placed once more, each with regard to all.
   surface_->ShowDrawing();
   SayLeftOut(notes);
+  TellOfMap();
 }
 
 void frmPlot::ShowScanControls(bool running) {
@@ -296,18 +330,12 @@ void frmPlot::ShowScanControls(bool running) {
   UpdateCommands();
 }
 
-const StationMark* frmPlot::MarkAt(Point place) const {
-  return NearestStation(surface_->Drawing().Stations(), place, TipReach * surface_->TwipsPerPixel());
-}
-
 QString frmPlot::TipAt(Point place) const {
-  const StationMark* mark = MarkAt(place);
-  if (!mark) return {};
-  return Text(StationTip(workspace_.Folder, workspace_.State, *mark).value_or(""));
+  return Text(StationsTip(workspace_.Folder, workspace_.State, RecordsAt(*surface_, place)));
 }
 
 void frmPlot::ClickAt(Point place) {
-  const StationMark* mark = MarkAt(place);
+  const StationMark* mark = RecordToOpenAt(*surface_, place);
   if (!mark) return;
   if (OpensLookup(*mark, workspace_.State)) return LookUp(Text(mark->CallSign));
   surface_->ShowTip(QCursor::pos(), TipAt(place));

@@ -10,6 +10,7 @@
 #include "forms/MapView.h"
 #include "forms/Workspace.h"
 #include "map/MainMap.h"
+#include "map/PrintedPages.h"
 
 class QDialog;
 class QLabel;
@@ -20,7 +21,9 @@ namespace kestrel {
 
 class CommandColumn;
 class frmAspect;
+class frmGetDistance;
 class MapSurface;
+class StatusLine;
 class ViewMenu;
 
 /// The main window: the map around home and the column of commands. Every command works on the session and
@@ -41,6 +44,7 @@ class frmPlot final : public QWidget {
   void AddCommands(CommandColumn& column);
   void AddViewCommands(CommandColumn& column);
   void AddViewMenu();
+  void ShowMenuAt(QPoint pixel);
 
   void RunForm(QDialog& form);
   void RunForm(QDialog&& form) { RunForm(form); }
@@ -54,7 +58,15 @@ class frmPlot final : public QWidget {
   void TurnTime(bool on);
   void NextHoursFilter();
   void ToggleCompass();
+  ShownMap PresentMap() const;
   void Print();
+  void CopyMap();
+  void SaveMap();
+  void ShowDistanceTo(const Position& place);
+  void MeasureWith(frmGetDistance& form);
+  void MakeHome(const Position& place);
+  std::vector<std::string> DrawOn(MapGround ground);
+  void TellOfMap();
 
   void ChooseScan();
   void Scan();
@@ -66,7 +78,6 @@ class frmPlot final : public QWidget {
 
   QString TipAt(Point place) const;
   void ClickAt(Point place);
-  const StationMark* MarkAt(Point place) const;
 
   QPushButton* Button(const char* name) const;
   void UpdateCommands();
@@ -79,12 +90,14 @@ class frmPlot final : public QWidget {
   TimeBar* timeBar_;
   MapHour hour_;
   ViewMenu* menu_;
+  StatusLine* status_;
   QProgressBar* progress_;
   QLabel* savedNotice_;
   QLabel* leftOut_;
   QPointer<frmAspect> aspect_;  // while it is open
   bool scanning_ = false;
   bool scanned_ = false;     // the map began with the stations of a scan
+  bool added_ = false;       // another channel was drawn on top
   bool scanAgain_ = false;   // asked for while a scan ran
   bool closeAsked_ = false;  // likewise
   bool saved_ = false;

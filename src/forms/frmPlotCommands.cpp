@@ -14,8 +14,6 @@
 #include "map/View.h"
 #include "ui/CommandColumn.h"
 #include "ui/Keys.h"
-#include "ui/MapMover.h"
-#include "ui/MapSurface.h"
 #include "ui/ViewMenu.h"
 
 namespace kestrel {
@@ -28,7 +26,10 @@ void frmPlot::AddCommands(CommandColumn& column) {
   column.AddCommand("cmdAll", "&All", [this] { ChooseScan(); });
   AddViewCommands(column);
   column.AddCommand("cmdHets", "H&ets", [this] { RunForm(frmShowHets(workspace_, this)); });
-  column.AddCommand("cmdDistance", "&Distance", [this] { RunForm(frmGetDistance(workspace_, this)); });
+  column.AddCommand("cmdDistance", "&Distance", [this] {
+    frmGetDistance form(workspace_, this);
+    MeasureWith(form);
+  });
   column.AddCommand("cmdOptions", "&Options", [this] { ChooseOptions(); });
   column.AddCommand("cmdPrint", "&Print", [this] { Print(); });
   column.AddCommand("cmdImport", "I&mport", [this] { ImportStations(); });
@@ -43,25 +44,6 @@ void frmPlot::AddCommands(CommandColumn& column) {
 
   AddShortcuts(*this, "channelUp", [this] { StepChannel(StepUp); });
   AddShortcuts(*this, "channelDown", [this] { StepChannel(StepDown); });
-}
-
-void frmPlot::AddViewMenu() {
-  menu_ = new ViewMenu(*this);
-  menu_->Turned = [this](const QString& name) {
-    if (name == "actTime") return TurnTime(menu_->IsOn("actTime"));
-    surface_->SetLook(menu_->Look());
-  };
-  menu_->AddCommand("actReset", "&Reset view", [this] { view_.Reset(); });
-  surface_->SetLook(menu_->Look());
-  timeBar_->Settled = [this] { Redraw(); };
-  hour_.Turn(menu_->IsOn("actTime"));
-  auto* mover = new MapMover(*surface_);
-  mover->ZoomWanted = [this](double factor, Point place) {
-    if (!scanning_) view_.Zoom(factor, place);
-  };
-  surface_->setContextMenuPolicy(Qt::CustomContextMenu);
-  connect(surface_, &QWidget::customContextMenuRequested, menu_,
-          [this](QPoint at) { menu_->popup(surface_->mapToGlobal(at)); });
 }
 
 void frmPlot::AddViewCommands(CommandColumn& column) {

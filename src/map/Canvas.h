@@ -53,6 +53,9 @@ struct StationLabel {
 /// What a panel keeps to: its place on the map, or a corner of the surface, however the map is moved.
 enum class PanelPlace : std::uint8_t { OnMap, UpperLeft, LowerLeft, LowerRight };
 
+/// How a line is broken. Those of the hours are where the surface tells hours by their lines.
+enum class Dash : std::uint8_t { None, Spoke, Night, Critical, Unlimited };
+
 /// Parts of the map that a surface may leave out.
 enum class MapLayer : std::uint8_t { Legend, Rings, ScaleBar };
 
@@ -70,6 +73,8 @@ class Canvas {
   virtual void SetColor(ColorValue color) = 0;
   virtual void SetLineWidth(float width) = 0;  ///< in pixels of an ordinary screen, whatever the scale
   virtual void SetFont(const Font& font) = 0;
+  /// Of lines, open or closed; a canvas begins with None, and a figure that breaks its lines sets it back.
+  virtual void SetDash(Dash) {}
 
   virtual void Line(Point from, Point to) = 0;
   virtual void Polyline(std::span<const Point> points) = 0;

@@ -38,13 +38,22 @@ const OutlineDirections& Directions() {
   return directions;
 }
 
-/// Text in a bright colour is hard to read on white; this keeps the hue.
-ColorValue Darkened(ColorValue color) {
-  const auto half = [](int part) { return part * 11 / 20; };
-  return half(color & 0xFF) | half(color >> 8 & 0xFF) << 8 | half(color >> 16 & 0xFF) << 16;
-}
-
 }  // namespace
+
+Dash DashOf(Hours hours) {
+  switch (hours) {
+    case Hours::Nighttime:
+      return Dash::Night;
+    case Hours::Critical:
+      return Dash::Critical;
+    case Hours::Unlimited:
+      return Dash::Unlimited;
+    case Hours::Daytime:
+    case Hours::Other:
+      return Dash::None;
+  }
+  return Dash::None;
+}
 
 bool HasPattern(StationRecord& record, PatternValues& pattern) {
   return record.TowerCount > 0 && ComputePattern(record, pattern);
@@ -88,7 +97,9 @@ void ChannelPlotter::Draw(const StationRecord& record, const PatternValues* patt
   } else if (style_.Factor == 0) {
     canvas_.Dot(*at);
   } else {
+    if (!adjacent_) canvas_.SetDash(DashOf(HoursOf(record.HoursCode)));
     DrawPattern(canvas_, state_, *at, style_, *pattern);
+    if (!adjacent_) canvas_.SetDash(Dash::None);
   }
   DrawLabel(record, *at);
   canvas_.EndStation();

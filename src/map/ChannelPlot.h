@@ -77,6 +77,9 @@ ChannelOutcome ForEachRecord(const DataFolder& folder, float frequency,
 ChannelOutcome PlotChannel(Canvas& canvas, const DataFolder& folder, const SessionState& state,
                            const MapProjection& projection, float plotFrequency);
 
+/// The line of those hours, where hours are told by their lines.
+Dash DashOf(Hours hours);
+
 /// Draws the outline of a pattern around a station: 180 vertices, each two degrees, the value of azimuth k at
 /// bearing k - 1.
 void DrawPattern(Canvas& canvas, const SessionState& state, Point station, const PatternStyle& style,

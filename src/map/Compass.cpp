@@ -43,7 +43,9 @@ void DrawCompass(Canvas& canvas, float aspectRatio) {
     const Point outer = OnRose(bearing, kOuterRadius, aspectRatio);
     const Point inner = bearing % 90 == 0 ? HomeOnSheet : OnRose(bearing, kInnerRadius, aspectRatio);
     canvas.SetColor(Palette::CompassSpoke);
+    canvas.SetDash(Dash::Spoke);
     canvas.Line(inner, outer);
+    canvas.SetDash(Dash::None);
     DrawBearingBox(canvas, bearing, outer);
   }
 }

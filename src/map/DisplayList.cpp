@@ -1,8 +1,21 @@
 #include "map/DisplayList.h"
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace kestrel {
+namespace {
+
+float DistanceToSegment(Point point, Point from, Point to) {
+  const float x = to.x - from.x, y = to.y - from.y;
+  const float squared = x * x + y * y;
+  const float way = (point.x - from.x) * x + (point.y - from.y) * y;
+  const float share = squared > 0 ? std::clamp(way / squared, 0.0F, 1.0F) : 0;
+  return std::hypot(point.x - from.x - share * x, point.y - from.y - share * y);
+}
+
+}  // namespace
 
 void DisplayList::AddPoints(Verb verb, std::span<const Point> points, float number) {
   Command command{verb};
@@ -28,6 +41,12 @@ void DisplayList::SetFont(const Font& font) {
   font_ = font;
   AddPoints(Verb::SetFont, {}, font.Points);
   commands_.back().face = font.Face;
+}
+
+void DisplayList::SetDash(Dash dash) {
+  Command command{Verb::SetDash};
+  command.first = static_cast<std::uint32_t>(dash);
+  commands_.push_back(command);
 }
 
 void DisplayList::Line(Point from, Point to) {
@@ -86,18 +105,21 @@ void DisplayList::RimmedText(Point topLeft, std::string_view text) {
 void DisplayList::Label(const StationLabel& label) {
   AddText(Verb::Label, label.At, label.Text);
   Command& command = commands_.back();
-  labels_.push_back({label.At, command.first, command.count, color_, font_, label.Chosen, label.Weight});
+  labels_.push_back(
+      {label.At, command.first, command.count, color_, font_, label.Chosen, label.Weight, station_});
   command.first = static_cast<std::uint32_t>(labels_.size()) - 1;
 }
 
 void DisplayList::BeginStation(const StationMark& mark) {
   Command command{Verb::BeginStation};
   command.first = static_cast<std::uint32_t>(stations_.size());
+  station_ = command.first;
   stations_.push_back(mark);
   commands_.push_back(command);
 }
 
 void DisplayList::EndStation() {
+  station_.reset();
   AddPoints(Verb::EndStation, {});
 }
 
@@ -130,6 +152,7 @@ void DisplayList::Clear() {
   color_ = 0;
   panel_.reset();
   layer_.reset();
+  station_.reset();
   labels_.clear();
   panelBoxes_.clear();
   commands_.clear();
@@ -137,6 +160,25 @@ void DisplayList::Clear() {
   text_.clear();
   areas_.clear();
   stations_.clear();
+}
+
+std::vector<std::uint32_t> DisplayList::StationsWithLineAt(Point place, float reach) const {
+  std::vector<std::uint32_t> found;
+  std::optional<std::uint32_t> station;
+  const SheetBox around = {{place.x - reach, place.y - reach}, {place.x + reach, place.y + reach}};
+  for (const Command& command : commands_) {
+    if (command.verb == Verb::BeginStation) station = command.first;
+    if (command.verb == Verb::EndStation) station.reset();
+    if (!station || !IsLine(command.verb) || !command.box.Touches(around)) continue;
+    if (!found.empty() && found.back() == *station) continue;
+    const std::span points(points_.data() + command.first, command.count);
+    bool near = false;
+    const std::size_t first = command.verb == Verb::Polygon ? 0 : 1;  // a closed one goes back to its begin
+    for (std::size_t i = first; i < points.size() && !near; ++i)
+      near = DistanceToSegment(place, points[i > 0 ? i - 1 : points.size() - 1], points[i]) <= reach;
+    if (near) found.push_back(*station);
+  }
+  return found;
 }
 
 void DisplayList::PlayLabels(std::span<const std::uint32_t> labels, Canvas& canvas,
@@ -196,6 +238,8 @@ void DisplayList::PlayCommand(const Command& command, Canvas& canvas) const {
       return canvas.SetLineWidth(command.number);
     case Verb::SetFont:
       return canvas.SetFont({command.face, command.number});
+    case Verb::SetDash:
+      return canvas.SetDash(static_cast<Dash>(command.first));
     case Verb::Line:
       return canvas.Line(points()[0], points()[1]);
     case Verb::Polyline:

@@ -19,6 +19,7 @@ struct KeptLabel {
   Font Face;
   bool Chosen = false;
   float Weight = 0;
+  std::optional<std::uint32_t> Station;  ///< whose it is, of the list's stations
 };
 
 /// A box that a panel of a list fills.
@@ -44,6 +45,7 @@ class DisplayList final : public Canvas {
   void SetColor(ColorValue color) override;
   void SetLineWidth(float width) override;
   void SetFont(const Font& font) override;
+  void SetDash(Dash dash) override;
   void Line(Point from, Point to) override;
   void Polyline(std::span<const Point> points) override;
   void Polygon(std::span<const Point> points) override;
@@ -89,6 +91,9 @@ class DisplayList final : public Canvas {
   /// The stations drawn, in drawing order.
   const std::vector<StationMark>& Stations() const { return stations_; }
 
+  /// Those with a line of theirs within `reach` twips of the place, in drawing order.
+  std::vector<std::uint32_t> StationsWithLineAt(Point place, float reach) const;
+
   /// The labels and the boxes of panels, in drawing order.
   const std::vector<KeptLabel>& Labels() const { return labels_; }
   const std::vector<PanelBox>& PanelBoxes() const { return panelBoxes_; }
@@ -101,6 +106,7 @@ class DisplayList final : public Canvas {
     SetColor,
     SetLineWidth,
     SetFont,
+    SetDash,
     Line,
     Polyline,
     Polygon,
@@ -126,7 +132,7 @@ class DisplayList final : public Canvas {
     Verb verb;
     FontFace face = FontFace::Sans;
     float number = 0;         // width, radius or font size
-    std::uint32_t first = 0;  // in points_, text_, areas_, stations_ or labels_; or the colour or the layer
+    std::uint32_t first = 0;  // in points_, text_, areas_, stations_ or labels_; or the colour, dash or layer
     std::uint32_t count = 0;  // of points or bytes of text; or the panel's place
     Point at = {};            // the text's place
     SheetBox box = {};        // around lines
@@ -138,7 +144,8 @@ class DisplayList final : public Canvas {
   };
 
   static bool SetsState(Verb verb) {
-    return verb == Verb::SetColor || verb == Verb::SetLineWidth || verb == Verb::SetFont;
+    return verb == Verb::SetColor || verb == Verb::SetLineWidth || verb == Verb::SetFont ||
+           verb == Verb::SetDash;
   }
   static bool IsLine(Verb verb) {
     return verb == Verb::Line || verb == Verb::Polyline || verb == Verb::Polygon;
@@ -151,8 +158,9 @@ class DisplayList final : public Canvas {
   const TextMeasure& measure_;
   Font font_;
   ColorValue color_ = 0;
-  std::optional<PanelBox> panel_;  // being drawn, its box not yet known
-  std::optional<MapLayer> layer_;  // being drawn
+  std::optional<PanelBox> panel_;         // being drawn, its box not yet known
+  std::optional<MapLayer> layer_;         // being drawn
+  std::optional<std::uint32_t> station_;  // likewise
   std::vector<Command> commands_;
   std::vector<Point> points_;
   std::string text_;

@@ -10,6 +10,12 @@ namespace kestrel {
 /// distance.
 float LabelWeight(Point station, float powerKW);
 
+/// The colour, darker but of the same hue: a bright one is hard to read as text on white.
+ColorValue Darkened(ColorValue color);
+
+/// The same where the colour is too bright to be read on white, else the colour itself.
+ColorValue ReadableOnWhite(ColorValue color);
+
 /// Which labels of the stations a surface shows: those that find a place of their own, all of them whatever
 /// they cover, or none.
 enum class LabelChoice { Fitting, All, None };

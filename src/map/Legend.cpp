@@ -3,10 +3,14 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <span>
+#include <vector>
 
 #include "core/Hours.h"
 #include "core/Numbers.h"
 #include "core/Text.h"
+#include "map/ChannelPlot.h"
+#include "map/Labels.h"
 
 namespace kestrel {
 namespace {
@@ -22,6 +26,15 @@ struct LegendLine {
   std::string Text;
 };
 
+/// The line of hours, and the words beside it.
+struct HoursLine {
+  float Top;
+  ColorValue Color;
+  const char* Text;
+  float Width;
+  Dash Broken;
+};
+
 /// A white box under lines of text, at least `right` wide.
 void DrawLines(Canvas& canvas, float top, float bottom, float right, std::span<const LegendLine> lines) {
   for (const LegendLine& line : lines)
@@ -32,6 +45,20 @@ void DrawLines(Canvas& canvas, float top, float bottom, float right, std::span<c
     canvas.SetColor(line.Color);
     canvas.Text({kTextLeft, line.Top}, line.Text);
   }
+}
+
+void DrawHours(Canvas& canvas, std::span<const HoursLine> lines) {
+  std::vector<LegendLine> words;
+  for (const HoursLine& line : lines) words.push_back({line.Top, ReadableOnWhite(line.Color), line.Text});
+  DrawLines(canvas, 6800, 8080, 1900, words);
+  for (const HoursLine& line : lines) {
+    const float middle = line.Top + canvas.TextHeight() / 2;
+    canvas.SetColor(line.Color);
+    canvas.SetLineWidth(line.Width);
+    canvas.SetDash(line.Broken);
+    canvas.Line({kBoxLeft + 30, middle}, {kTextLeft - 60, middle});
+  }
+  canvas.SetDash(Dash::None);
 }
 
 void DrawScales(Canvas& canvas, const SessionState& state, std::optional<Moment> moment) {
@@ -70,10 +97,14 @@ std::string PatternScaleText(float patternSize) {
 
 void DrawLegend(Canvas& canvas, const SessionState& state, std::optional<Moment> moment) {
   const float frequency = state.SelectedFrequency > 0 ? state.SelectedFrequency : state.CurrentFrequency;
-  const std::array hours = {
-      LegendLine{6860, state.AdjacentColor, "Adjacents"}, LegendLine{7100, state.UnlimitedColor, "Unlimited"},
-      LegendLine{7340, state.DayColor, "Daytime"}, LegendLine{7580, state.CriticalColor, "Critical"},
-      LegendLine{7820, state.NightColor, "Nighttime"}};
+  const auto line = [](float top, ColorValue color, const char* words, Hours hours) {
+    return HoursLine{top, color, words, PatternLineWidth, DashOf(hours)};
+  };
+  const std::array hours = {HoursLine{6860, state.AdjacentColor, "Adjacents", 1, Dash::None},
+                            line(7100, state.UnlimitedColor, "Unlimited", Hours::Unlimited),
+                            line(7340, state.DayColor, "Daytime", Hours::Daytime),
+                            line(7580, state.CriticalColor, "Critical", Hours::Critical),
+                            line(7820, state.NightColor, "Nighttime", Hours::Nighttime)};
   const std::array places = {LegendLine{8060, Palette::Text, "Frequency: " + NumberText(frequency) + " kHz"},
                              LegendLine{8300, Palette::Text,
                                         "Home Lat: " + NumberText(state.HomeLatitude) +
@@ -83,7 +114,7 @@ void DrawLegend(Canvas& canvas, const SessionState& state, std::optional<Moment>
   canvas.BeginLayer(MapLayer::Legend);
   canvas.BeginPanel({kBoxLeft, 9400}, kLegendFont, PanelPlace::LowerLeft);
   canvas.SetFont(kLegendFont);
-  DrawLines(canvas, 6800, 8080, 1900, hours);
+  DrawHours(canvas, hours);
   DrawLines(canvas, 8080, 8800, 4500, places);
   DrawScales(canvas, state, moment);
   canvas.EndPanel();

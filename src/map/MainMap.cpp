@@ -9,6 +9,7 @@
 #include "map/Legend.h"
 #include "map/MapProjection.h"
 #include "map/Outlines.h"
+#include "map/Rings.h"
 
 namespace kestrel {
 
@@ -54,12 +55,19 @@ std::string NotesLine(const std::vector<std::string>& notes) {
   return line;
 }
 
+std::vector<std::string> DrawMapGround(Canvas& canvas, const DataFolder& folder, const SessionState& state) {
+  std::vector<std::string> notes =
+      DrawOutlineFiles(canvas, folder, MapProjection(state.Home(), state.ScaleFactor));
+  DrawRings(canvas, state);
+  return notes;
+}
+
 std::vector<std::string> DrawMainMap(Canvas& canvas, const DataFolder& folder, const SessionState& state,
                                      MapGround ground) {
   const MapProjection projection(state.Home(), state.ScaleFactor);
   const std::vector<float> channels = ShownChannels(state);
   std::vector<std::string> notes;
-  if (ground == MapGround::Empty) notes = DrawOutlineFiles(canvas, folder, projection);
+  if (ground == MapGround::Empty) notes = DrawMapGround(canvas, folder, state);
   const ChannelOutcome outcome = ForShownChannels(
       state, [&](float channel) { return PlotChannel(canvas, folder, state, projection, channel); });
   notes.insert(notes.end(), outcome.Notes.begin(), outcome.Notes.end());
@@ -69,6 +77,7 @@ std::vector<std::string> DrawMainMap(Canvas& canvas, const DataFolder& folder, c
   }
   if (outcome.FileMissing) DrawMissingFileNotice(canvas, state.CurrentFrequency);
   if (state.CompassShown == 1) DrawCompass(canvas, state.AspectRatio);
+  DrawScaleBar(canvas, state);
   return notes;
 }
 

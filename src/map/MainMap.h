@@ -17,6 +17,10 @@ enum class MapGround {
   AsDrawn,  ///< they are there already, the channel is added on top
 };
 
+/// What the stations of a map lie on: coasts, borders, the mark of home, rings. Returns what of the files
+/// cannot be read.
+std::vector<std::string> DrawMapGround(Canvas& canvas, const DataFolder& folder, const SessionState& state);
+
 /// Draws the main map as the session has it, from its files: outlines and home mark, the current channel, the
 /// channels 10 kHz beside it when `AdjacentsShown` is 1, the legend, and the compass when `CompassShown`
 /// is 1. Channels outside the band are passed over; when all are, there is no legend. A missing station file

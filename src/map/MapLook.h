@@ -12,8 +12,9 @@ struct MapLook {
   bool Legend = true;
   bool Rings = false;
   bool ScaleBar = false;
+  bool HourLines = false;  ///< the hours are told by broken lines as well as by colours
 
-  static MapLook Everything() { return {LabelChoice::All, true, true, true}; }
+  static MapLook Everything() { return {LabelChoice::All, true, true, true, true}; }
 
   bool Shows(MapLayer layer) const {
     switch (layer) {

@@ -11,14 +11,13 @@ namespace kestrel {
 namespace {
 
 constexpr double kRadian = std::numbers::pi / 180;
-constexpr double kKilometresPerScale = 75;
 
 }  // namespace
 
 MapProjection::MapProjection(const Position& home, float scaleFactor) {
   const auto [sine, cosine] = SineAndCosine(home.Latitude);
   center_ = {sine, cosine, -double{home.Longitude},
-             KilometresPerDegree / kRadian * scaleFactor / kKilometresPerScale};
+             KilometresPerDegree / kRadian * scaleFactor / KilometresPerScale};
   onEarth_ = std::abs(home.Latitude) <= 90 && std::abs(home.Longitude) <= 360;
   if (onEarth_) return;
   center_.SinLatitude = std::sin(home.Latitude * kRadian);

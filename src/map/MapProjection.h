@@ -9,6 +9,9 @@
 
 namespace kestrel {
 
+/// What a scale of 1 draws as a twip.
+inline constexpr double KilometresPerScale = 75;
+
 /// The azimuthal equidistant projection of the main map: a place D km from home on course B lies
 ///
 ///     x = 6000 + r sin B,   y = 4500 - r cos B,   r = D * scale / 75     (twips)

@@ -3,7 +3,7 @@
 #include "map/Compass.h"
 #include "map/Legend.h"
 #include "map/NightShade.h"
-#include "map/Outlines.h"
+#include "map/Rings.h"
 
 namespace kestrel {
 
@@ -13,7 +13,7 @@ std::vector<std::string> MomentMap::Read(const DataFolder& folder, const Session
   if (ground == MapGround::Empty) {
     layers_.clear();
     outlines_.Clear();
-    notes = DrawOutlineFiles(outlines_, folder, MapProjection(state.Home(), state.ScaleFactor));
+    notes = DrawMapGround(outlines_, folder, state);
   }
   Layer& layer = layers_.emplace_back();
   layer.State = state;
@@ -42,6 +42,7 @@ void MomentMap::Draw(Canvas& canvas, Moment moment, HoursRule rule) {
   if (!layers_.back().Channels.empty()) DrawLegend(canvas, state, moment);
   if (layers_.back().FileMissing) DrawMissingFileNotice(canvas, state.CurrentFrequency);
   if (state.CompassShown == 1) DrawCompass(canvas, state.AspectRatio);
+  DrawScaleBar(canvas, state);
 }
 
 void MomentMap::DrawChannel(Canvas& canvas, const SessionState& state, Channel& channel, Moment moment,

@@ -51,17 +51,6 @@ std::string ChannelsText(const std::set<int>& channels) {
   return text + " kHz";
 }
 
-/// The channels that the map holds: the chosen one before those drawn beside it.
-std::string ChannelsOn(const ShownMap& map, const SessionState& state) {
-  std::set<int> channels;
-  for (const StationMark& mark : map.Drawing.Stations()) channels.insert(mark.Channel);
-  if (map.Scanned) return ChannelsText(channels);
-  const float chosen = state.SelectedFrequency > 0 ? state.SelectedFrequency : state.CurrentFrequency;
-  std::erase_if(channels, [chosen](int channel) { return static_cast<float>(channel) == chosen; });
-  const std::string text = NumberText(chosen) + " kHz";
-  return channels.empty() ? text : text + " with " + ChannelsText(channels);
-}
-
 /// "1510 kHz Wichita", after the city of home; without a name the first words alone.
 std::string DocumentName(const std::string& what, const SessionState& state) {
   const std::string city(Trim(SplitPlaceName(state.HomeName).first));
@@ -181,6 +170,16 @@ PagePane TablePane(const SheetArea& place, std::vector<TowerRow> rows) {
 }
 
 }  // namespace
+
+std::string ChannelsOn(const ShownMap& map, const SessionState& state) {
+  std::set<int> channels;
+  for (const StationMark& mark : map.Drawing.Stations()) channels.insert(mark.Channel);
+  if (map.Scanned) return ChannelsText(channels);
+  const float chosen = state.SelectedFrequency > 0 ? state.SelectedFrequency : state.CurrentFrequency;
+  std::erase_if(channels, [chosen](int channel) { return static_cast<float>(channel) == chosen; });
+  const std::string text = NumberText(chosen) + " kHz";
+  return channels.empty() ? text : text + " with " + ChannelsText(channels);
+}
 
 PrintedPage MapPage(const SessionState& state, const DataFolder& folder, const ShownMap& map) {
   const std::string title = ChannelsOn(map, state) + "    Home: " + HomePlace(state);

@@ -56,6 +56,9 @@ struct ShownMap {
   Point Moved = {};  ///< how far the window has moved the map
 };
 
+/// The channels that the map holds, "620 kHz with 610, 630 kHz": the chosen one before those drawn beside it.
+std::string ChannelsOn(const ShownMap& map, const SessionState& state);
+
 /// The main map as it was drawn and at least as far as it is shown, under its channels, home and the line
 /// that says where the stations come from. The drawing must outlive the page.
 PrintedPage MapPage(const SessionState& state, const DataFolder& folder, const ShownMap& map);

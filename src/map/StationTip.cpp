@@ -1,5 +1,6 @@
 #include "map/StationTip.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "core/Distance.h"
@@ -8,6 +9,7 @@
 #include "core/Text.h"
 #include "data/StationFile.h"
 #include "map/ChannelPlot.h"
+#include "map/Labels.h"
 #include "map/MapProjection.h"
 
 namespace kestrel {
@@ -58,6 +60,31 @@ std::optional<std::string> StationTip(const DataFolder& folder, const SessionSta
   }
   if (head.empty()) return std::nullopt;
   return head + '\n' + powers + '\n' + place;
+}
+
+std::string StationsTip(const DataFolder& folder, const SessionState& state, std::vector<StationMark> marks) {
+  constexpr std::size_t kMostLines = 8;
+  std::stable_sort(marks.begin(), marks.end(), [](const StationMark& a, const StationMark& b) {
+    return LabelWeight(a.At, a.PowerKW) > LabelWeight(b.At, b.PowerKW);
+  });
+  std::vector<const StationMark*> stations;
+  for (const StationMark& mark : marks)
+    if (std::none_of(stations.begin(), stations.end(), [&](const StationMark* other) {
+          return other->Channel == mark.Channel && other->CallSign == mark.CallSign && other->At == mark.At;
+        }))
+      stations.push_back(&mark);
+  if (stations.size() == 1) return StationTip(folder, state, *stations[0]).value_or("");
+  std::string tip;
+  for (std::size_t i = 0; i < std::min(stations.size(), kMostLines); ++i) {
+    std::string line = StationTip(folder, state, *stations[i]).value_or("");
+    if (line.empty()) continue;
+    line.replace(line.find('\n'), 1, ": ");
+    line.replace(line.rfind('\n'), 1, "; ");
+    tip += (tip.empty() ? "" : "\n") + line;
+  }
+  if (stations.size() > kMostLines && !tip.empty())
+    tip += "\nand " + std::to_string(stations.size() - kMostLines) + " more";
+  return tip;
 }
 
 bool OpensLookup(const StationMark& mark, const SessionState& state) {

@@ -3,6 +3,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <vector>
 
 #include "core/SessionState.h"
 #include "data/DataFolder.h"
@@ -28,6 +29,13 @@ const StationMark* NearestStation(std::span<const StationMark> marks, Point poin
 ///     "412.3 km, 88.4 deg"
 std::optional<std::string> StationTip(const DataFolder& folder, const SessionState& state,
                                       const StationMark& mark);
+
+/// The same of several records' stations, the one with the most power over the square of its distance from
+/// home first. Of more than one station each has a line, of more than eight the last line tells how many more
+/// there are. Empty when the files hold none of them.
+///
+///     "1230 kHz QABC  Springfield, IL: 1 kW daytime, 250 watts nighttime; 412.3 km, 88.4 deg"
+std::string StationsTip(const DataFolder& folder, const SessionState& state, std::vector<StationMark> marks);
 
 /// Whether a click on the mark opens the station lookup, which knows the current channel only.
 bool OpensLookup(const StationMark& mark, const SessionState& state);

@@ -1,10 +1,13 @@
 #include "ui/MapSurface.h"
 
+#include <QCursor>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTextDocument>
 #include <QToolTip>
 #include <algorithm>
+
+#include "draw/LabelPlacement.h"
 
 namespace kestrel {
 
@@ -35,7 +38,10 @@ void MapSurface::SetLook(const MapLook& look) {
 void MapSurface::MoveTo(Point by) {
   const Point before = Moved();
   moved_ = MoveWithinLimits(RulesAtRest(size(), 1), by);
-  if (moved_ != before) ShowDrawing();
+  if (moved_ == before) return;
+  ShowDrawing();
+  // Another place has come under the mouse.
+  if (underMouse() && MouseMoved) MouseMoved(ToSheet(mapFromGlobal(QPointF(QCursor::pos()))));
 }
 
 Point MapSurface::Moved() const {
@@ -50,10 +56,14 @@ SurfaceRules MapSurface::RulesAtRest(QSize pixels, double pixelSize) const {
   return rules;
 }
 
-SheetFit MapSurface::Fit() const {
+SurfaceRules MapSurface::RulesNow() const {
   SurfaceRules rules = RulesAtRest(size(), 1);
   MoveSheet(rules, Moved());
-  return rules.Fit;
+  return rules;
+}
+
+SheetFit MapSurface::Fit() const {
+  return RulesNow().Fit;
 }
 
 Point MapSurface::ToSheet(const QPointF& position) const {
@@ -109,6 +119,18 @@ bool MapSurface::event(QEvent* event) {
   const auto* help = static_cast<QHelpEvent*>(event);
   ShowTip(help->globalPos(), TipWanted(ToSheet(help->pos())));
   return true;
+}
+
+std::vector<std::uint32_t> MapSurface::LabelsAt(Point place) const {
+  return kestrel::LabelsAt(drawing_, RulesNow(), renderer_.Labels(), FromSheet(place));
+}
+
+void MapSurface::leaveEvent(QEvent*) {
+  if (MouseLeft) MouseLeft();
+}
+
+void MapSurface::resizeEvent(QResizeEvent*) {
+  if (Resized) Resized();
 }
 
 void MapSurface::ShowTip(QPoint place, const QString& text) {

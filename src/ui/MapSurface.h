@@ -51,8 +51,13 @@ class MapSurface : public QWidget {
   std::function<void(Point, Qt::MouseButton)> MousePressed;
   /// Called when the left button has been pressed and released on the surface.
   std::function<void(Point)> Clicked;
+  /// Called when the mouse has left the surface.
+  std::function<void()> MouseLeft;
+  std::function<void()> Resized;
   /// Called when the mouse rests at a position; what it returns is shown there, unless it is empty.
   std::function<QString(Point)> TipWanted;
+  /// The labels shown at a place of the sheet.
+  std::vector<std::uint32_t> LabelsAt(Point place) const;
   /// Shows a plain text at a place of the screen, as long as the mouse stays there.
   void ShowTip(QPoint place, const QString& text);
 
@@ -73,11 +78,14 @@ class MapSurface : public QWidget {
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   bool event(QEvent* event) override;
 
  private:
   void Render();
   void RenderAnew(const SurfaceRules& rules);
+  SurfaceRules RulesNow() const;
   /// The rules for a surface of this many pixels, not moved.
   SurfaceRules RulesAtRest(QSize pixels, double pixelSize) const;
   SheetFit Fit() const;

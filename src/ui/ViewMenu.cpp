@@ -18,6 +18,9 @@ struct Switch {
 
 constexpr std::array kSwitches = {
     Switch{"actLegend", "Le&gend", true},
+    Switch{"actRings", "&Rings of distance", false},
+    Switch{"actScaleBar", "&Scale bar", true},
+    Switch{"actHourLines", "&Hours by broken lines", false},
     Switch{"actTime", "&Time", false},
 };
 
@@ -108,6 +111,7 @@ MapLook ViewMenu::Look() const {
   look.Legend = IsOn("actLegend");
   look.Rings = IsOn("actRings");
   look.ScaleBar = IsOn("actScaleBar");
+  look.HourLines = IsOn("actHourLines");
   return look;
 }
 

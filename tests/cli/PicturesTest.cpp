@@ -139,11 +139,13 @@ TEST_F(PicturesTest, ScanShowsEveryChannelAndIsSilentWithoutATerminal) {
   const Svg svg = ReadSvg(folder_.Text("scan.svg"));
   EXPECT_TRUE(svg.WellFormed);
   EXPECT_EQ(svg.Ids, (QStringList{"QLOW-610-U", "QAAA-620-D", "QAAA-620-N", "QAAA-620-N-2", "QB1-620-U"}));
-  EXPECT_EQ(svg.Texts, (QStringList{"610", "620", "620"}));
+  EXPECT_EQ(svg.Texts, (QStringList{"610", "620", "620", "100 km"}));
   const auto texts = [&](const char* labels) {
-    EXPECT_EQ(
-        folder_.Run({"scan", "--home", "40,75", "--scale", "1000", "--labels", labels, "-o", "l.svg"}).Status,
-        0);
+    EXPECT_EQ(folder_
+                  .Run({"scan", "--home", "40,75", "--scale", "1000", "--labels", labels, "--no-scale-bar",
+                        "-o", "l.svg"})
+                  .Status,
+              0);
     return ReadSvg(folder_.Text("l.svg")).Texts;
   };
   EXPECT_EQ(texts("all"), (QStringList{"610", "620", "620", "620"}));  // once for each place

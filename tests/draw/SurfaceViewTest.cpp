@@ -146,6 +146,32 @@ TEST(SurfaceViewTest, APanelGrowsAsOnePieceFromItsAnchorUntilItsTextCanBeRead) {
   EXPECT_NEAR(large.FontSize(legend), 80, 1e-3);  // 200 twips at 0.4 pixels
 }
 
+TEST(SurfaceViewTest, ADashedLineIsBrokenAlongItsWholeLength) {
+  SurfaceRules rules = RulesFor({0, 0, 1200, 950});
+  rules.Look.HourLines = true;
+  const std::vector<Point> corner = {{1000, 1000}, {3003, 1000}, {3003, 2000}};  // 300.3 pixels
+  const auto ink = [&](Dash dash, std::size_t& strokes) {
+    SurfaceView view(rules);
+    view.SetDash(dash);
+    double length = 0;
+    const std::vector<Stroke> runs = StrokesOf(view, corner);
+    for (const Stroke& run : runs)
+      for (std::size_t i = 1; i < run.size(); ++i)
+        length += std::hypot(run[i].x() - run[i - 1].x(), run[i].y() - run[i - 1].y());
+    strokes = runs.size();
+    return length;
+  };
+  std::size_t strokes = 0;
+  EXPECT_NEAR(ink(Dash::None, strokes), 300.3, 0.01);
+  EXPECT_EQ(strokes, 1U);
+  EXPECT_NEAR(ink(Dash::Night, strokes), 180.3, 0.01) << "six of ten";
+  EXPECT_EQ(strokes, 31U);
+  EXPECT_NEAR(ink(Dash::Spoke, strokes), 100.3, 0.01);
+  rules.Look.HourLines = false;
+  EXPECT_NEAR(ink(Dash::Night, strokes), 300.3, 0.01) << "whole where hours are told by colour alone";
+  EXPECT_NEAR(ink(Dash::Spoke, strokes), 100.3, 0.01);
+}
+
 TEST(SurfaceViewTest, APanelOfACornerStaysWhereItIsWhenTheSheetIsMoved) {
   const Font legend{FontFace::Sans, 10};
   SurfaceRules rules = RulesFor({0, 0, 2000, 950});  // ten twips to the pixel, 400 pixels beside the sheet

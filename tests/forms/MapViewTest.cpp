@@ -1,11 +1,16 @@
 #include "forms/MapView.h"
 
 #include <QAction>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QImage>
+#include <QMenu>
 #include <QWheelEvent>
 #include <cmath>
 
 #include "forms/PlotFixture.h"
 #include "map/Sheet.h"
+#include "ui/StatusLine.h"
 
 namespace kestrel {
 namespace {
@@ -106,6 +111,69 @@ TEST_F(MapViewTest, WhatIsShownIsChosenByKeysAndKept) {
   EXPECT_EQ(Map().Look(), chosen) << "in the next run";
   plot_->findChild<QAction*>("actLabelsfitting")->trigger();
   EXPECT_EQ(Map().Look().Labels, LabelChoice::Fitting);
+}
+
+TEST_F(MapViewTest, TheLineUnderTheMapTellsOfMapAndMouse) {
+  Open();
+  auto* line = Find<StatusLine>(*plot_, "lblMap");
+  EXPECT_TRUE(line->Whole().startsWith("620 kHz    ")) << line->Whole().toStdString();
+  EXPECT_TRUE(line->Whole().contains(" stations    ")) << line->Whole().toStdString();
+  EXPECT_TRUE(line->Whole().contains(" km across    Stations of a test")) << line->Whole().toStdString();
+  const QString rest = line->Whole();
+  QTest::mouseMove(&Map(), PixelOf("QU620"));
+  EXPECT_TRUE(line->Whole().startsWith("3")) << line->Whole().toStdString();
+  EXPECT_TRUE(line->Whole().contains(" deg from home")) << line->Whole().toStdString();
+  QEvent leave(QEvent::Leave);
+  QApplication::sendEvent(&Map(), &leave);
+  EXPECT_EQ(line->Whole(), rest);
+}
+
+TEST_F(MapViewTest, TheRightButtonOffersWhatCanBeDoneAtAPlace) {
+  Open();
+  const auto choose = [&](QPoint at, const char* action) {
+    QContextMenuEvent event(QContextMenuEvent::Mouse, at, Map().mapToGlobal(at));
+    QApplication::sendEvent(&Map(), &event);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    auto* chosen = menu->findChild<QAction*>(action);
+    ASSERT_NE(chosen, nullptr) << action;
+    ASSERT_TRUE(chosen->isEnabled()) << action;
+    menu->setActiveAction(chosen);
+    QTest::keyClick(menu, Qt::Key_Return);
+  };
+  const QPoint at = PixelOf("QU620");
+  choose(at, "actCopyPlace");
+  const QString copied = QGuiApplication::clipboard()->text();
+  EXPECT_TRUE(copied.contains(" N, ")) << copied.toStdString();
+  const QPointF rest = Home();
+  choose(at, "actCentre");
+  ExpectAt(PixelOf("QU620"), rest, "centred");
+  choose(PixelOf("QDN620"), "actMakeHome");
+  EXPECT_NEAR(State.HomeLatitude, 33.5, 0.2);
+  EXPECT_NEAR(State.HomeLongitude, 97, 0.2);
+  EXPECT_EQ(State.HomeName, "");
+  ExpectAt(Home(), rest, "the new home in the middle");
+}
+
+TEST_F(MapViewTest, ThePictureSavedIsTheWindows) {
+  Open();
+  Drag({200, 200}, {60, 30});
+  System.NextFileToWrite = Files.Path("map.png");
+  PressKey(Qt::Key_S, Qt::ControlModifier);
+  const QImage saved(Files.Path("map.png"));
+  EXPECT_EQ(saved.size(), Map().size());
+  PressKey(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QGuiApplication::clipboard()->image().convertToFormat(QImage::Format_RGB32),
+            saved.convertToFormat(QImage::Format_RGB32));
+  // Legend and scale bar stand at the sheet's corners in a picture; without them it is the window's own.
+  PressKey(Qt::Key_G);
+  PressKey(Qt::Key_K);
+  PressKey(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QGuiApplication::clipboard()->image().convertToFormat(QImage::Format_RGB32),
+            Map().grab().toImage().convertToFormat(QImage::Format_RGB32));
+  System.NextFileToWrite = Files.Path("map.gif");
+  PressKey(Qt::Key_S, Qt::ControlModifier);
+  EXPECT_EQ(System.Messages.size(), 1);
 }
 
 }  // namespace

@@ -95,10 +95,15 @@ class RecordingCanvas final : public Canvas {
     Add("Panel", {anchor}, 0, std::to_string(static_cast<int>(smallest.Points)));
   }
   void EndPanel() override { Add("EndPanel", {}); }
+  // Rings and scale bar stand on every map; they are listed where they are asked for.
+  void BeginLayer(MapLayer layer) override { skipping_ = layer != MapLayer::Legend && !WithLayers; }
+  void EndLayer() override { skipping_ = false; }
+  bool WithLayers = false;
   void Clear() { List.clear(); }
 
  private:
   void Add(std::string verb, std::vector<Point> points, float radius = 0, std::string text = {}) {
+    if (skipping_) return;
     List.push_back({std::move(verb), std::move(points), radius, std::move(text), color_, lineWidth_, font_});
   }
 
@@ -106,6 +111,7 @@ class RecordingCanvas final : public Canvas {
   ColorValue color_ = 0;
   float lineWidth_ = 1;
   Font font_;
+  bool skipping_ = false;
 };
 
 }  // namespace kestrel

@@ -40,6 +40,29 @@ TEST(StationTipTest, TheNearestMarkWithinReachIsFound) {
   EXPECT_EQ(NearestStation({}, {0, 0}, 1e9F), nullptr);
 }
 
+TEST(StationTipTest, SeveralStationsAreListedStrongestFirst) {
+  TestFolder data;
+  QByteArray file;
+  for (int i = 0; i < 11; ++i)
+    file += "1230, Q" + QByteArray::number(i) + ", TOWN, TX, United States, D, 40, 80, " +
+            QByteArray::number(i + 1) + ",-,-, 0\n";
+  data.Put("1230x.dat", file + "1230, Q0, TOWN, TX, United States, N, 40, 80, .5,-,-, 0\n");
+  const SessionState state = HomeState();
+  FixedMeasure measure;
+  DisplayList drawing(measure);
+  DrawMainMap(drawing, data.Folder(), state);
+  const std::vector<StationMark>& marks = drawing.Stations();
+  const std::string all = StationsTip(data.Folder(), state, marks);
+  EXPECT_EQ(all.substr(0, all.find('\n')), "1230 kHz Q10  TOWN, TX: 11 kW daytime; 426.7 km, 271.6 deg");
+  EXPECT_EQ(all.substr(all.rfind('\n')), "\nand 3 more");
+  EXPECT_EQ(StationsTip(data.Folder(), state, {marks[0], marks[11], marks[1]}),
+            "1230 kHz Q1  TOWN, TX: 2 kW daytime; 426.7 km, 271.6 deg\n"
+            "1230 kHz Q0  TOWN, TX: 1 kW daytime, 500 watts nighttime; 426.7 km, 271.6 deg");
+  EXPECT_EQ(StationsTip(data.Folder(), state, {marks[0], marks[11]}),
+            *StationTip(data.Folder(), state, marks[0]));
+  EXPECT_EQ(StationsTip(data.Folder(), state, {}), "");
+}
+
 TEST(StationTipTest, ATipTellsOfTheStationThatWasDrawn) {
   TestFolder data;
   data.Put("1230x.dat", kFile);
