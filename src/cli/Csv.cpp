@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "cli/Json.h"
+#include "core/Csv.h"
 #include "core/Numbers.h"
 
 namespace kestrel::cli {
@@ -32,16 +33,7 @@ CsvWriter& CsvWriter::Key([[maybe_unused]] std::string_view name) {
 }
 
 CsvWriter& CsvWriter::Text(std::string_view text) {
-  if (text.find_first_of(",\"\r\n") == std::string_view::npos) {
-    document_ += text;
-    return *this;
-  }
-  document_ += '"';
-  for (const char c : text) {
-    if (c == '"') document_ += '"';
-    document_ += c;
-  }
-  document_ += '"';
+  document_ += CsvField(text);
   return *this;
 }
 

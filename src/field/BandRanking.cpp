@@ -1,5 +1,6 @@
 #include "field/BandRanking.h"
 
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <future>
@@ -25,7 +26,8 @@ bool ShareOut(std::size_t count, const std::function<void(std::size_t)>& work,
   };
   std::vector<std::future<void>> helpers;
   // Where the system gives no thread, they do not begin, and the caller does it all.
-  for (int i = 1; i < ProcessorsToUse(); ++i)
+  const std::size_t processors = std::min(count, static_cast<std::size_t>(ProcessorsToUse()));
+  for (std::size_t i = 1; i < processors; ++i)
     helpers.push_back(std::async([&] {
       while (takeOne())
         ;
@@ -65,13 +67,21 @@ Prepared Prepare(const DataFolder& folder, float channel, const Position& home, 
   return prepared;
 }
 
+std::vector<float> AllChannels() {
+  std::vector<float> channels;
+  for (float channel = LowestChannel; channel <= HighestChannel; channel += ChannelStep)
+    channels.push_back(channel);
+  return channels;
+}
+
 }  // namespace
 
 BandRanking::BandRanking(const DataFolder& folder, const Position& home, double conductivity,
-                         const Progress& progress) {
-  std::vector<float> frequencies;
-  for (float channel = LowestChannel; channel <= HighestChannel; channel += ChannelStep)
-    frequencies.push_back(channel);
+                         const Progress& progress)
+    : BandRanking(folder, AllChannels(), home, conductivity, progress) {}
+
+BandRanking::BandRanking(const DataFolder& folder, const std::vector<float>& frequencies,
+                         const Position& home, double conductivity, const Progress& progress) {
   std::vector<Prepared> prepared(frequencies.size());
   wasStopped_ = !ShareOut(
       frequencies.size(),

@@ -26,7 +26,11 @@ class BandRanking {
   BandRanking(const DataFolder& folder, const Position& home, double conductivity,
               const Progress& progress = {});
 
-  /// Upwards. Where the progress said stop, some are missing.
+  /// The same for some channels, in that order.
+  BandRanking(const DataFolder& folder, const std::vector<float>& frequencies, const Position& home,
+              double conductivity, const Progress& progress = {});
+
+  /// Upwards, or as asked for. Where the progress said stop, some are missing.
   const std::vector<Channel>& Channels() const { return channels_; }
   bool WasStopped() const { return wasStopped_; }
 

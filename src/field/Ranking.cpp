@@ -76,9 +76,9 @@ void ChannelRanking::Add(const StationRecord& record, int line) {
   // That bearing is rounded: by degrees for a station next to home.
   const double bearing =
       CourseBetween({home_.Latitude, home_.Longitude}, {record.Latitude, record.Longitude}).Azimuth;
-  records_.push_back({record.CallSign, record.City, record.State, record.Country, HoursOf(record.HoursCode),
-                      record.PowerKW, record.TowerCount, line, shown.Distance, static_cast<float>(bearing),
-                      FieldAtHome(record, home_, ground_)});
+  records_.push_back({record.CallSign, record.City, record.State, record.Country, record.At(),
+                      HoursOf(record.HoursCode), record.PowerKW, record.TowerCount, line, shown.Distance,
+                      static_cast<float>(bearing), FieldAtHome(record, home_, ground_)});
 }
 
 std::vector<std::string> ChannelRanking::AddFile(const std::string& name, std::string_view bytes) {

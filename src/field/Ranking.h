@@ -37,6 +37,7 @@ struct RecordAtHome {
   std::string City;
   std::string State;
   std::string Country;
+  Position At;
   Hours OnAir = Hours::Other;  ///< the hours of the record
   float PowerKW = 0;
   int Towers = 0;

@@ -13,6 +13,7 @@ namespace {
 constexpr std::array kWindows = {
     GuideWindow{"frmOpening", "The opening screen", "guide.md#the-opening-screen"},
     GuideWindow{"frmPlot", "The map", "guide.md#the-map"},
+    GuideWindow{"StationList", "The list of stations", "guide/who.md#the-list"},
     GuideWindow{"frmGetFrequency", "Choosing a channel", "guide/frequency.md"},
     GuideWindow{"frmGetStationData", "Station data", "guide/station-data.md"},
     GuideWindow{"frmShowTowers", "Tower data", "guide/towers.md"},
@@ -36,11 +37,10 @@ const GuideWindow* Find(const QString& window) {
   return nullptr;
 }
 
-/// The row of the window that the widget is in, or of the nearest one that opened it.
+/// The row of the panel or window that the widget is in, or of the nearest one that opened it.
 const GuideWindow* WindowOf(const QWidget& widget) {
-  for (const QWidget* window = widget.window(); window != nullptr;
-       window = window->parentWidget() ? window->parentWidget()->window() : nullptr)
-    if (const GuideWindow* row = Find(window->objectName())) return row;
+  for (const QWidget* around = &widget; around != nullptr; around = around->parentWidget())
+    if (const GuideWindow* row = Find(around->objectName())) return row;
   return nullptr;
 }
 
@@ -62,8 +62,7 @@ QStringList GuideContents() {
   QStringList pages;
   for (const GuideWindow& row : kWindows) pages << QString(row.Page).section('#', 0, 0);
   pages.removeDuplicates();
-  return pages << "guide/view.md"
-               << "guide/who.md" << KeysPage;
+  return pages << "guide/view.md" << KeysPage;
 }
 
 QString PageOf(const QWidget& widget) {

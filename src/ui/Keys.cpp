@@ -59,6 +59,15 @@ constexpr std::array kTable = {
     CommandKeys{"frmPlot", "cmdExit", "Ctrl+Q", "Saves the session and ends the program"},
     CommandKeys{"frmPlot", "cmdStop", "Esc", "Ends the plot of all stations before its next channel"},
 
+    CommandKeys{"StationList", "txtFind", kEnter,
+                "In the box: goes to the first station found, in the whole band to its channel"},
+    CommandKeys{"StationList", "Stations", "Down", "In the box: goes to the rows"},
+    CommandKeys{"StationList", "actLookUp", kEnter,
+                "In the rows: looks the station up, or goes to its channel"},
+    CommandKeys{"StationList", "actStrike", "Del", "In the rows: strikes a station out, or takes it back in"},
+    CommandKeys{"StationList", "actCopy", "Ctrl+C Ctrl+Ins", "Copies the selected rows, or all"},
+    CommandKeys{"StationList", "actSave", "Ctrl+S", "Saves the selected rows, or all, as CSV"},
+
     CommandKeys{"frmGetFrequency", "cmdErasePlot", kEnter, "Draws the map anew with the channel typed"},
 
     CommandKeys{"frmGetHome", "cmdExit", kEnter, "Accepts the place and returns"},
