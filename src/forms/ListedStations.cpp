@@ -63,6 +63,12 @@ std::vector<ListedStation> StrongestOfEach(const BandRanking& band, const std::v
   return stations;
 }
 
+void RankedChannels::Rank(Moment moment, const RankingChoices& choices) {
+  if (!Band) return;
+  Rankings = Band->Rank(moment, choices);
+  Stations = EveryRecord(*Band, Rankings);
+}
+
 StationTexts::StationTexts(const std::vector<ListedStation>& stations) {
   texts_.reserve(stations.size());
   for (const ListedStation& station : stations)

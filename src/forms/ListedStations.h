@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -38,6 +39,16 @@ std::vector<ListedStation> EveryRecord(const BandRanking& band, const std::vecto
 
 /// The strongest station of each channel that is not struck, Hidden where there is none.
 std::vector<ListedStation> StrongestOfEach(const BandRanking& band, const std::vector<Ranking>& rankings);
+
+/// Channels read and ranked for a moment.
+struct RankedChannels {
+  std::unique_ptr<BandRanking> Band;  ///< none: not read
+  std::vector<Ranking> Rankings;
+  std::vector<ListedStation> Stations;  ///< every record
+
+  /// Nothing happens before they are read.
+  void Rank(Moment moment, const RankingChoices& choices);
+};
 
 /// Finds records by their calls, cities and states.
 class StationTexts {

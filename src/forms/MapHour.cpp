@@ -7,7 +7,10 @@ namespace kestrel {
 MapHour::MapHour(const Workspace& workspace, MapSurface& surface, TimeBar& bar)
     : workspace_(workspace), surface_(surface), bar_(bar) {
   bar_.hide();
-  bar_.Changed = [this] { Draw(); };
+  bar_.Changed = [this] {
+    Draw();
+    if (Moved) Moved();
+  };
 }
 
 void MapHour::Turn(bool on) {
@@ -25,7 +28,7 @@ std::vector<std::string> MapHour::Redraw(MapGround ground) {
 void MapHour::Draw() {
   if (!IsOn()) return;
   surface_.Drawing().Clear();
-  map_.Draw(surface_.Drawing(), bar_.At(), HoursRule::Auto);
+  map_.Draw(surface_.Drawing(), bar_.At(), Rule);
   surface_.ShowDrawing();
 }
 

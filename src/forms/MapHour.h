@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "draw/Fonts.h"
 #include "forms/TimeBar.h"
 #include "forms/Workspace.h"
@@ -13,6 +15,11 @@ class MapSurface;
 class MapHour {
  public:
   MapHour(const Workspace& workspace, MapSurface& surface, TimeBar& bar);
+
+  /// How the records in force are told.
+  HoursRule Rule = HoursRule::Auto;
+  /// Called when the map has been drawn for another moment.
+  std::function<void()> Moved;
 
   bool IsOn() const { return !bar_.isHidden(); }
   /// Shows the bar, which then follows the clock, or hides it. Draws nothing.

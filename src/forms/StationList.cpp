@@ -30,6 +30,7 @@ constexpr std::size_t kMostFound = 500;
 StationList::StationList(const Workspace& workspace, QWidget* parent)
     : QWidget(parent), workspace_(workspace) {
   setObjectName("StationList");
+  setAccessibleName("Stations");
   order_ = new StationOrder(model_, this);
   table_ = new StationTable("Stations", *order_);
   LayOut();
@@ -51,21 +52,15 @@ RankingChoices StationList::Choices() const {
   return {choices.NeededLevel, choices.Rule, struck_};
 }
 
-void StationList::Rank(Ranked& ranked) const {
-  if (!ranked.Band) return;
-  ranked.Rankings = ranked.Band->Rank(moment_, Choices());
-  ranked.Stations = EveryRecord(*ranked.Band, ranked.Rankings);
-}
-
 void StationList::Show(const std::vector<float>& channels, Moment moment) {
   frequencies_ = channels;
   moment_ = moment;
-  Ranked read;
+  RankedChannels read;
   read.Band = std::make_unique<BandRanking>(workspace_.Folder, channels, workspace_.State.Home(),
                                             choices_->Choices().Ground);
-  Rank(read);
+  read.Rank(moment_, Choices());
   // The rows show the former records until they are filled anew.
-  const Ranked former = std::exchange(channels_, std::move(read));
+  const RankedChannels former = std::exchange(channels_, std::move(read));
   Fill();
   if (IsWholeBand()) PrepareBand();
   if (!Chosen()) chosen_.reset();
@@ -78,7 +73,7 @@ void StationList::PrepareBand() {
   if (std::exchange(preparing_, true)) return;
   progress_->show();
   stop_->show();
-  Ranked read;
+  RankedChannels read;
   do {
     prepareAgain_ = false;
     read.Band =
@@ -94,16 +89,16 @@ void StationList::PrepareBand() {
   progress_->hide();
   stop_->hide();
   if (read.Band->WasStopped()) return SetWholeBand(false);
-  Rank(read);
-  const Ranked former = std::exchange(band_, std::move(read));
+  read.Rank(moment_, Choices());
+  const RankedChannels former = std::exchange(band_, std::move(read));
   bandTexts_ = StationTexts(band_.Stations);
   Fill();
 }
 
 void StationList::Rerank(Moment moment) {
   moment_ = moment;
-  Rank(channels_);
-  Rank(band_);
+  channels_.Rank(moment, Choices());
+  band_.Rank(moment, Choices());
   Refill();
 }
 
@@ -130,7 +125,7 @@ void StationList::Fill() {
     const QScopedValueRollback quiet(quiet_, true);
     const bool band = IsWholeBand() && band_.Band;
     table_->SetManyChannels(band || frequencies_.size() > 1);
-    model_.SetStations(StationsWanted(), workspace_.State.DistanceUnit);
+    model_.SetStations(StationsWanted(), workspace_.State.MapUnit());
     order_->SetFilter(band ? std::vector<std::string>{} : StationTexts::WordsOf(find_->text().toStdString()));
     if (chosen_) Reselect(*chosen_);
   }
@@ -147,7 +142,7 @@ void StationList::Refill() {
       model_.SetMoment(std::move(stations));
       order_->Reorder();
     } else {
-      model_.SetStations(std::move(stations), workspace_.State.DistanceUnit);
+      model_.SetStations(std::move(stations), workspace_.State.MapUnit());
     }
     if (chosen_) Reselect(*chosen_);
   }

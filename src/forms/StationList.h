@@ -79,12 +79,6 @@ class StationList final : public QWidget {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  /// Channels read, ranked for a moment.
-  struct Ranked {
-    std::unique_ptr<BandRanking> Band;
-    std::vector<Ranking> Rankings;
-    std::vector<ListedStation> Stations;  // every record
-  };
   /// A station whatever happens to the rows.
   struct Key {
     float Frequency = 0;
@@ -96,7 +90,6 @@ class StationList final : public QWidget {
   void LayOutFind(FlowLayout& bar);
   void AddActions();
   RankingChoices Choices() const;
-  void Rank(Ranked& ranked) const;
   void PrepareBand();
   void BandTurned();
 
@@ -118,8 +111,8 @@ class StationList final : public QWidget {
   std::vector<float> frequencies_;
   Moment moment_{};
   std::vector<std::string> struck_;
-  Ranked channels_;
-  Ranked band_;  // while the whole band is shown
+  RankedChannels channels_;
+  RankedChannels band_;  // while the whole band is shown
   StationTexts bandTexts_;
   std::size_t found_ = 0;  // in the whole band, those not shown among them
   std::optional<Key> chosen_;

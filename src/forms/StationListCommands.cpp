@@ -183,7 +183,7 @@ void StationList::Tell() {
 
 void StationList::TellChosen() {
   const ListedStation* station = Chosen();
-  told_->setText(station ? ChosenText(*station, workspace_.State.DistanceUnit) : "No station chosen");
+  told_->setText(station ? ChosenText(*station, workspace_.State.MapUnit()) : "No station chosen");
 }
 
 void StationList::hideEvent(QHideEvent* event) {
@@ -193,8 +193,15 @@ void StationList::hideEvent(QHideEvent* event) {
 
 bool StationList::eventFilter(QObject* watched, QEvent* event) {
   const bool asked = event->type() == QEvent::ShortcutOverride;
-  if (!asked && (watched != find_ || event->type() != QEvent::KeyPress)) return false;
+  if (!asked && event->type() != QEvent::KeyPress) return false;
   const auto& key = static_cast<const QKeyEvent&>(*event);
+  if (watched == table_)
+    for (QAction* action : table_->actions()) {
+      // Some are keys of the window too, where they mean the map.
+      if (!IsKeyOf(key, *this, action->objectName().toUtf8().constData())) continue;
+      asked ? event->accept() : action->trigger();
+      return true;
+    }
   const bool clears = watched == find_ && key.key() == Qt::Key_Escape && !find_->text().isEmpty();
   const bool leaves = watched == find_ && IsKeyOf(key, *this, "Stations");
   if (asked) {

@@ -66,6 +66,9 @@ void StationTable::ShowUsualColumns() {
     header->showSection(column);
     header->resizeSection(column, character * (kCharacters[static_cast<std::size_t>(column)] + 2));
   }
+  // What the list is for is seen first, also in a narrow window.
+  header->moveSection(header->visualIndex(StationListModel::Field), 2);
+  header->moveSection(header->visualIndex(StationListModel::Chance), 3);
   HideColumns();
   header->setSortIndicator(StationListModel::Field, Qt::DescendingOrder);
 }

@@ -94,12 +94,18 @@ void frmGetStationData::LayOutEntry(QVBoxLayout* rows) {
   label4_->setWordWrap(true);
   label4_->hide();
 
+  band_ = MakeLabel("lblBand", KeysOf(*this, "lblBand").Tip());
+  band_->setWordWrap(true);
+  band_->hide();
+  AddShortcuts(*this, "lblBand", [this] { AskForBand(); });
+
   auto* grid = new QGridLayout;
   grid->addWidget(label1, 0, 0);
   grid->addWidget(txtGetData_, 0, 1);
   grid->addWidget(label2, 0, 2);
   grid->addWidget(search, 1, 1);
   grid->addWidget(label4_, 1, 2);
+  grid->addWidget(band_, 2, 0, 1, 3);
   grid->setColumnStretch(2, 1);
   rows->addLayout(grid);
 }
@@ -172,6 +178,7 @@ void frmGetStationData::Search() {
 
   rows_ = result.Rows;
   ListRows();
+  band_->setVisible(rows_.empty() && !result.CallSign.empty());
   if (result.Ended) {
     label4_->show();
     FitList();
@@ -181,6 +188,12 @@ void frmGetStationData::Search() {
     lstGetData_->selectRow(0);
     lstGetData_->setFocus();
   }
+}
+
+void frmGetStationData::AskForBand() {
+  const QString call = txtGetData_->text().trimmed();
+  reject();
+  if (BandAsked) BandAsked(call);
 }
 
 void frmGetStationData::ListRows() {

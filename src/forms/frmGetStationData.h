@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "data/StationLookup.h"
@@ -22,6 +23,9 @@ class frmGetStationData final : public Form {
   /// A call sign given is looked up at once.
   frmGetStationData(const Workspace& workspace, QWidget* parent, const QString& callSign = {});
 
+  /// Called, after the window has closed, when the call sign typed is to be looked for in the whole band.
+  std::function<void(const QString& callSign)> BandAsked;
+
  protected:
   void resizeEvent(QResizeEvent* event) override;
 
@@ -32,6 +36,7 @@ class frmGetStationData final : public Form {
   void LayOutPlot(QVBoxLayout* rows);
 
   void Search();
+  void AskForBand();
   void ListRows();
   void ShowRecord(int row);
   /// Opens a window on the selected record; the commands rest until it is closed, in whatever way.
@@ -42,6 +47,7 @@ class frmGetStationData final : public Form {
   StationSelection selection_;
   QLineEdit* txtGetData_ = nullptr;
   RowsTable* lstGetData_ = nullptr;
+  QLabel* band_ = nullptr;  // offered when nothing was found
   QLabel* label4_ = nullptr;
   QLabel* label5_ = nullptr;
   MapSurface* plot_ = nullptr;

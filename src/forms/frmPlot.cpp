@@ -15,6 +15,7 @@
 
 #include "data/StationFile.h"
 #include "forms/MapPointer.h"
+#include "forms/PlotList.h"
 #include "forms/frmAspect.h"
 #include "forms/frmGetFrequency.h"
 #include "forms/frmGetHome.h"
@@ -79,6 +80,7 @@ frmPlot::frmPlot(const Workspace& workspace)
   auto* column = new CommandColumn(this);
   AddCommands(*column);
   column->Finish();
+  AddList(*column);
   leftOut_ = new QLabel(this);
   leftOut_->setObjectName("LeftOut");
   leftOut_->setTextFormat(Qt::PlainText);
@@ -90,7 +92,7 @@ frmPlot::frmPlot(const Workspace& workspace)
   layout->setSpacing(0);
   auto* map = new QVBoxLayout;
   map->setSpacing(0);
-  map->addWidget(surface_, 1);
+  map->addWidget(&list_->Area(), 1);
   map->addWidget(leftOut_);
   map->addWidget(timeBar_);
   map->addWidget(status_);
@@ -120,6 +122,7 @@ void frmPlot::Redraw(MapGround ground) {
   }
   added_ = ground == MapGround::AsDrawn;
   SayLeftOut(DrawOn(ground));
+  list_->MapDrawn(ground);
   UpdateCommands();
   TellOfMap();
 }
@@ -189,8 +192,20 @@ void frmPlot::StepChannel(std::optional<std::string> (*step)(SessionState&)) {
   Redraw();
 }
 
+void frmPlot::GoToChannel(float frequency) {
+  workspace_.State.CurrentFrequency = frequency;
+  workspace_.State.SelectedFrequency = frequency;
+  workspace_.State.AdjacentsShown = 0;
+  view_.GoBack();
+  Redraw();
+}
+
 void frmPlot::LookUp(const QString& callSign) {
-  RunForm(frmGetStationData(workspace_, this, callSign));
+  frmGetStationData form(workspace_, this, callSign);
+  std::optional<QString> wanted;
+  form.BandAsked = [&wanted](const QString& call) { wanted = call; };
+  RunForm(form);
+  if (wanted && !scanning_) list_->FindInBand(*wanted);
 }
 
 void frmPlot::ChooseHome() {
@@ -320,10 +335,12 @@ void frmPlot::ShowScanControls(bool running) {
   scanning_ = running;
   for (QPushButton* button : findChildren<QPushButton*>()) {
     const QString name = button->objectName();
+    if (list_->Panel().isAncestorOf(button)) continue;
     button->setEnabled(!running || name == "cmdStop" || name == "cmdAll" || name == "cmdView" ||
                        name == "cmdExit");
   }
   for (const char* action : {"actReset", "actTime"}) menu_->findChild<QAction*>(action)->setEnabled(!running);
+  list_->SetResting(running);
   Button("cmdStop")->setVisible(running);
   Button("cmdStop")->setEnabled(running);
   progress_->setVisible(running);
@@ -331,12 +348,15 @@ void frmPlot::ShowScanControls(bool running) {
 }
 
 QString frmPlot::TipAt(Point place) const {
-  return Text(StationsTip(workspace_.Folder, workspace_.State, RecordsAt(*surface_, place)));
+  const std::vector<StationMark> records = RecordsAt(*surface_, place);
+  const QString tip = Text(StationsTip(workspace_.Folder, workspace_.State, records));
+  return tip.isEmpty() ? tip : tip + list_->FieldLines(records);
 }
 
 void frmPlot::ClickAt(Point place) {
   const StationMark* mark = RecordToOpenAt(*surface_, place);
   if (!mark) return;
+  if (list_->TakeClick(*mark)) return;
   if (OpensLookup(*mark, workspace_.State)) return LookUp(Text(mark->CallSign));
   surface_->ShowTip(QCursor::pos(), TipAt(place));
 }

@@ -11,6 +11,7 @@
 #include "forms/Workspace.h"
 #include "map/MainMap.h"
 #include "map/PrintedPages.h"
+#include "ui/WindowParts.h"
 
 class QDialog;
 class QLabel;
@@ -23,6 +24,7 @@ class CommandColumn;
 class frmAspect;
 class frmGetDistance;
 class MapSurface;
+class PlotList;
 class StatusLine;
 class ViewMenu;
 
@@ -45,6 +47,7 @@ class frmPlot final : public QWidget {
   void AddViewCommands(CommandColumn& column);
   void AddViewMenu();
   void ShowMenuAt(QPoint pixel);
+  void AddList(CommandColumn& column);
 
   void RunForm(QDialog& form);
   void RunForm(QDialog&& form) { RunForm(form); }
@@ -56,6 +59,7 @@ class frmPlot final : public QWidget {
   void ImportStations();
   void AdjustAspect();
   void TurnTime(bool on);
+  void GoToChannel(float frequency);
   void NextHoursFilter();
   void ToggleCompass();
   ShownMap PresentMap() const;
@@ -91,6 +95,8 @@ class frmPlot final : public QWidget {
   MapHour hour_;
   ViewMenu* menu_;
   StatusLine* status_;
+  PlotList* list_;
+  WindowParts parts_;
   QProgressBar* progress_;
   QLabel* savedNotice_;
   QLabel* leftOut_;

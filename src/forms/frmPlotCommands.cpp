@@ -2,18 +2,23 @@
 
 #include <QProgressBar>
 #include <QPushButton>
+#include <utility>
 
 #include "core/Band.h"
 #include "core/ChannelChoice.h"
 #include "data/StationFile.h"
 #include "forms/CommandIcons.h"
+#include "forms/PlotList.h"
+#include "forms/TimeBar.h"
 #include "forms/frmAbout.h"
 #include "forms/frmGetDistance.h"
 #include "forms/frmPlot.h"
 #include "forms/frmShowHets.h"
 #include "map/View.h"
 #include "ui/CommandColumn.h"
+#include "ui/Controls.h"
 #include "ui/Keys.h"
+#include "ui/MapSurface.h"
 #include "ui/ViewMenu.h"
 
 namespace kestrel {
@@ -44,6 +49,25 @@ void frmPlot::AddCommands(CommandColumn& column) {
 
   AddShortcuts(*this, "channelUp", [this] { StepChannel(StepUp); });
   AddShortcuts(*this, "channelDown", [this] { StepChannel(StepDown); });
+}
+
+void frmPlot::AddList(CommandColumn& column) {
+  list_ = new PlotList(workspace_, *surface_, *menu_, *this);
+  list_->MomentShown = [this] { return hour_.IsOn() ? timeBar_->At() : Now(); };
+  list_->LookupAsked = [this](const std::string& call) { LookUp(Text(call)); };
+  list_->ChannelAsked = [this](float frequency) { GoToChannel(frequency); };
+  list_->Changed = [this] {
+    timeBar_->ShowStation(list_->ChosenPlace());
+    if (std::exchange(hour_.Rule, list_->Rule()) != hour_.Rule && hour_.IsOn()) Redraw();
+  };
+  hour_.Rule = list_->Rule();
+  hour_.Moved = [this] { list_->Rerank(); };
+  parts_.Add(*surface_, [this] { surface_->setFocus(); });
+  parts_.Add(list_->Panel(), [this] { list_->FocusRows(); });
+  parts_.Add(*timeBar_);
+  parts_.Add(column);
+  menu_->AddCommand("actNext", "&Next part of the window", [this] { parts_.Next(); });
+  list_->SetOpen(menu_->IsOn("actList"));
 }
 
 void frmPlot::AddViewCommands(CommandColumn& column) {

@@ -10,6 +10,7 @@
 #include "core/Numbers.h"
 #include "draw/Picture.h"
 #include "forms/MapPointer.h"
+#include "forms/PlotList.h"
 #include "forms/TimeBar.h"
 #include "forms/frmGetDistance.h"
 #include "forms/frmPlot.h"
@@ -41,6 +42,7 @@ void frmPlot::AddViewMenu() {
   menu_ = new ViewMenu(*this);
   menu_->Turned = [this](const QString& name) {
     if (name == "actTime") return TurnTime(menu_->IsOn("actTime"));
+    if (name == "actList") return list_->SetOpen(menu_->IsOn("actList"));
     surface_->SetLook(menu_->Look());
   };
   menu_->AddCommand("actReset", "Reset &view", [this] { view_.Reset(); });

@@ -47,6 +47,12 @@ constexpr std::array kTable = {
                 "Shows the map at a moment, with the bar that chooses it, or the hours again"},
     CommandKeys{"frmPlot", "actCopyMap", "Ctrl+C Ctrl+Ins", "Copies the map as a picture"},
     CommandKeys{"frmPlot", "actSaveMap", "Ctrl+S", "Saves the map as a PNG, SVG or PDF file"},
+    CommandKeys{"frmPlot", "actList", "W", "Opens the list of who it can be, or closes it"},
+    CommandKeys{"frmPlot", "actBand", "Shift+W",
+                "Lists the strongest of every channel, or the channel again"},
+    CommandKeys{"frmPlot", "actFind", "Ctrl+F", "Finds a station in the list"},
+    CommandKeys{"frmPlot", "actNext", "F6", "Goes round map, list, time and commands"},
+    CommandKeys{"frmPlot", "actSay", "Shift+F6", "Says in a sentence what is on the air"},
     CommandKeys{"frmPlot", "move", "Left Right Up Down", "Moves the map, as dragging does"},
     CommandKeys{"frmPlot", "moveFar", "Ctrl+Left Ctrl+Right Ctrl+Up Ctrl+Down", "Moves it by half a window"},
     CommandKeys{"frmPlot", "actReset", "Home", "Home in the middle, scale and patterns as at first"},
@@ -78,6 +84,8 @@ constexpr std::array kTable = {
 
     CommandKeys{"frmGetStationData", "cmdGetData", kEnter, "Lists the records of the call sign typed"},
     CommandKeys{"frmGetStationData", "lstGetData", kEnter, "In the list: draws the marked record again"},
+
+    CommandKeys{"frmGetStationData", "lblBand", "Ctrl+F", "Looks for the call sign in the whole band"},
 
     CommandKeys{"frmShowTowers", "Table", "Ctrl+C Ctrl+Ins", "Copies the table"},
     CommandKeys{"frmShowTowers", "cmdExit", kEnter, "Back to the station's data"},

@@ -98,7 +98,9 @@ void MapSurface::RenderAnew(const SurfaceRules& rules) {
 
 void MapSurface::paintEvent(QPaintEvent*) {
   Render();
-  QPainter(this).drawImage(0, 0, image_);
+  QPainter painter(this);
+  painter.drawImage(0, 0, image_);
+  if (Overlay) Overlay(painter);
 }
 
 void MapSurface::mouseMoveEvent(QMouseEvent* event) {

@@ -9,6 +9,8 @@
 #include "map/DisplayList.h"
 #include "map/Sheet.h"
 
+class QPainter;
+
 namespace kestrel {
 
 /// The widget that shows a sheet. It keeps what is drawn on its `Drawing()` and repeats it at every size and
@@ -45,6 +47,9 @@ class MapSurface : public QWidget {
 
   /// Paints what the drawing stands on over an image of the widget's pixels; white paper without it.
   std::function<void(QImage&)> Backdrop;
+
+  /// Paints over the picture, in pixels of the widget.
+  std::function<void(QPainter&)> Overlay;
 
   /// Called with the position in twips. Mouse tracking is on when MouseMoved is set.
   std::function<void(Point)> MouseMoved;

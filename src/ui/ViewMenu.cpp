@@ -22,6 +22,7 @@ constexpr std::array kSwitches = {
     Switch{"actScaleBar", "&Scale bar", true},
     Switch{"actHourLines", "&Hours by broken lines", false},
     Switch{"actTime", "&Time", false},
+    Switch{"actList", "&List of stations", false},
 };
 
 const char* const kLabels = "actLabels";

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "forms/FormFixture.h"
+#include "forms/StationList.h"
 #include "forms/frmAbout.h"
 #include "forms/frmAspect.h"
 #include "forms/frmGetDistance.h"
@@ -49,6 +50,7 @@ inline void ForEveryForm(const Workspace& everything, const std::function<void(Q
   open(frmImport(everything));
   open(frmAbout(everything));
   open(frmGuide(everything.System, {}));
+  open(StationList(everything));
   for (const QString& header : QDir(KESTREL_FORMS).entryList({"frm*.h"}))
     EXPECT_TRUE(seen.contains(header.chopped(2))) << header.toStdString();
 

@@ -185,7 +185,7 @@ TEST_F(frmPlotTest, RestingOnAStationTellsOfIt) {
   const QPoint east = PixelOf("QEAST");
   for (const QPoint& away : {QPoint(0, 0), QPoint(9, 0), QPoint(6, -6)})
     EXPECT_EQ(RestAt(east + away), "620 kHz QEAST  TOWN, TX") << away.x() << ' ' << away.y();
-  EXPECT_EQ(QToolTip::text().count('\n'), 2) << "power and hours, distance and bearing below";
+  EXPECT_EQ(QToolTip::text().count('\n'), 3) << "power and hours, distance and bearing, field below";
   for (const QPoint& away : {QPoint(12, 0), QPoint(9, 9)})
     EXPECT_EQ(RestAt(east + away), "") << away.x() << ' ' << away.y();
 
