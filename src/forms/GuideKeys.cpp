@@ -22,6 +22,8 @@ bool IsTextFor(QWidget& widget, const QKeyEvent& key) {
 
 GuideKeys::GuideKeys(Platform& system, const QStringList& folders) : system_(system), folders_(folders) {
   qApp->installEventFilter(this);
+  // A menu of the guide's that was open once keeps the application from ending while the guide is there.
+  connect(qApp, &QGuiApplication::lastWindowClosed, this, [this] { delete guide_; });
 }
 
 GuideKeys::~GuideKeys() {
