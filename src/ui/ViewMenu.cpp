@@ -17,12 +17,9 @@ struct Switch {
 };
 
 constexpr std::array kSwitches = {
-    Switch{"actLegend", "Le&gend", true},
-    Switch{"actRings", "&Rings of distance", false},
-    Switch{"actScaleBar", "&Scale bar", true},
-    Switch{"actHourLines", "&Hours by broken lines", false},
-    Switch{"actTime", "&Time", false},
-    Switch{"actList", "&List of stations", false},
+    Switch{"actLegend", "Le&gend", true},      Switch{"actRings", "&Rings of distance", false},
+    Switch{"actScaleBar", "&Scale bar", true}, Switch{"actHourLines", "&Hours by broken lines", false},
+    Switch{"actTime", "&Time", false},         Switch{"actList", "&List of stations", false},
 };
 
 const char* const kLabels = "actLabels";
