@@ -1,6 +1,7 @@
 #include "ui/Accessible.h"
 
 #include <QAccessible>
+#include <QTableView>
 #include <QTextBrowser>
 
 #include "forms/EveryForm.h"
