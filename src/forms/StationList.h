@@ -76,6 +76,7 @@ class StationList final : public QWidget {
 
  protected:
   void hideEvent(QHideEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -131,7 +132,8 @@ class StationList final : public QWidget {
   QProgressBar* progress_ = nullptr;
   QPushButton* stop_ = nullptr;
   QLabel* now_ = nullptr;
-  QLabel* told_ = nullptr;  // of the chosen station
+  QLabel* told_ = nullptr;   // of the chosen station
+  QLabel* worth_ = nullptr;  // of the numbers
   QAction* lookUp_ = nullptr;
   QAction* strike_ = nullptr;
 };

@@ -26,6 +26,9 @@
 namespace kestrel {
 namespace {
 
+constexpr int kFewestRows = 4;     // and the header
+constexpr int kRoomForWords = 22;  // lines of text
+
 QLabel* MakeWrapped(const char* name, const QString& text = {}) {
   QLabel* label = MakeLabel(name, text);
   label->setWordWrap(true);
@@ -62,10 +65,21 @@ void StationList::LayOut() {
   rows->addWidget(now_);
   rows->addWidget(table_, 1);
   rows->addWidget(told_);
-  rows->addWidget(
-      MakeWrapped("lblWorth",
-                  "Fields are medians of a year's nights over one kind of ground: 6 dB off at the "
-                  "best, more where ? says that the pattern is not known."));
+  worth_ = MakeWrapped("lblWorth",
+                       "Fields are medians of a year's nights over one kind of ground: 6 dB off at the "
+                       "best, more where ? says that the pattern is not known.");
+  rows->addWidget(worth_);
+  table_->setMinimumHeight(kFewestRows * table_->verticalHeader()->defaultSectionSize());
+}
+
+void StationList::resizeEvent(QResizeEvent* event) {
+  // A small panel has room for rows before words, which then stand in the tip.
+  const bool roomForWords = height() > kRoomForWords * fontMetrics().height();
+  now_->setToolTip(roomForWords ? QString() : worth_->text());
+  worth_->setVisible(roomForWords);
+  // A splitter does not ask how high the bar is in this width.
+  setMinimumHeight(layout()->totalMinimumHeightForWidth(width()));
+  QWidget::resizeEvent(event);
 }
 
 void StationList::LayOutFind(FlowLayout& bar) {

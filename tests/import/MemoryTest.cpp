@@ -106,9 +106,9 @@ TEST(ImportMemory, IsInProportionToTheRowsOfTheTablesThatBelongToAnAntenna) {
       " hours_operation=U lat_deg=1 lat_dir=N lat_min=1 lat_sec=1 lon_deg=90 lon_dir=W "
       "lon_min=1 lon_sec=1 power=1 eng_record_type=C";
   const auto table = [](const std::string& name, int count, const auto& row) {
-    TableText table{name, Order::A, true, {}};
-    for (int i = 0; i < count; ++i) table.rows.push_back(row(i));
-    return std::pair(name, table.Text());
+    TableText text{name, Order::A, true, {}};
+    for (int i = 0; i < count; ++i) text.rows.push_back(row(i));
+    return std::pair(name, text.Text());
   };
   const NamedTexts tables = {
       table("am_ant_sys", kStations,

@@ -98,7 +98,7 @@ class PrintCommandsTest : public ::testing::Test {
     EXPECT_TRUE(page.HasLetters);
     constexpr double kDot = 72 / 600.0;
     EXPECT_FALSE(page.LineWidths.empty());
-    for (const double line : page.LineWidths) EXPECT_TRUE(line > 1.5 * kDot && line < 8 * kDot) << line;
+    for (const double line : page.LineWidths) EXPECT_TRUE(line > 1.5 * kDot && line < 10 * kDot) << line;
     EXPECT_FALSE(page.FontSizes.empty());
     for (const double size : page.FontSizes) EXPECT_TRUE(size > 7.9 && size < 10.1) << size;
     return page;
