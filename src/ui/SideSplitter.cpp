@@ -53,6 +53,15 @@ void SideSplitter::TakeShare() {
   setSizes({all - panel, panel});
 }
 
+QSize SideSplitter::minimumSizeHint() const {
+  QSize least;
+  for (int i = 0; i < count(); ++i) {
+    const QWidget* part = widget(i);
+    if (!part->isHidden()) least = least.expandedTo(part->minimumSizeHint().expandedTo(part->minimumSize()));
+  }
+  return least;
+}
+
 bool SideSplitter::eventFilter(QObject*, QEvent* event) {
   if (event->type() == QEvent::Show) TakeShare();
   return false;

@@ -14,6 +14,10 @@ class SideSplitter final : public QSplitter {
   /// The panel, for once.
   void SetPanel(QWidget* panel);
 
+  /// One that holds either part: the shape, and with it where the panel stands, follows the size, so that the
+  /// smallest one of the present shape would keep the other shape from ever being taken.
+  QSize minimumSizeHint() const override;
+
  protected:
   void resizeEvent(QResizeEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;

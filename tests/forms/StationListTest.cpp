@@ -12,6 +12,7 @@
 #include <QTableView>
 #include <algorithm>
 
+#include "core/Numbers.h"
 #include "forms/FormFixture.h"
 #include "forms/StationTable.h"
 
@@ -27,8 +28,8 @@ const Moment kDay = *ReadMoment("2026-11-22T18:00Z", {});
 std::string Record(const std::string& call, const std::string& city, const std::string& hours, double degrees,
                    const std::string& power, bool known = true) {
   return "620, " + call + ", " + city + ", TX, United States, " + hours + ", " +
-         std::to_string(33.24 - degrees) + ", 96.5," + power + ",-,-, " + (known ? "1" : "0") + "\r\n" +
-         (known ? "0,1,90,0,0,0\r\n" : "");
+         NumberText(static_cast<float>(33.24 - degrees)) + ", 96.5," + power + ",-,-, " +
+         (known ? "1" : "0") + "\r\n" + (known ? "0,1,90,0,0,0\r\n" : "");
 }
 
 class StationListTest : public FormTest {
