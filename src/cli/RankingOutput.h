@@ -27,9 +27,9 @@ void WriteRanked(Writer& writer, const RankedStation& station) {
   writer.Key("call").Text(record.CallSign).Key("city").Text(record.City);
   writer.Key("state").Text(record.State).Key("country").Text(record.Country);
   writer.Key("hours").Text(std::string(1, HoursLetter(record.OnAir)));
-  writer.Key("power_kw").Number(record.PowerKW).Key("towers").Whole(record.Towers);
+  writer.Key("power_kw").Decimals(record.PowerKW).Key("towers").Whole(record.Towers);
   writer.Key("line").Whole(record.Line);
-  writer.Key("distance_km").Number(record.Distance).Key("bearing_deg").Number(record.Bearing);
+  writer.Key("distance_km").Decimals(record.Distance).Key("bearing_deg").Decimals(record.Bearing);
   writer.Key("azimuth_deg").Decimals(field.Path().Azimuth());
   writer.Key("pattern_known").Truth(field.PatternIsKnown());
   writer.Key("e_ground_mv").Decimals(field.GroundField());

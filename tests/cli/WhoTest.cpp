@@ -77,7 +77,7 @@ TEST_F(WhoTest, CsvHasOneHeaderLineAndPointsInNumbers) {
   const QStringList lines = QString::fromStdString(csv.Out).split("\r\n");
   ASSERT_EQ(lines.size(), 5) << csv.Out;
   EXPECT_TRUE(lines[0].startsWith("frequency,call,city,state,country,hours,power_kw,towers,line,"));
-  EXPECT_TRUE(lines[1].startsWith("1510,QARR,\"\"\"ARRAY\"\"\",NY,United States,N,1,2,3,"))
+  EXPECT_TRUE(lines[1].startsWith("1510,QARR,\"\"\"ARRAY\"\"\",NY,United States,N,1.0000,2,3,"))
       << lines[1].toStdString();
   EXPECT_TRUE(lines[2].endsWith(",likely,\"sky wave, pattern not known\"")) << lines[2].toStdString();
   EXPECT_EQ(lines[3], "1510,QLOC,NEAR TOWN,PA,United States,,,,,,,,,,,,,,,,,,,silent,day only");
