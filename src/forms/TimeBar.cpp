@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalBlocker>
+#include <QTimeZone>
 #include <QTimer>
 #include <algorithm>
 #include <utility>
@@ -25,7 +26,7 @@ constexpr Moment kLast = std::chrono::sys_days(std::chrono::year(LastYear + 1) /
                          std::chrono::minutes(DaySlider::MinutesOfStep);
 
 QDateTime UtcOf(Moment moment) {
-  return QDateTime::fromSecsSinceEpoch(moment.time_since_epoch().count(), Qt::UTC);
+  return QDateTime::fromSecsSinceEpoch(moment.time_since_epoch().count(), QTimeZone::utc());
 }
 
 Moment Midnight(Moment moment) {
