@@ -178,8 +178,8 @@ TEST(Monkey, BreaksNothingLosesNothingAndLeavesNothing) {
   EXPECT_GT(saved, commands / 500) << "the walk hardly left the opening screen";
   if (commands >= kCommands) ExpectEveryForm(monkey);
 
-  // What is held after the first lives are fonts and the like; each size of the map brings letters of its own,
-  // which Qt keeps: 400 to 650 KB of them in the second half of a walk.
+  // What is held after the first lives are fonts and the like; each size of the map brings letters of its
+  // own, which Qt keeps: 400 to 650 KB of them in the second half of a walk.
   const std::size_t first = held[held.size() / 2];
   constexpr std::size_t kAllowance = 1024 * 1024;
   EXPECT_LT(held.back(), first + kAllowance) << lives << " lives";
